@@ -1,0 +1,208 @@
+#include "AxSxpParameterDb.h"
+#include "AxZedParameterDbEntry.h"
+#include "BenchRecord.h"
+#include "RecordTexts.h"
+#include "record.pb.h"
+
+#include <benchmark/benchmark.h>
+#include <google/protobuf/text_format.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+
+namespace
+{
+using google::protobuf::TextFormat;
+
+constexpr int theNumRecords = 10000;
+namespace fs = std::filesystem;
+
+void writeFile(fs::path const& path, std::string const& text)
+{
+    std::ofstream stream(path, std::ios::binary);
+    stream << text;
+    if (!stream.flush())
+    {
+        throw std::runtime_error("cannot write " + path.string());
+    }
+}
+
+std::string readFile(fs::path const& path)
+{
+    std::ifstream stream(path, std::ios::binary);
+    std::string text(static_cast<std::size_t>(fs::file_size(path)), '\0');
+    stream.read(text.data(), static_cast<std::streamsize>(text.size()));
+    return text;
+}
+
+AxObjectType typeOf(int number)
+{
+    return {1, 1 + number % 5, 225, 1 + number / 1000, number / 100 % 10, number / 10 % 10, number % 10, 1};
+}
+
+std::string fileName(int number)
+{
+    return "records/record_" + std::to_string(number);
+}
+
+/// A database of 10,000 record files, once as ours and once as TextFormat, in a folder of its own for this run.
+class Databases
+{
+public:
+    Databases()
+    {
+        std::string folder = (fs::temp_directory_path() / "zedobjparam-bench-XXXXXX").string();
+        if (!mkdtemp(folder.data()))
+        {
+            throw std::runtime_error("cannot make a temporary folder");
+        }
+        myFolder = folder;
+        fs::create_directory(myFolder / "records");
+
+        peer::Record message;
+        TextFormat::ParseFromString(messageSource, &message);
+        std::string messageText;
+        TextFormat::PrintToString(message, &messageText);
+        BenchRecord record(AxSymbolString("record"), nullptr);
+        record.readText(ourSource, AxFilename("record"), AxReaderWriter::nullFilenames(),
+                        AxReaderWriter::nullVariableReference());
+        std::string ourText = record.writtenText();
+        ourText.insert(std::string("(record").size(), "\n  (parameter-type \"bench-parameters\")");
+
+        std::string entries = "(parameter-database\n  (version 101)\n  (parameter-files\n";
+        peer::Database database;
+        database.set_version(101);
+        for (int number = 0; number < theNumRecords; ++number)
+        {
+            AxObjectType const type = typeOf(number);
+            std::string const name = fileName(number);
+            entries += "    (parameter-entry\n      (object-type";
+            for (auto const field : type.fields())
+            {
+                entries += ' ' + std::to_string(field);
+            }
+            entries += ")\n      (filename \"" + name + ".ope\"))\n";
+            peer::Entry& entry = *database.add_entries();
+            entry.set_super_type(type.superType());
+            entry.set_kind(type.kind());
+            entry.set_domain(type.domain());
+            entry.set_country(type.country());
+            entry.set_category(type.category());
+            entry.set_subcategory(type.subcategory());
+            entry.set_specific(type.specific());
+            entry.set_extra(type.extra());
+            entry.set_file(name + ".textproto");
+            writeFile(myFolder / (name + ".ope"), ourText);
+            writeFile(myFolder / (name + ".textproto"), messageText);
+        }
+        writeFile(ours(), entries + "  )\n)\n");
+        std::string databaseText;
+        TextFormat::PrintToString(database, &databaseText);
+        writeFile(peers(), databaseText);
+    }
+    ~Databases()
+    {
+        std::error_code ignored;
+        fs::remove_all(myFolder, ignored);
+    }
+    Databases(Databases const&) = delete;
+    Databases& operator=(Databases const&) = delete;
+
+    static Databases& get()
+    {
+        static Databases both;
+        return both;
+    }
+
+    fs::path ours() const { return myFolder / "bench.opd"; }
+    fs::path peers() const { return myFolder / "bench.textproto"; }
+    fs::path folder() const { return myFolder; }
+
+private:
+    fs::path myFolder;
+};
+
+std::unique_ptr<AxSxpParameterDb> newDb()
+{
+    std::unique_ptr<AxSxpParameterDb> db(AxSxpParameterDb::create());
+    db->init();
+    return db;
+}
+
+void DatabaseFileOurs(benchmark::State& state)
+{
+    AxFilename const file(Databases::get().ours().string());
+    for (auto _ : state)
+    {
+        auto db = newDb();
+        if (!db->load(file) || db->numParameterEntries() != theNumRecords)
+        {
+            state.SkipWithError("the database does not load");
+        }
+    }
+    state.counters["items"] = theNumRecords;
+}
+BENCHMARK(DatabaseFileOurs)->Name("database-file/ours")->Unit(benchmark::kMillisecond);
+
+void DatabaseFileProtobuf(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        peer::Database database;
+        if (!TextFormat::ParseFromString(readFile(Databases::get().peers()), &database))
+        {
+            state.SkipWithError("TextFormat does not read");
+        }
+    }
+    state.counters["items"] = theNumRecords;
+}
+BENCHMARK(DatabaseFileProtobuf)->Name("database-file/protobuf")->Unit(benchmark::kMillisecond);
+
+void RecordFilesOurs(benchmark::State& state)
+{
+    AxFilename const file(Databases::get().ours().string());
+    for (auto _ : state)
+    {
+        auto db = newDb();
+        bool const loaded = db->loadAll(file);
+        auto const* last = dynamic_cast<BenchParameters*>(db->lookup(typeOf(theNumRecords - 1)));
+        if (!loaded || !last || last->myComponents.count() != 12)
+        {
+            state.SkipWithError("the records do not load");
+        }
+        state.PauseTiming();
+        db.reset();
+        state.ResumeTiming();
+    }
+    state.counters["items"] = theNumRecords;
+}
+BENCHMARK(RecordFilesOurs)->Name("record-files/ours")->Unit(benchmark::kMillisecond)->Iterations(1);
+
+void RecordFilesProtobuf(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        peer::Database database;
+        bool loaded = TextFormat::ParseFromString(readFile(Databases::get().peers()), &database);
+        std::vector<std::unique_ptr<peer::Record>> records;
+        for (peer::Entry const& entry : database.entries())
+        {
+            records.push_back(std::make_unique<peer::Record>());
+            std::string const text = readFile(Databases::get().folder() / entry.file());
+            loaded = TextFormat::ParseFromString(text, records.back().get()) && loaded;
+        }
+        if (!loaded)
+        {
+            state.SkipWithError("TextFormat does not read");
+        }
+        state.PauseTiming();
+        records.clear();
+        state.ResumeTiming();
+    }
+    state.counters["items"] = theNumRecords;
+}
+BENCHMARK(RecordFilesProtobuf)->Name("record-files/protobuf")->Unit(benchmark::kMillisecond)->Iterations(1);
+} // namespace

@@ -1,0 +1,90 @@
+#!/usr/bin/env python3
+"""Prints a run of the benchmarks as a table: job, ours, peer, ratio, target, met or not.
+
+    report.py RUN.json
+
+Figures are medians of processor time over the repetitions of one run, so that ratios hold where the machine's speed and
+load do not. A ratio is the peer's figure over ours: greater is better for us. Exit code 1 when a target is missed.
+"""
+
+import json
+import re
+import statistics
+import sys
+
+TO_NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+
+def figures(path):
+    runs = {}
+    with open(path, encoding="utf-8") as stream:
+        for run in json.load(stream)["benchmarks"]:
+            if run["run_type"] != "iteration":
+                continue
+            name = "/".join(run["name"].split("/")[:2])
+            if run.get("error_occurred"):
+                sys.exit(f"{name}: {run['error_message']}")
+            if "bytes" in run:
+                value = run["bytes"]
+            else:
+                value = run["cpu_time"] * TO_NANOSECONDS[run["time_unit"]] / run.get("items", 1)
+            runs.setdefault(name, []).append(value)
+    return {name: statistics.median(values) for name, values in runs.items()}
+
+
+def jobs(found):
+    """(what, our job, the peer's, least ratio or None), in the order of the table."""
+    yield "read a record", "read/ours", "read/protobuf", 5
+    yield "read a record", "read/ours", "read/json", 1
+    yield "write it", "write/ours", "write/protobuf", 6
+    yield "write it", "write/ours", "write/json", None
+    yield "copy it", "copy/ours", "copy/protobuf", 0.5
+    yield "copy it over another", "copy-again/ours", "copy-again/protobuf", None
+    yield "compare two equal ones", "compare/ours", "compare/protobuf", 15
+    yield "construct, destroy; reading it", "construct/ours", "read/ours", 5
+    yield "memory of the loaded record", "memory/ours", "memory/protobuf", 1 / 2.5
+    sizes = sorted({int(match[1]) for match in (re.match(r"lookup-exact-(\d+)/ours", name) for name in found) if match})
+    for size in sizes:
+        yield f"look-up, exact, of {size}", f"lookup-exact-{size}/ours", f"lookup-exact-{size}/map", 1
+        yield f"look-up, exact, of {size}", f"lookup-exact-{size}/ours", f"lookup-exact-{size}/walk", None
+        yield f"look-up, pattern, of {size}", f"lookup-pattern-{size}/ours", f"lookup-exact-{size}/map", 1 / 4
+        yield f"look-up, pattern, of {size}", f"lookup-pattern-{size}/ours", f"lookup-pattern-{size}/walk", None
+        yield f"look-up, miss, of {size}", f"lookup-miss-{size}/ours", f"lookup-exact-{size}/map", 1 / 4
+    if len(sizes) > 1:
+        for kind in ("exact", "pattern", "miss"):
+            least, most = f"lookup-{kind}-{sizes[0]}/ours", f"lookup-{kind}-{sizes[-1]}/ours"
+            yield f"growth of {kind}, {sizes[0]} to {sizes[-1]}", most, least, None if kind == "exact" else 1 / 2
+    for size in sizes:
+        yield f"add one of {size} entries", f"insert-{size}/ours", None, None
+    yield "load one of 10000 record files", "record-files/ours", "record-files/protobuf", 4
+    yield "database file, per entry", "database-file/ours", "database-file/protobuf", 3
+
+
+def shown(value, name):
+    if name.startswith("memory"):
+        return f"{value:.0f} B"
+    return f"{value:.1f} ns" if value < 1000 else f"{value / 1000:.2f} us"
+
+
+def main():
+    found = figures(sys.argv[1])
+    missed = 0
+    print(f"{'job':36}{'ours':>12}{'peer':>12}  {'which':30}{'ratio':>8}{'target':>8}")
+    for what, ours, peer, target in jobs(found):
+        if ours not in found or (peer and peer not in found):
+            continue
+        line = f"{what:36}{shown(found[ours], ours):>12}"
+        if peer:
+            ratio = found[peer] / found[ours]
+            line += f"{shown(found[peer], peer):>12}  {peer:30}{ratio:8.2f}"
+            if target is not None:
+                met = ratio >= target
+                missed += not met
+                line += f"{target:8.2f}  {'met' if met else 'MISSED'}"
+        print(line)
+    print(f"{missed} targets missed" if missed else "all targets met")
+    return 1 if missed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

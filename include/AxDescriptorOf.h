@@ -1,0 +1,48 @@
+#pragma once
+
+#include "AxComponentDescriptor.h"
+#include "AxRecordOf.h"
+
+/// A component descriptor's class says what it holds; this base supplies its type name, its constructors, its clone
+/// and its creator.
+///
+/// A class derives as `class AxTurretComponentDescriptor : public AxDescriptorOf<AxTurretComponentDescriptor,
+/// AxActuatorComponentDescriptor, "turret-component-descriptor">`, says `using AxDescriptorOf::AxDescriptorOf;`, and
+/// binds its members by in-class initialisers. Without a type name it keeps that of `Base`. A class whose constructor
+/// assigns defaults declares `(AxSymbolString, AxReaderWriterRegistry*)` itself, which serves all forms of names, and
+/// leaves the `using` out. Classes that are copied by value add a constructor `(Derived const& other,
+/// AxReaderWriterRegistry* registry)` that calls `assign(other)`.
+template <class Derived, class Base, AxFixedText typeName = "">
+class AxDescriptorOf : public Base
+{
+public:
+    AxDescriptorOf(AxSymbolString name, AxReaderWriterRegistry* registry) : Base(name, registry) {}
+    AxDescriptorOf(AxString const& name, AxReaderWriterRegistry* registry) : Base(AxSymbolString(name), registry) {}
+    AxDescriptorOf(char const* name, AxReaderWriterRegistry* registry) : Base(AxSymbolString(name), registry) {}
+    AxDescriptorOf(AxDescriptorOf const&) = delete;
+
+    AxDescriptorOf& operator=(AxDescriptorOf const& other)
+    {
+        this->assign(other);
+        return *this;
+    }
+
+    AxString type() const override
+    {
+        if constexpr (sizeof typeName.text == 1)
+        {
+            return Base::type();
+        }
+        else
+        {
+            return typeName.text;
+        }
+    }
+    AxComponentDescriptor* clone(AxReaderWriterRegistry* registry) const override
+    {
+        auto* made = new Derived(this->AxReaderWriter::name(), registry);
+        made->assign(*this);
+        return made;
+    }
+    static AxComponentDescriptor* creator() { return new Derived(AxSymbolString(), nullptr); }
+};

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "AxRadioDescriptor.h"
+#include "AxRwTemplatedListPtr.h"
+
+/// Radios, owned, keyed by their names.
+using AxRadioDescriptorList = AxRwTemplatedListPtr<AxRadioDescriptor, 1>;

@@ -1,0 +1,144 @@
+#pragma once
+
+#include "AxReaderWriterFactory.h"
+#include "AxStringKeyFactoryWithParam.h"
+#include "AxTextReader.h"
+#include "AxTypedListIterator.h"
+#include "AxUnknownType.h"
+#include "AxlObj.h"
+
+#include <typeinfo>
+
+/// An owning list of records of the family `T`, each element headed by the name of its class. `T` offers a static
+/// `factory()` that answers an `AxStringKeyFactoryWithParam<T, AxString const&>*` and a virtual `clone() const`.
+/// Elements whose type the factory does not know are reported and kept for writing.
+template <class T>
+class AxRwMultiTypeListTemplate : public AxRwList
+{
+public:
+    AxRwMultiTypeListTemplate() = default;
+    AxRwMultiTypeListTemplate(AxSymbolString name, AxReaderWriterRegistry* registry) : AxRwList(name, registry) {}
+    AxRwMultiTypeListTemplate(AxString const& name, AxReaderWriterRegistry* registry) : AxRwList(name, registry) {}
+    AxRwMultiTypeListTemplate(char const* name, AxReaderWriterRegistry* registry) : AxRwList(name, registry) {}
+    AxRwMultiTypeListTemplate(AxKeyword const& keyword, AxReaderWriterRegistry* registry) : AxRwList(keyword, registry)
+    {
+    }
+    AxRwMultiTypeListTemplate(AxSymbolString name, AxRwMultiTypeListTemplate const& other,
+                              AxReaderWriterRegistry* registry)
+        : AxRwList(name, other, registry)
+    {
+        copyListFrom(other);
+        carryState(other);
+    }
+    AxRwMultiTypeListTemplate(AxRwMultiTypeListTemplate const& other)
+        : AxRwMultiTypeListTemplate(other.AxReaderWriter::name(), other, nullptr)
+    {
+    }
+    ~AxRwMultiTypeListTemplate() override
+    {
+        static_cast<void>(&ourEntry);
+        clear();
+    }
+
+    AxRwMultiTypeListTemplate& operator=(AxRwMultiTypeListTemplate const& other)
+    {
+        if (this != &other)
+        {
+            clear();
+            copyListFrom(other);
+            carryState(other);
+        }
+        return *this;
+    }
+
+    using AxRwList::add;
+    /// Appends a clone and answers it. Overload resolution prefers this to the adding of a pointer that is to be owned:
+    /// use `addToEnd` for that.
+    virtual T* add(T const* element)
+    {
+        T* copy = element->clone();
+        AxRwList::addToEnd(copy);
+        return copy;
+    }
+
+    /// Deletes the elements.
+    void clear() { AxRwList::removeAndDeleteAll(); }
+    /// Appends copies of the other's elements.
+    void copyListFrom(AxRwMultiTypeListTemplate const& other)
+    {
+        for (T const* element : other)
+        {
+            AxRwList::addToEnd(element->clone());
+        }
+    }
+
+    /// Pairwise in list order, each of the same class and equal as members of a record would be.
+    bool equals(AxRwMultiTypeListTemplate const& other) const
+    {
+        if (count() != other.count())
+        {
+            return false;
+        }
+        auto right = other.begin();
+        for (T const* left : *this)
+        {
+            T const* const theirs = *right;
+            if (typeid(*left) != typeid(*theirs) || !AxReaderWriter::factory()->compareReaderWriter(left, theirs))
+            {
+                return false;
+            }
+            ++right;
+        }
+        return true;
+    }
+    bool operator==(AxRwMultiTypeListTemplate const& other) const { return equals(other); }
+
+    AxTypedListIterator<T> begin() const { return AxTypedListIterator<T>(first()); }
+    AxTypedListIterator<T> end() const { return AxTypedListIterator<T>(nullptr); }
+
+    using AxRwList::getData;
+    AxlObjPtr getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings) override
+    {
+        AxlObj const* const head = item.get()->car();
+        AxString const type(head->text());
+        auto* const families = T::factory();
+        if (T* element = families->create(type, type))
+        {
+            element->getSelf(item, files, bindings);
+            AxRwList::addToEnd(element);
+            return item;
+        }
+        std::vector<std::string_view> known;
+        for (AxString const& key : families->keys())
+        {
+            known.push_back(key.string());
+        }
+        axReportUnknownType(type.string(), head,
+                            "AxRwMultiTypeListTemplate: Cannot create content data of type \"" + type.string() + "\"\n",
+                            known);
+        keepElement(item.get());
+        return item;
+    }
+
+private:
+    static constexpr AxTypeOps typeOps()
+    {
+        AxTypeOps ops = AxTypeOps::withCreator<AxRwMultiTypeListTemplate>();
+        ops.readElement =
+            [](AxRwList& list, AxTextReader& reader, AxFilenameList const& files, AxBindingsList const& bindings)
+        {
+            std::string_view const head = reader.peekHead();
+            AxString const type(head);
+            T* const element = head.empty() ? nullptr : T::factory()->create(type, type);
+            if (!element)
+            {
+                return false;
+            }
+            reader.read(*element, files, bindings);
+            list.addToEnd(element);
+            return true;
+        };
+        return ops;
+    }
+    inline static AxTypeEntry<AxRwMultiTypeListTemplate> const ourEntry{typeOps()};
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "AxRwProperties.h"
+
+/// The variables of a script are named, typed values.
+using AxRwScriptVariablesList = AxRwProperties;

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "AxReaderWriter.h"
+#include "AxZedParameterDbEntry.h"
+
+#include <boost/shared_ptr.hpp>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+class AxSxpParameterDbFileEntry;
+
+/// An entry that knows the file of its record and reads it when the record is first asked for.
+class ZEDOBJPARAM_API AxSxpParameterDbEntry : public AxZedParameterDbEntry
+{
+public:
+    AxSxpParameterDbEntry();
+    ~AxSxpParameterDbEntry() override;
+
+    /// Reads the record from `filename()`.
+    AxZedObjectParameters* load() override;
+    /// The file name.
+    AxString uniqueIdentifier() const override;
+
+    // ---- The order of the virtual operations is part of the interface. ----
+    virtual void setFilename(AxFilename const& file);
+    virtual AxFilename const& filename() const;
+    /// Reads the record and holds it. A record that is held already stays the same object and takes the values read.
+    /// Null, one warning, and the held record untouched when there is none to be had.
+    virtual AxZedObjectParameters* loadFromFile(AxFilename const& file);
+    /// A new record from the open file of parameter text, which stays the caller's; null after a warning.
+    virtual AxZedObjectParameters* readParameterEntry(std::FILE* stream, AxEnvironmentPtr const& env,
+                                                      AxEnvValuePtr* value);
+    /// A new record from the expression `(name (parameter-type "type") item...)`; null after a warning.
+    virtual AxZedObjectParameters* loadParameters(AxlObjPtr const& object, AxEnvironmentPtr const& env,
+                                                  AxEnvValuePtr* value);
+    /// The directory that the file name is relative to besides the search paths.
+    virtual void setPath(AxFilename const& path);
+    virtual AxFilename const& path() const;
+    virtual void setVersion(int version);
+    virtual void setVariableBindings(boost::shared_ptr<AxRwVariableBindings> const& bindings);
+    virtual boost::shared_ptr<AxRwVariableBindings> variableBindings() const;
+    /// Searched first, in order.
+    virtual std::vector<AxFilename> const& searchPaths() const;
+    virtual void setSearchPaths(std::vector<AxFilename> const& paths);
+    // ---- End of the virtual operations. ----
+
+    /// Version of the database file that the entry was loaded from; 101 for one that was not.
+    int version() const { return myVersion; }
+    /// The directory of that file, null for an entry that was not loaded from one.
+    AxFilename const& databaseDirectory() const { return myDatabaseDirectory; }
+    void setDatabaseDirectory(AxFilename const& directory) { myDatabaseDirectory = directory; }
+    /// Where the record's file is found now: along the search paths, the path, the database's directory, as named.
+    /// Null when it is nowhere.
+    AxFilename foundFilename() const;
+    /// The entry as it stood in the database file, when it holds more than type and plain file name: variables in the
+    /// name, items that were not understood. Null for others.
+    AxSxpParameterDbFileEntry const* fileEntry() const { return myFileEntry.get(); }
+    void setFileEntry(AxSxpParameterDbFileEntry const& entry);
+
+private:
+    std::vector<AxFilename> directories() const;
+    AxZedObjectParameters* readTextFile(AxFilename const& file);
+    AxZedObjectParameters* readEntityFile(AxFilename const& file);
+    AxZedObjectParameters* hold(AxZedObjectParameters* record);
+
+    AxFilename myFilename;
+    AxFilename myPath;
+    int myVersion;
+    boost::shared_ptr<AxRwVariableBindings> myVariableBindings;
+    std::vector<AxFilename> mySearchPaths;
+    AxFilename myDatabaseDirectory;
+    AxFilename myReading; // the file found, while it is read
+    std::unique_ptr<AxSxpParameterDbFileEntry> myFileEntry;
+    bool myIsLoading = false;
+};

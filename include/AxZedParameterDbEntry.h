@@ -1,0 +1,52 @@
+#pragma once
+
+#include "AxExport.h"
+#include "AxObjectType.h"
+#include "AxString.h"
+
+class AxListItem;
+class AxZedObjectParameters;
+class AxZedParameterDb;
+
+/// One line of a parameter database: an object type or pattern, and the record that serves it.
+///
+/// The entry owns its record. While a database holds the entry, the database owns the entry.
+class ZEDOBJPARAM_API AxZedParameterDbEntry
+{
+public:
+    AxZedParameterDbEntry() = default;
+    AxZedParameterDbEntry(AxZedParameterDbEntry const&) = delete;
+    AxZedParameterDbEntry& operator=(AxZedParameterDbEntry const&) = delete;
+
+    // ---- The order of the virtual operations is part of the interface. ----
+    /// Deletes the record; an entry that a database holds leaves it.
+    virtual ~AxZedParameterDbEntry();
+    virtual void setObjectType(AxObjectType const& type);
+    virtual AxObjectType const& objectType() const;
+    /// Takes ownership of `parameters`. A record held before is not deleted: replacing one is the caller's business.
+    virtual void setParameters(AxZedObjectParameters* parameters);
+    /// The record, null until one is set or loaded.
+    virtual AxZedObjectParameters* parameters() const;
+    /// Brings the record in when it lives elsewhere; null when that fails. Here: the record that is held.
+    virtual AxZedObjectParameters* load();
+    /// Here: the type's fields joined by ":".
+    virtual AxString uniqueIdentifier() const;
+    // ---- End of the virtual operations. ----
+
+    /// A mark for entries that were added for the run only; such entries are not saved.
+    bool temporary() const { return myTemporary; }
+    void setTemporary(bool temporary) { myTemporary = temporary; }
+    /// Whether the type is a pattern that is meant to serve many types; said by whoever adds the entry.
+    bool typeIsMatchType() const { return myTypeIsMatchType; }
+    void setTypeIsMatchType(bool isMatchType) { myTypeIsMatchType = isMatchType; }
+
+private:
+    friend class AxZedParameterDb;
+
+    AxObjectType myObjectType;
+    AxZedObjectParameters* myParameters = nullptr;
+    AxZedParameterDb* myHolder = nullptr;
+    AxListItem* myItem = nullptr; // null while the holder keeps the entry outside its list
+    bool myTemporary = false;
+    bool myTypeIsMatchType = false;
+};

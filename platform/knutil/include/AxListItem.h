@@ -1,0 +1,29 @@
+#pragma once
+
+#include "AxExport.h"
+
+/// A place in an AxList. Made and destroyed by the list alone; lives until it is removed or the list ends.
+class ZEDOBJPARAM_API AxListItem
+{
+public:
+    AxListItem(AxListItem const&) = delete;
+    AxListItem& operator=(AxListItem const&) = delete;
+
+    /// Neighbours in the list, null at its ends.
+    AxListItem* next() const { return myNext; }
+    AxListItem* previous() const { return myPrevious; }
+
+    /// What the item stands for; never owned by the list.
+    void* data() const { return myData; }
+    void setData(void* data) { myData = data; }
+
+private:
+    friend class AxList;
+
+    AxListItem(AxListItem* previous, AxListItem* next, void* data) : myPrevious(previous), myNext(next), myData(data) {}
+    ~AxListItem() = default;
+
+    AxListItem* myPrevious;
+    AxListItem* myNext;
+    void* myData;
+};

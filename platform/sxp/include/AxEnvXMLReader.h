@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string_view>
+
+#include "AxEnvironment.h"
+#include "AxExport.h"
+#include "AxFilename.h"
+
+/// XML into an environment tree: element to object, attribute "name" to its name, text to a plain value. Blanks between
+/// elements are dropped; an element with any other text, or with a CDATA section, keeps all of it. Neighbouring text
+/// and CDATA are one value. Prefixes stay part of the tag.
+///
+/// Encodings are UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252. A document type declaration is dropped with a
+/// warning; entity declarations are refused and nothing outside the text is ever opened.
+///
+/// Every failure answers null, sets `*ok` (which may be null) to false and is reported once with its place.
+class ZEDOBJPARAM_API AxEnvXMLReader
+{
+public:
+    static AxEnvironmentPtr readFile(AxFilename const& file, bool* ok = nullptr);
+    /// `name` stands for the file in reports.
+    static AxEnvironmentPtr readText(std::string_view text, AxFilename const& name, bool* ok = nullptr);
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+#include "AxExport.h"
+
+struct AxDiagnostic;
+
+/// Text that breaks the grammar of cells. Thrown by AxcRead; it ends inside the library.
+class ZEDOBJPARAM_API AxlSyntaxError : public std::exception
+{
+public:
+    /// `code` must live for ever.
+    AxlSyntaxError(char const* code, std::string text, std::uint32_t line, std::uint32_t column);
+    AxlSyntaxError(AxlSyntaxError const&);
+    AxlSyntaxError& operator=(AxlSyntaxError const&) = delete;
+    ~AxlSyntaxError() override;
+
+    char const* what() const noexcept override { return myText.c_str(); }
+    /// "unclosed-list", "unclosed-string", "stray-parenthesis", "control-byte", "nesting-limit" or "token-limit".
+    char const* code() const { return myCode; }
+    std::string const& text() const { return myText; }
+    /// Place of the fault; for something left open, of its beginning.
+    std::uint32_t line() const { return myLine; }
+    std::uint32_t column() const { return myColumn; }
+
+    /// As an error in the file of the innermost AxSourceScope.
+    AxDiagnostic diagnostic() const;
+
+private:
+    char const* myCode;
+    std::string myText;
+    std::uint32_t myLine;
+    std::uint32_t myColumn;
+};

@@ -1,0 +1,66 @@
+#include "AxEnvList.h"
+
+#include <algorithm>
+
+#include "AxEnvObject.h"
+
+AxEnvList::~AxEnvList()
+{
+    removeAll();
+}
+
+bool AxEnvList::add(AxEnvValuePtr const& child)
+{
+    return insert(myChildren.size(), child);
+}
+
+bool AxEnvList::insert(std::size_t index, AxEnvValuePtr const& child)
+{
+    if (child == nullptr)
+    {
+        return false;
+    }
+    for (AxEnvValue const* above = this; above != nullptr; above = above->myParent)
+    {
+        if (above == child.get())
+        {
+            return false;
+        }
+    }
+    AxEnvValuePtr kept = child;
+    if (kept->myParent != nullptr)
+    {
+        auto* former = static_cast<AxEnvList*>(kept->myParent);
+        if (!former->remove(kept) && former->isObject())
+        {
+            static_cast<AxEnvObject*>(former)->removeAttribute(kept);
+        }
+    }
+    auto place = static_cast<std::ptrdiff_t>(std::min(index, myChildren.size()));
+    myChildren.insert(myChildren.begin() + place, kept);
+    kept->myParent = this;
+    return true;
+}
+
+bool AxEnvList::remove(AxEnvValuePtr const& child)
+{
+    auto found = std::find(myChildren.begin(), myChildren.end(), child);
+    if (found == myChildren.end())
+    {
+        return false;
+    }
+    // The list may hold the last reference, and `child` may be the list's own.
+    AxEnvValuePtr kept = *found;
+    myChildren.erase(found);
+    kept->myParent = nullptr;
+    return true;
+}
+
+void AxEnvList::removeAll()
+{
+    for (AxEnvValuePtr const& child : myChildren)
+    {
+        child->myParent = nullptr;
+    }
+    myChildren.clear();
+}

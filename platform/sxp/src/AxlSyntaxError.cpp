@@ -1,0 +1,23 @@
+#include "AxlSyntaxError.h"
+
+#include <utility>
+
+#include "AxDiagnostic.h"
+
+AxlSyntaxError::AxlSyntaxError(char const* code, std::string text, std::uint32_t line, std::uint32_t column)
+    : myCode(code), myText(std::move(text)), myLine(line), myColumn(column)
+{
+}
+
+AxlSyntaxError::AxlSyntaxError(AxlSyntaxError const&) = default;
+AxlSyntaxError::~AxlSyntaxError() = default;
+
+AxDiagnostic AxlSyntaxError::diagnostic() const
+{
+    AxDiagnostic diagnostic;
+    diagnostic.code = myCode;
+    diagnostic.line = myLine;
+    diagnostic.column = myColumn;
+    diagnostic.text = myText;
+    return diagnostic;
+}

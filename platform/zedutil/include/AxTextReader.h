@@ -1,0 +1,54 @@
+#pragma once
+
+#include "AxReaderWriterFactory.h"
+#include "AxlInputStream.h"
+
+#include <string_view>
+
+/// Reads records straight from characters into their members. Cells are made only for what needs them: values in an
+/// unusual shape, items that no member takes, and classes that override a hook of cells. What it reads, keeps and
+/// reports is what `getSelf` does with the cells of the same text.
+class ZEDOBJPARAM_API AxTextReader
+{
+public:
+    /// The stream stands where reading begins, and is moved on.
+    explicit AxTextReader(AxlInputStream& stream);
+
+    /// Reads one object, at its opening parenthesis. False, and nothing taken, when its class needs cells.
+    /// Throws AxlSyntaxError.
+    bool readObject(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings);
+    /// Reads one object either way.
+    void read(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings);
+
+    /// The head of the list that begins here, when it is a bare word; empty otherwise. Takes nothing.
+    std::string_view peekHead();
+    /// The text of the second element of the second element of the list that begins here, when it is a plain string
+    /// behind a bare word: the type item of a descriptor or record. Empty otherwise. Takes nothing.
+    std::string_view peekType();
+
+    /// True when the text ended inside a list; the innermost one that was open began at line and column.
+    bool unclosed() const { return myUnclosed; }
+    std::uint32_t unclosedLine() const { return myLine; }
+    std::uint32_t unclosedColumn() const { return myColumn; }
+
+private:
+    void readItems(AxReaderWriter& rw, char const* open, AxFilenameList const& files, AxBindingsList const& bindings);
+    void readElements(AxReaderWriter& rw, char const* open, AxFilenameList const& files,
+                      AxBindingsList const& bindings);
+    bool readMember(AxReaderWriter& member, AxTypeInfo::Reading reading, AxFilenameList const& files,
+                    AxBindingsList const& bindings);
+    /// The list that begins at `from`, as cells; goes on behind it.
+    AxlObjPtr cellsAt(char const* from);
+    void skipBlanks();
+    bool closes();
+    bool scanReal(double& value);
+    void noteUnclosed(char const* open);
+
+    AxlInputStream& myStream;
+    char const* myBegin;
+    char const* myEnd; // a zero byte
+    char const* myAt;
+    bool myUnclosed = false;
+    std::uint32_t myLine = 0;
+    std::uint32_t myColumn = 0;
+};

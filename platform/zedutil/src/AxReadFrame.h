@@ -1,0 +1,47 @@
+#pragma once
+
+#include "AxReaderWriter.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+/// One record that is being read: where messages say what they are in, and what of it was met already.
+struct AxReadFrame
+{
+    explicit AxReadFrame(AxReaderWriter& itsRecord) : record(itsRecord), outer(innermost) { innermost = this; }
+    AxReadFrame(AxReadFrame const&) = delete;
+    AxReadFrame& operator=(AxReadFrame const&) = delete;
+    ~AxReadFrame() { innermost = outer; }
+
+    /// Marks the member at `place`; true when it was marked before.
+    bool markSeen(std::size_t place)
+    {
+        std::uint64_t& word = place < few.size() * 64 ? few[place / 64] : wordOfMany(place / 64 - few.size());
+        std::uint64_t const bit = std::uint64_t{1} << (place % 64);
+        bool const before = (word & bit) != 0;
+        word |= bit;
+        return before;
+    }
+    /// The names of the records from the outermost in, joined by "/".
+    static std::string path();
+
+    AxReaderWriter& record;
+    AxReadFrame* outer;
+    std::size_t next = 0;  ///< the member that the next item is likely to name
+    AxSymbolString last{}; ///< the member read last
+    std::array<std::uint64_t, 4> few{};
+    std::vector<std::uint64_t> many{};
+
+    static AxReadFrame* innermost;
+
+private:
+    std::uint64_t& wordOfMany(std::size_t index)
+    {
+        if (many.size() <= index)
+        {
+            many.resize(index + 1);
+        }
+        return many[index];
+    }
+};

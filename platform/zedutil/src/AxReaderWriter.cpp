@@ -1,0 +1,552 @@
+#include "AxReaderWriter.h"
+
+#include "AxPlainValue.h"
+#include "AxReaderWriterFactory.h"
+#include "AxRegistryShape.h"
+#include "AxRwList.h"
+
+#include <algorithm>
+#include <boost/filesystem/operations.hpp>
+#include <cstring>
+
+namespace
+{
+std::uint32_t ourStamp = 0;
+
+std::function<double()>& timeSource()
+{
+    static auto* const source = new std::function<double()>;
+    return *source;
+}
+
+AxFilename& applicationPath()
+{
+    static auto* const path = new AxFilename;
+    return *path;
+}
+} // namespace
+
+AxReaderWriter::Rest::Rest(AxReaderWriter* owner, AxSymbolString itsName) : name(itsName), registry(owner) {}
+
+AxReaderWriter::Rest::~Rest() = default;
+
+AxReaderWriter::AxReaderWriter(AxSymbolString name, AxReaderWriterRegistry* registry, bool specified)
+    : myNameOrRest(reinterpret_cast<std::uintptr_t>(name.id())),
+      myFlags(specified ? static_cast<std::uint16_t>(Specified) : std::uint16_t{0})
+{
+    enter(registry);
+}
+
+AxReaderWriter::AxReaderWriter(AxString const& name, AxReaderWriterRegistry* registry, bool specified)
+    : AxReaderWriter(AxSymbolString(name), registry, specified)
+{
+}
+
+AxReaderWriter::AxReaderWriter(char const* name, AxReaderWriterRegistry* registry, bool specified)
+    : AxReaderWriter(AxSymbolString(name), registry, specified)
+{
+}
+
+AxReaderWriter::AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, bool specified)
+    : myNameOrRest(0), myFlags(specified ? static_cast<std::uint16_t>(Specified) : std::uint16_t{0})
+{
+    if (registry)
+    {
+        registry->bind(*this, keyword);
+    }
+    else
+    {
+        myNameOrRest = reinterpret_cast<std::uintptr_t>(AxSymbolString(keyword.text).id());
+    }
+}
+
+AxReaderWriter::AxReaderWriter(AxSymbolString name, AxReaderWriter const& other, AxReaderWriterRegistry* registry)
+    : AxReaderWriter(name, registry)
+{
+    carryState(other);
+}
+
+AxReaderWriter::AxReaderWriter(AxReaderWriter const& other) : AxReaderWriter(other.AxReaderWriter::name(), nullptr)
+{
+    carryState(other);
+}
+
+AxReaderWriter::~AxReaderWriter()
+{
+    if (myOwnerDistance != 0)
+    {
+        inPlaceOwner()->restOrNull()->registry.leave(this);
+    }
+    if (Rest* const mine = restOrNull())
+    {
+        if (mine->parent)
+        {
+            mine->parent->removeEntry(this);
+        }
+        delete mine;
+    }
+}
+
+AxReaderWriter* AxReaderWriter::inPlaceOwner() const
+{
+    return reinterpret_cast<AxReaderWriter*>(reinterpret_cast<std::uintptr_t>(this) -
+                                             myOwnerDistance * std::uintptr_t{8});
+}
+
+AxReaderWriter::Rest& AxReaderWriter::makeRest()
+{
+    auto* const made = new Rest(this, AxSymbolString::fromId(reinterpret_cast<void const*>(myNameOrRest)));
+    myNameOrRest = reinterpret_cast<std::uintptr_t>(made) | 1U;
+    return *made;
+}
+
+AxReaderWriter::Rare& AxReaderWriter::rare()
+{
+    Rest& mine = rest();
+    if (!mine.rare)
+    {
+        mine.rare = std::make_unique<Rare>();
+    }
+    return *mine.rare;
+}
+
+AxReaderWriter::Rare const* AxReaderWriter::rareOrNull() const
+{
+    Rest const* const mine = restOrNull();
+    return mine ? mine->rare.get() : nullptr;
+}
+
+void AxReaderWriter::enter(AxReaderWriterRegistry* registry)
+{
+    if (registry)
+    {
+        registry->addEntry(AxReaderWriter::name(), this);
+    }
+}
+
+AxReaderWriterRegistry* AxReaderWriter::parentRegistry() const
+{
+    if (myOwnerDistance != 0)
+    {
+        return &inPlaceOwner()->restOrNull()->registry;
+    }
+    Rest const* const mine = restOrNull();
+    return mine ? mine->parent : nullptr;
+}
+
+AxKeyword const* AxReaderWriter::description() const
+{
+    AxReaderWriterRegistry const* const registry = parentRegistry();
+    return registry ? registry->description(this) : nullptr;
+}
+
+AxSymbolString AxReaderWriter::name() const
+{
+    Rest const* const mine = restOrNull();
+    return mine ? mine->name : AxSymbolString::fromId(reinterpret_cast<void const*>(myNameOrRest));
+}
+
+void AxReaderWriter::setName(AxString const& name)
+{
+    AxSymbolString const symbol(name);
+    AxReaderWriterRegistry* const registry = parentRegistry();
+    if (registry)
+    {
+        registry->removeEntry(this);
+        myOwnerDistance = 0;
+    }
+    if (Rest* const mine = restOrNull())
+    {
+        mine->name = symbol;
+    }
+    else
+    {
+        myNameOrRest = reinterpret_cast<std::uintptr_t>(symbol.id());
+    }
+    enter(registry);
+}
+
+void AxReaderWriter::setValueSpecified(bool specified, bool ownOnly)
+{
+    setFlag(Specified, specified);
+    if (AxReaderWriterRegistry* const members = ownOnly ? nullptr : registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            AxRegistryEntry const entry = members->entry(i);
+            if (!entry.content)
+            {
+                entry.member->setValueSpecified(specified, false);
+            }
+        }
+    }
+}
+
+bool AxReaderWriter::valueSpecified() const
+{
+    return flag(Specified);
+}
+
+void AxReaderWriter::addAlias(AxString const& alias)
+{
+    AxReaderWriter::addAlias(AxSymbolString(alias));
+}
+
+void AxReaderWriter::addAlias(AxSymbolString alias)
+{
+    if (!alias.isNull() && !AxReaderWriter::hasAlias(alias))
+    {
+        rare().aliases.push_back(alias);
+    }
+}
+
+bool AxReaderWriter::hasAlias(AxSymbolString alias) const
+{
+    Rare const* const mine = rareOrNull();
+    return mine && std::find(mine->aliases.begin(), mine->aliases.end(), alias) != mine->aliases.end();
+}
+
+std::vector<AxSymbolString> const& AxReaderWriter::aliases() const
+{
+    static std::vector<AxSymbolString> const none;
+    Rare const* const mine = rareOrNull();
+    return mine ? mine->aliases : none;
+}
+
+void AxReaderWriter::setReadonly(bool readonly)
+{
+    setFlag(Readonly, readonly);
+}
+
+void AxReaderWriter::reset()
+{
+    if (AxReaderWriterRegistry* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            AxRegistryEntry const entry = members->entry(i);
+            if (!entry.content)
+            {
+                entry.member->reset();
+            }
+        }
+    }
+    dropReference();
+    dropKeptItems();
+    setFlag(Specified, false);
+    setFlag(Invalid, false);
+    stamp();
+}
+
+int AxReaderWriter::alignment() const
+{
+    return static_cast<int>(alignof(std::max_align_t));
+}
+
+void AxReaderWriter::setDefaultRWValue(AxReaderWriter* value)
+{
+    if (value || rareOrNull())
+    {
+        rare().defaultValue.reset(value);
+    }
+}
+
+AxReaderWriter* AxReaderWriter::defaultRWValue()
+{
+    Rare const* const mine = rareOrNull();
+    return mine ? mine->defaultValue.get() : nullptr;
+}
+
+AxReaderWriter const* AxReaderWriter::defaultRWValue() const
+{
+    Rare const* const mine = rareOrNull();
+    return mine ? mine->defaultValue.get() : nullptr;
+}
+
+void AxReaderWriter::noteInitialValue(void const* bytes, std::size_t size)
+{
+    if (myOwnerDistance != 0)
+    {
+        AxRegistryShape& shape = *inPlaceOwner()->restOrNull()->registry.myShape;
+        if (shape.initialSize == 0 && size <= sizeof shape.initial)
+        {
+            std::memcpy(shape.initial, bytes, size);
+            shape.initialSize = size;
+        }
+        if (shape.initialSize == size && std::memcmp(shape.initial, bytes, size) == 0)
+        {
+            return;
+        }
+    }
+    auto const* const first = static_cast<unsigned char const*>(bytes);
+    rare().initial.assign(first, first + size);
+}
+
+bool AxReaderWriter::initialValue(void* bytes, std::size_t size) const
+{
+    if (Rare const* const mine = rareOrNull(); mine && mine->initial.size() == size)
+    {
+        std::memcpy(bytes, mine->initial.data(), size);
+        return true;
+    }
+    if (myOwnerDistance == 0)
+    {
+        return false;
+    }
+    AxReaderWriterRegistry const& registry = inPlaceOwner()->restOrNull()->registry;
+    for (AxRegistryTable::Slot const& slot : registry.table().slots)
+    {
+        if (registry.at(slot.distance) == this && slot.shape->initialSize == size)
+        {
+            std::memcpy(bytes, slot.shape->initial, size);
+            return true;
+        }
+    }
+    return false;
+}
+
+void AxReaderWriter::stamp()
+{
+    if (timeSource())
+    {
+        rare().stamp = timeSource()();
+        return;
+    }
+    myStamp = ++ourStamp;
+}
+
+void AxReaderWriter::setTimeSource(std::function<double()> source)
+{
+    timeSource() = std::move(source);
+}
+
+double AxReaderWriter::recordUpdateTime() const
+{
+    Rare const* const mine = rareOrNull();
+    double latest = std::max(static_cast<double>(myStamp), mine ? mine->stamp : 0.0);
+    if (AxReaderWriterRegistry const* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            latest = std::max(latest, members->entry(i).member->recordUpdateTime());
+        }
+    }
+    if (flag(List))
+    {
+        for (AxListItem const* item = static_cast<AxRwList const*>(this)->first(); item; item = item->next())
+        {
+            latest = std::max(latest, AxRwList::element(item)->recordUpdateTime());
+        }
+    }
+    return latest;
+}
+
+bool AxReaderWriter::wasUpdatedSince(double time) const
+{
+    return recordUpdateTime() > time;
+}
+
+AxRwProperty const* AxReaderWriter::property() const
+{
+    return nullptr;
+}
+
+AxRwProperty* AxReaderWriter::property()
+{
+    return nullptr;
+}
+
+char const* AxReaderWriter::readerWriterType() const
+{
+    return "AxReaderWriter";
+}
+
+char const* AxReaderWriter::xmlType() const
+{
+    return "readerWriter";
+}
+
+void AxReaderWriter::carryState(AxReaderWriter const& other)
+{
+    constexpr std::uint16_t carried = Specified | Inherited | VariableReference | VariableBound | KeepsItems;
+    std::uint16_t const before = myFlags;
+    myFlags = static_cast<std::uint16_t>((myFlags & ~carried) | (other.myFlags & carried));
+    if (((before | other.myFlags) & (VariableReference | KeepsItems)) != 0)
+    {
+        Rare& mine = rare();
+        if (Rare const* const theirs = other.rareOrNull())
+        {
+            mine.variableName = theirs->variableName;
+            mine.written = theirs->written;
+            mine.kept = theirs->kept;
+            adoptKeptItems(other);
+        }
+        else
+        {
+            mine.variableName = AxSymbolString();
+            mine.written.clear();
+            mine.kept.clear();
+        }
+    }
+    stamp();
+}
+
+void AxReaderWriter::adoptKeptItems(AxReaderWriter const& other)
+{
+    for (AxKeptItem& item : rare().kept)
+    {
+        if (item.replaces)
+        {
+            AxReaderWriter const* const mine = registry()->lookup(item.after);
+            item.stamp = mine && other.standsFor(item) ? mine->myStamp : ourStamp + 1;
+        }
+    }
+}
+
+bool AxReaderWriter::standsFor(AxKeptItem const& item) const
+{
+    AxReaderWriterRegistry const* const members = item.replaces ? registryIfAny() : nullptr;
+    AxReaderWriter const* const member = members ? members->lookup(item.after) : nullptr;
+    return member && member->myStamp == item.stamp;
+}
+
+AxReaderWriter& AxReaderWriter::operator=(AxReaderWriter const& other)
+{
+    assign(other);
+    return *this;
+}
+
+void AxReaderWriter::assign(AxReaderWriter const& other)
+{
+    if (this == &other)
+    {
+        return;
+    }
+    AxReaderWriterRegistry* const mine = registryIfAny();
+    AxReaderWriterRegistry const* const theirs = other.registryIfAny();
+    if (mine && theirs)
+    {
+        if (mine->myShape == theirs->myShape)
+        {
+            for (AxRegistryTable::Slot const& slot : mine->table().slots)
+            {
+                AxReaderWriter& to = *mine->at(slot.distance);
+                AxReaderWriter const& from = *theirs->at(slot.distance);
+                AxTypeInfo::Reading const reading = slot.infoOf(from).reading;
+                if (AxPlainValue::isPlain(reading))
+                {
+                    AxPlainValue::copy(reading, to, from);
+                }
+                else
+                {
+                    AxReaderWriterFactory::copyByType(to, from);
+                }
+            }
+        }
+        std::size_t const shared = mine->myShape == theirs->myShape ? mine->table().slots.size() : 0;
+        for (std::size_t i = shared; i < mine->size(); ++i)
+        {
+            AxRegistryEntry const entry = mine->entry(i);
+            AxReaderWriter const* const source = entry.content ? nullptr : theirs->find(entry.keyword);
+            if (source)
+            {
+                factory()->copyReaderWriter(source, entry.member);
+            }
+        }
+    }
+    carryState(other);
+}
+
+bool AxReaderWriter::operator==(AxReaderWriter const& other) const
+{
+    AxReaderWriterRegistry const* const mine = registryIfAny();
+    AxReaderWriterRegistry const* const theirs = other.registryIfAny();
+    if (!mine || !theirs)
+    {
+        return (mine ? mine->comparedCount() : 0) == (theirs ? theirs->comparedCount() : 0);
+    }
+    return *mine == *theirs;
+}
+
+bool AxReaderWriter::hasChild(AxReaderWriter const* child) const
+{
+    if (AxReaderWriterRegistry const* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            AxReaderWriter const* const member = members->entry(i).member;
+            if (member == child || member->hasChild(child))
+            {
+                return true;
+            }
+        }
+    }
+    if (flag(List))
+    {
+        for (AxListItem const* item = static_cast<AxRwList const*>(this)->first(); item; item = item->next())
+        {
+            AxReaderWriter const* const element = AxRwList::element(item);
+            if (element == child || element->hasChild(child))
+            {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+std::vector<std::pair<AxSymbolString, std::string>> AxReaderWriter::keptItems() const
+{
+    std::vector<std::pair<AxSymbolString, std::string>> items;
+    if (flag(KeepsItems))
+    {
+        for (AxKeptItem const& item : rareOrNull()->kept)
+        {
+            items.emplace_back(item.after, item.text);
+        }
+    }
+    return items;
+}
+
+void AxReaderWriter::keepItem(AxSymbolString after, std::string text)
+{
+    rare().kept.push_back({after, std::move(text)});
+    setFlag(KeepsItems, true);
+}
+
+void AxReaderWriter::dropKeptItems()
+{
+    if (flag(KeepsItems))
+    {
+        rare().kept.clear();
+        setFlag(KeepsItems, false);
+    }
+}
+
+AxFilename AxReaderWriter::appPath()
+{
+    AxFilename& path = applicationPath();
+    if (path.isNull())
+    {
+        boost::system::error_code ignored;
+        path = AxFilename(boost::filesystem::current_path(ignored).string());
+    }
+    return path;
+}
+
+void AxReaderWriter::setAppPath(AxFilename const& path)
+{
+    applicationPath() = path;
+}
+
+AxBindingsList const& AxReaderWriter::nullVariableReference()
+{
+    static AxBindingsList const none;
+    return none;
+}
+
+AxFilenameList const& AxReaderWriter::nullFilenames()
+{
+    static AxFilenameList const none;
+    return none;
+}

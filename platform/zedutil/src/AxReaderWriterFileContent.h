@@ -1,0 +1,56 @@
+#pragma once
+
+#include "AxReaderWriterFile.h"
+
+#include <functional>
+
+/// What a file member knows of the object that its file is read into.
+struct AxReaderWriterFile::Content
+{
+    void takeMark()
+    {
+        mark = object->recordUpdateTime();
+        isChangedForSure = false;
+        hasDigest = false;
+    }
+    bool isChanged()
+    {
+        if (isChangedForSure || object->recordUpdateTime() <= mark)
+        {
+            return isChangedForSure;
+        }
+        if (!hasDigest || digest != digestNow())
+        {
+            return true;
+        }
+        mark = object->recordUpdateTime();
+        return false;
+    }
+    /// The state of the member that this one is copied from. A content with a keyword of its own is copied apart from
+    /// its file member, which cannot be told from an edit but by what is in it.
+    void carryChange(Content& other, bool otherIsChanged, bool isCopiedApart)
+    {
+        isChangedForSure = otherIsChanged;
+        if (!otherIsChanged && isCopiedApart)
+        {
+            if (!other.hasDigest)
+            {
+                other.digest = other.digestNow();
+                other.hasDigest = true;
+            }
+            digest = other.digest;
+            hasDigest = true;
+        }
+    }
+    std::size_t digestNow() const { return std::hash<std::string>()(object->writtenText(true)); }
+    void reportIfInline(AxReaderWriterFile const& member, AxlObj const* place) const;
+
+    AxReaderWriter* object = nullptr;
+    bool isEnabled = true;
+    bool isChangedForSure = false;
+    bool hasDigest = false;
+    std::size_t digest = 0;
+    double mark = 0.0;
+    AxFilename found;           ///< the file read last
+    AxFilenameList searchPaths; ///< of a name that waits for its variables
+};

@@ -1,0 +1,344 @@
+#include "AxDiagnostic.h"
+#include "AxReadFrame.h"
+#include "AxReaderWriter.h"
+#include "AxReaderWriterFactory.h"
+#include "AxRegistryShape.h"
+#include "AxRwList.h"
+#include "AxTextReader.h"
+#include "AxlFunctions.h"
+#include "AxlInputStream.h"
+#include "AxlPrint.h"
+#include "AxlSyntaxError.h"
+
+#include <algorithm>
+#include <boost/make_shared.hpp>
+#include <exception>
+
+AxReadFrame* AxReadFrame::innermost = nullptr;
+
+namespace
+{
+/// The list that is being read, for faults that have no token of their own.
+AxlObj const* ourItem = AxlObj::nilCell();
+
+/// The list is forgotten when it is read: it may not live longer.
+class ItemScope
+{
+public:
+    explicit ItemScope(AxlObj const* list) : myOuter(ourItem) { ourItem = list; }
+    ItemScope(ItemScope const&) = delete;
+    ItemScope& operator=(ItemScope const&) = delete;
+    ~ItemScope() { ourItem = myOuter; }
+
+private:
+    AxlObj const* myOuter;
+};
+
+std::string printed(AxlObj const* cell)
+{
+    std::string text;
+    axAppendCell(text, cell);
+    return text;
+}
+
+/// What was found, short enough for a message.
+std::string found(AxlObj const* cell)
+{
+    if (cell->tag() == AxlObj::Tag::Nil)
+    {
+        return "nothing";
+    }
+    std::string text = printed(cell);
+    constexpr std::size_t longest = 40;
+    if (text.size() > longest)
+    {
+        text.resize(longest);
+        text += "...";
+    }
+    return text;
+}
+
+AxDiagnostic diagnostic(AxSeverity severity, char const* code, AxlObj const* place, std::string text)
+{
+    if (place->line() == 0)
+    {
+        place = ourItem;
+    }
+    AxDiagnostic made;
+    made.severity = severity;
+    made.code = code;
+    made.file = AxSourceScope::currentFile().string().string();
+    made.line = place->line();
+    made.column = place->column();
+    made.path = AxReadFrame::path();
+    made.text = std::move(text);
+    return made;
+}
+
+/// Offers an item to the one hook there is for unknown ones, which takes a tree.
+bool isConsumed(AxReaderWriter& record, AxlObj const* item, std::string const& word, AxFilenameList const& files,
+                AxBindingsList const& bindings)
+{
+    AxEnvironmentPtr const env = boost::make_shared<AxEnvironment>();
+    AxEnvValuePtr const node = env->addObject(AxString(word), AxString("item"));
+    for (AxlObj const* rest = item->cdr(); rest->tag() == AxlObj::Tag::Pair; rest = rest->cdr())
+    {
+        env->addValue(AxString(printed(rest->car())), node);
+    }
+    return record.unrecognizedItem(env, node, files, bindings);
+}
+} // namespace
+
+std::string AxReadFrame::path()
+{
+    std::string text;
+    for (AxReadFrame const* frame = innermost; frame; frame = frame->outer)
+    {
+        std::string_view const name = frame->record.AxReaderWriter::name().view();
+        if (!name.empty())
+        {
+            text = text.empty() ? std::string(name) : std::string(name) + '/' + text;
+        }
+    }
+    return text;
+}
+
+void AxReaderWriter::getSelf(AxlObjPtr const& expression, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    preGetSelf();
+    AxlObj const* const list = expression.get();
+    ItemScope const scope(list);
+    setFlag(Invalid, false);
+    if (list->tag() != AxlObj::Tag::Pair)
+    {
+        setFlag(Invalid, true);
+        AxDiagnostics::report(
+            diagnostic(AxSeverity::Error, "not-a-list", list, "expected a list (name item...), found " + found(list)));
+        postGetSelf();
+        return;
+    }
+    takeHead(list->car());
+    dropReference();
+    AxlObj const* const items = list->cdr();
+    if (!readReference(items, files, bindings))
+    {
+        dropKeptItems();
+        readBody(items, files, bindings);
+    }
+    if (!flag(Rejected))
+    {
+        setFlag(Specified, true);
+        setFlag(Inherited, false);
+        stamp();
+    }
+    postGetSelf();
+}
+
+void AxReaderWriter::takeHead(AxlObj const* head)
+{
+    if (head->tag() == AxlObj::Tag::Symbol || head->tag() == AxlObj::Tag::String)
+    {
+        if (AxReaderWriter::name().isNull() && !head->text().empty())
+        {
+            AxReaderWriter::setName(AxString(head->text()));
+        }
+        return;
+    }
+    AxDiagnostics::report(diagnostic(AxSeverity::Warning, "bad-name", head, "expected a name, found " + found(head)));
+}
+
+void AxReaderWriter::readBody(AxlObj const* items, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    if (flag(List))
+    {
+        static_cast<AxRwList*>(this)->readElements(items, files, bindings);
+        return;
+    }
+    if (flag(Value))
+    {
+        AxlObjPtr const rest = getData(AxlObjPtr(items), files, bindings);
+        if (!flag(Rejected) && !rest.nil())
+        {
+            AxDiagnostics::report(diagnostic(AxSeverity::Warning, "extra-value", rest->car(),
+                                             "unexpected " + found(rest->car()) + " after the value of \"" +
+                                                 name().string().string() + '"'));
+        }
+        return;
+    }
+    AxReadFrame frame(*this);
+    AxlObjPtr const rest = getData(AxlObjPtr(items), files, bindings);
+    for (AxlObj const* item = rest.get(); item->tag() == AxlObj::Tag::Pair; item = item->cdr())
+    {
+        readItem(item->car(), frame, files, bindings);
+    }
+}
+
+void AxReaderWriter::readItems(AxlObj const* items, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    AxReadFrame frame(*this);
+    for (AxlObj const* item = items; item->tag() == AxlObj::Tag::Pair; item = item->cdr())
+    {
+        readItem(item->car(), frame, files, bindings);
+    }
+}
+
+void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilenameList const& files,
+                              AxBindingsList const& bindings)
+{
+    AxlObj const* const head = item->car();
+    if (item->tag() != AxlObj::Tag::Pair || (head->tag() != AxlObj::Tag::Symbol && head->tag() != AxlObj::Tag::String))
+    {
+        AxDiagnostics::report(
+            diagnostic(AxSeverity::Warning, "not-an-item", item, "expected (keyword value), found " + found(item)));
+        keepItem(frame.last, printed(item));
+        return;
+    }
+    AxSymbolString const keyword =
+        head->tag() == AxlObj::Tag::Symbol ? head->symbol() : AxSymbolString::find(head->text());
+    AxReaderWriterRegistry* const members = keyword.isNull() ? nullptr : registryIfAny();
+    AxReaderWriter* member = nullptr;
+    std::size_t place = 0;
+    if (members)
+    {
+        AxRegistryTable const& shared = members->table();
+        place = frame.next < shared.slots.size() && shared.slots[frame.next].keyword == keyword ? frame.next
+                                                                                                : shared.find(keyword);
+        if (place != AxRegistryTable::none)
+        {
+            member = members->at(shared.slots[place].distance);
+            frame.next = place + 1;
+        }
+        else if ((member = members->find(keyword)) != nullptr)
+        {
+            for (place = 0; members->entry(place).member != member; ++place)
+            {
+            }
+        }
+    }
+    if (!member)
+    {
+        std::string const word(head->text());
+        if (!isConsumed(*this, item, word, files, bindings))
+        {
+            reportUnknown(head, word);
+            keepItem(frame.last, printed(item));
+        }
+        return;
+    }
+    if (frame.markSeen(place))
+    {
+        AxDiagnostics::report(
+            diagnostic(AxSeverity::Warning, "repeated-keyword", head,
+                       "\"" + std::string(head->text()) + "\" is given again; the later value counts"));
+    }
+    if (member->flag(FileBacked))
+    {
+        AxDiagnostics::report(
+            diagnostic(AxSeverity::Warning, "file-and-inline", head,
+                       "\"" + std::string(head->text()) + "\" is given in the text and by a file; the file counts"));
+        return;
+    }
+    frame.last = member->AxReaderWriter::name();
+    member->getSelf(AxlObjPtr(item), files, bindings);
+    if (member->flag(Rejected))
+    {
+        member->setFlag(Rejected, false);
+        rare().kept.push_back({frame.last, printed(item), true, member->myStamp});
+        setFlag(KeepsItems, true);
+    }
+}
+
+void AxReaderWriter::reportUnknown(AxlObj const* head, std::string_view word)
+{
+    std::vector<std::string_view> known;
+    if (AxReaderWriterRegistry const* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            known.push_back(members->entry(i).keyword.view());
+        }
+    }
+    AxDiagnostic unknown = diagnostic(AxSeverity::Warning, "unknown-keyword", head,
+                                      "unknown keyword \"" + std::string(word) + "\" in " + name().string().string() +
+                                          " (" + readerWriterType() + ')');
+    std::string_view const nearest = axNearest(word, known);
+    if (!nearest.empty())
+    {
+        unknown.hint = "did you mean \"" + std::string(nearest) + "\"?";
+    }
+    AxDiagnostics::report(std::move(unknown));
+}
+
+void AxReaderWriter::reject(AxlObj const* items, std::string const& expected)
+{
+    setFlag(Rejected, true);
+    AxlObj const* const cell = items->tag() == AxlObj::Tag::Pair ? items->car() : items;
+    std::string now;
+    putData(now, 0);
+    std::string text = '"' + name().string().string() + "\" expects " + expected + ", found " + found(cell);
+    if (!now.empty())
+    {
+        text += "; " + now + " stays";
+    }
+    AxDiagnostics::report(diagnostic(AxSeverity::Error, "wrong-kind", cell, std::move(text)));
+}
+
+AxlObjPtr AxReaderWriter::getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const&)
+{
+    return items;
+}
+
+void AxReaderWriter::preGetSelf() {}
+
+void AxReaderWriter::postGetSelf() {}
+
+bool AxReaderWriter::unrecognizedItem(AxEnvironmentPtr const&, AxEnvValuePtr const&, AxFilenameList const&,
+                                      AxBindingsList const&)
+{
+    return false;
+}
+
+bool AxReaderWriter::readText(std::string_view text, AxFilename const& sourceName, AxFilenameList const& files,
+                              AxBindingsList const& bindings)
+{
+    AxSourceScope const scope(sourceName);
+    try
+    {
+        AxlInputStream stream(text);
+        AxTextReader reader(stream);
+        if (!reader.readObject(*this, files, bindings))
+        {
+            AxlObjPtr const expression = AxcRead(stream);
+            if (expression->tag() == AxlObj::Tag::Eof)
+            {
+                AxDiagnostics::report(diagnostic(AxSeverity::Error, "empty-text", expression.get(),
+                                                 "expected a list (name item...), found the end of the text"));
+                return false;
+            }
+            getSelf(expression, files, bindings);
+        }
+        if (reader.unclosed())
+        {
+            setFlag(Invalid, true);
+            AxDiagnostics::report(
+                AxlSyntaxError("unclosed-list", "list is never closed", reader.unclosedLine(), reader.unclosedColumn())
+                    .diagnostic());
+        }
+        return !invalid();
+    }
+    catch (AxlSyntaxError const& error)
+    {
+        setFlag(Invalid, true);
+        AxDiagnostics::report(error.diagnostic());
+    }
+    catch (std::exception const& error)
+    {
+        setFlag(Invalid, true);
+        AxDiagnostic failure;
+        failure.code = "read-failed";
+        failure.file = sourceName.string().string();
+        failure.text = error.what();
+        AxDiagnostics::report(std::move(failure));
+    }
+    return false;
+}

@@ -1,0 +1,333 @@
+#include "AxReadFrame.h"
+#include "AxReaderWriter.h"
+#include "AxRegistryShape.h"
+#include "AxRwList.h"
+#include "AxRwVariableBindings.h"
+#include "AxlFunctions.h"
+#include "AxlPrint.h"
+
+namespace
+{
+bool isPair(AxlObj const* cell)
+{
+    return cell->tag() == AxlObj::Tag::Pair;
+}
+
+/// The variable that one cell refers to: `$name`, or a string that is nothing but `$(name)`; else empty.
+std::string_view variableOf(AxlObj const* cell)
+{
+    if (cell->tag() == AxlObj::Tag::Symbol && cell->isReference())
+    {
+        return cell->text().substr(1);
+    }
+    if (cell->tag() == AxlObj::Tag::String && cell->hasEmbeddedReference())
+    {
+        std::string_view const text = cell->text();
+        if (text.starts_with("$(") && text.find(')') == text.size() - 1 && text.size() > 3)
+        {
+            return text.substr(2, text.size() - 3);
+        }
+    }
+    return {};
+}
+
+/// The variable that stands for all of a value, with a default or without; empty when it is no such value.
+std::string_view wholeReference(AxlObj const* items)
+{
+    if (!isPair(items) || isPair(items->cdr()))
+    {
+        return {};
+    }
+    AxlObj const* const first = items->car();
+    bool const hasDefault = isPair(first) && isPair(first->cdr());
+    return variableOf(hasDefault ? first->car() : first);
+}
+} // namespace
+
+bool AxReaderWriter::isVariableReference() const
+{
+    return flag(VariableReference);
+}
+
+void AxReaderWriter::setIsVariableReference(bool isReference)
+{
+    if (!isReference)
+    {
+        dropReference();
+        return;
+    }
+    setFlag(VariableReference, true);
+    Rare& mine = rare();
+    if (mine.written.empty())
+    {
+        mine.written = '$' + mine.variableName.string().string();
+    }
+}
+
+void AxReaderWriter::clearAllVariableReferenceFlags()
+{
+    dropReference();
+    if (AxReaderWriterRegistry* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            members->entry(i).member->clearAllVariableReferenceFlags();
+        }
+    }
+    if (flag(List))
+    {
+        for (AxListItem* item = static_cast<AxRwList*>(this)->first(); item; item = item->next())
+        {
+            AxRwList::element(item)->clearAllVariableReferenceFlags();
+        }
+    }
+}
+
+AxSymbolString AxReaderWriter::variableName() const
+{
+    Rare const* const mine = rareOrNull();
+    return mine ? mine->variableName : AxSymbolString();
+}
+
+void AxReaderWriter::setVariableName(AxSymbolString name)
+{
+    Rare& mine = rare();
+    mine.variableName = name;
+    if (flag(VariableReference))
+    {
+        mine.written = '$' + name.string().string();
+    }
+}
+
+bool AxReaderWriter::variableIsBound() const
+{
+    return flag(VariableBound);
+}
+
+void AxReaderWriter::unbindVariable()
+{
+    setFlag(VariableBound, false);
+}
+
+void AxReaderWriter::keepReference(AxSymbolString variable, std::string written, bool bound)
+{
+    Rare& mine = rare();
+    mine.variableName = variable;
+    mine.written = std::move(written);
+    setFlag(VariableReference, true);
+    setFlag(VariableBound, bound);
+}
+
+std::string const& AxReaderWriter::referenceText() const
+{
+    static std::string const none;
+    Rare const* const mine = rareOrNull();
+    return mine ? mine->written : none;
+}
+
+void AxReaderWriter::dropReference()
+{
+    setFlag(Inherited, false);
+    if (flag(VariableReference))
+    {
+        setFlag(VariableReference, false);
+        setFlag(VariableBound, false);
+        Rare& mine = rare();
+        mine.variableName = AxSymbolString();
+        mine.written.clear();
+    }
+}
+
+bool AxReaderWriter::readReference(AxlObj const* items, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    std::string_view const variable = wholeReference(items);
+    if (variable.empty())
+    {
+        return false;
+    }
+    AxlObj const* const first = items->car();
+    bool const hasDefault = isPair(first);
+    std::string written;
+    axAppendCell(written, first);
+    keepReference(AxSymbolString(variable), std::move(written), false);
+    if (hasDefault)
+    {
+        checkAndSetDefaultRWValue(AxlObjPtr(first), files, bindings);
+    }
+    readBinding(files, bindings);
+    setFlag(Rejected, false);
+    return true;
+}
+
+bool AxReaderWriter::readBinding(AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    AxlInputStream stream('(' + referenceText() + ')');
+    if (AxlObjPtr const items = AxcRead(stream); wholeReference(items.get()).empty())
+    {
+        readBody(items.get(), files, bindings); // the references stand inside texts
+        setFlag(Rejected, false);
+        return variableIsBound();
+    }
+    // A variable may name another one; a chain that does not end is left unbound.
+    constexpr int longestChain = 32;
+    AxSymbolString variable = variableName();
+    AxlObjPtr const* cells = nullptr;
+    for (int i = 0; i < longestChain; ++i)
+    {
+        cells = AxRwVariableBindings::find(variable, bindings);
+        std::string_view const next = cells && isPair(cells->get()) ? variableOf((*cells)->car()) : std::string_view();
+        if (next.empty())
+        {
+            break;
+        }
+        variable = AxSymbolString(next);
+        cells = nullptr;
+    }
+    if (!cells)
+    {
+        return false;
+    }
+    Rare& mine = rare();
+    AxSymbolString const name = mine.variableName;
+    std::string const written = mine.written;
+    readBody(cells->get(), files, bindings);
+    bool const isBound = !flag(Rejected);
+    setFlag(Rejected, false);
+    keepReference(name, written, isBound);
+    return isBound;
+}
+
+bool AxReaderWriter::checkAndSetDefaultRWValue(AxlObjPtr const& item, AxFilenameList const& files,
+                                               AxBindingsList const& bindings)
+{
+    AxlObj const* const list = item.get();
+    if (!isPair(list) || variableOf(list->car()).empty())
+    {
+        return false;
+    }
+    readBody(list->cdr(), files, bindings);
+    return true;
+}
+
+void AxReaderWriter::bindAll(AxBindingsList const& bindings, bool onlyUnbound)
+{
+    if (flag(VariableReference) && (!onlyUnbound || !flag(VariableBound)))
+    {
+        readBinding(nullFilenames(), bindings);
+    }
+    auto const bindBelow = [&bindings, onlyUnbound](AxReaderWriter& below)
+    {
+        if (onlyUnbound)
+        {
+            below.bindLocalVariables(bindings);
+        }
+        else
+        {
+            below.bindVariables(bindings);
+        }
+    };
+    if (AxReaderWriterRegistry* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            AxRegistryEntry const entry = members->entry(i);
+            if (!entry.content)
+            {
+                bindBelow(*entry.member);
+            }
+        }
+    }
+    if (flag(List))
+    {
+        for (AxListItem* item = static_cast<AxRwList*>(this)->first(); item; item = item->next())
+        {
+            bindBelow(*AxRwList::element(item));
+        }
+    }
+}
+
+void AxReaderWriter::bindVariables(AxBindingsList const& bindings)
+{
+    bindAll(bindings, false);
+}
+
+void AxReaderWriter::bindLocalVariables(AxBindingsList const& bindings)
+{
+    bindAll(bindings, true);
+}
+
+AxUnboundVariableList AxReaderWriter::unboundVariables() const
+{
+    AxUnboundVariableList unbound;
+    if (flag(VariableReference) && !flag(VariableBound))
+    {
+        std::string value;
+        const_cast<AxReaderWriter*>(this)->putData(value, 0);
+        unbound.emplace_back(variableName().string(), AxString(value));
+    }
+    auto const addFrom = [&unbound](AxReaderWriter const& below)
+    { unbound.splice(unbound.end(), below.unboundVariables()); };
+    if (AxReaderWriterRegistry const* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            AxRegistryEntry const entry = members->entry(i);
+            if (!entry.content)
+            {
+                addFrom(*entry.member);
+            }
+        }
+    }
+    if (flag(List))
+    {
+        for (AxListItem const* item = static_cast<AxRwList const*>(this)->first(); item; item = item->next())
+        {
+            addFrom(*AxRwList::element(item));
+        }
+    }
+    return unbound;
+}
+
+bool AxReaderWriter::hasVariableReference() const
+{
+    if (flag(VariableReference))
+    {
+        return true;
+    }
+    if (AxReaderWriterRegistry const* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            if (members->entry(i).member->hasVariableReference())
+            {
+                return true;
+            }
+        }
+    }
+    if (flag(List))
+    {
+        for (AxListItem const* item = static_cast<AxRwList const*>(this)->first(); item; item = item->next())
+        {
+            if (AxRwList::element(item)->hasVariableReference())
+            {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool AxReaderWriter::bindToRwAsVariable(AxReaderWriter const* source)
+{
+    if (!source || !flag(VariableReference))
+    {
+        return false;
+    }
+    Rare const& mine = *rareOrNull();
+    AxSymbolString const name = mine.variableName;
+    std::string const written = mine.written;
+    std::string const text = source->writtenText();
+    bool const isBound = readText(text, AxFilename::nullFilename(), nullFilenames(), nullVariableReference());
+    keepReference(name, written, isBound);
+    return isBound;
+}

@@ -1,0 +1,17 @@
+#include "AxRwAppearance.h"
+
+#include "AxReaderWriterFactory.h"
+
+static AxTypeEntry<AxRwAppearance> const entry;
+
+AxRwAppearance::~AxRwAppearance() = default;
+
+char const* AxRwAppearance::readerWriterType() const
+{
+    return "AxRwAppearance";
+}
+
+char const* AxRwAppearance::xmlType() const
+{
+    return "AxRwAppearance";
+}

@@ -1,0 +1,286 @@
+#include "AxRwVariableBindings.h"
+
+#include "AxDiagnostic.h"
+#include "AxReaderWriterFactory.h"
+#include "AxRwElement.h"
+#include "AxlFunctions.h"
+#include "AxlPrint.h"
+
+#include <algorithm>
+
+static AxTypeEntry<AxRwVariableBindings> const entry;
+
+namespace
+{
+/// The value items as text, without what refers to other variables being resolved.
+std::string textOf(AxlObjPtr const& cells)
+{
+    AxlObj const* const first = cells->car();
+    bool const isOneWord = !cells->cdr()->isPair() && (first->isString() || first->isSymbol());
+    return isOneWord ? std::string(first->text()) : axWrittenItems(cells.get());
+}
+
+class Expansion
+{
+public:
+    explicit Expansion(AxBindingsList const& bindings) : myBindings(bindings) {}
+
+    void append(std::string_view text)
+    {
+        for (std::size_t at = 0; at < text.size();)
+        {
+            std::size_t const next = std::min(text.find('$', at), text.size());
+            myOut += text.substr(at, next - at);
+            at = next + appendFrom(text.substr(next));
+        }
+    }
+    std::string& out() { return myOut; }
+    AxSymbolString first() const { return myFirst; }
+    bool isComplete() const { return myIsComplete; }
+
+private:
+    /// Appends what the beginning of `text`, a "$", stands for; answers how much of it was taken.
+    std::size_t appendFrom(std::string_view text)
+    {
+        if (text.starts_with("$$("))
+        {
+            myOut += "$(";
+            return 3;
+        }
+        std::size_t const end = text.starts_with("$(") ? text.find(')') : std::string_view::npos;
+        if (end == std::string_view::npos)
+        {
+            myOut += text.substr(0, 1);
+            return std::min<std::size_t>(text.size(), 1);
+        }
+        AxSymbolString const name(text.substr(2, end - 2));
+        if (myFirst.isNull())
+        {
+            myFirst = name;
+        }
+        appendVariable(name, text.substr(0, end + 1));
+        return end + 1;
+    }
+    void appendVariable(AxSymbolString name, std::string_view written)
+    {
+        // A variable may be made of others; a chain that does not end is left as it stands.
+        constexpr int deepest = 32;
+        AxlObjPtr const* const cells = myDepth < deepest ? AxRwVariableBindings::find(name, myBindings) : nullptr;
+        if (!cells)
+        {
+            myIsComplete = false;
+            myOut += written;
+            return;
+        }
+        ++myDepth;
+        AxlObj const* const value = (*cells)->car();
+        if (value->isReference())
+        {
+            appendVariable(AxSymbolString(value->text().substr(1)), written);
+        }
+        else
+        {
+            append(textOf(*cells));
+        }
+        --myDepth;
+    }
+
+    AxBindingsList const& myBindings;
+    std::string myOut;
+    AxSymbolString myFirst;
+    bool myIsComplete = true;
+    int myDepth = 0;
+};
+} // namespace
+
+AxRwVariableBindings::AxRwVariableBindings(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxReaderWriter(name, registry)
+{
+}
+
+AxRwVariableBindings::AxRwVariableBindings(AxRwVariableBindings const& other)
+    : AxReaderWriter(other), myVariables(other.myVariables)
+{
+}
+
+AxRwVariableBindings::~AxRwVariableBindings() = default;
+
+AxRwVariableBindings& AxRwVariableBindings::operator=(AxRwVariableBindings const& other)
+{
+    if (this != &other)
+    {
+        myVariables = other.myVariables;
+        carryState(other);
+    }
+    return *this;
+}
+
+void AxRwVariableBindings::set(AxSymbolString name, AxlObjPtr const& cells)
+{
+    auto const known = std::find_if(myVariables.begin(), myVariables.end(),
+                                    [name](Variable const& variable) { return variable.name == name; });
+    if (known != myVariables.end())
+    {
+        known->cells = cells;
+    }
+    else
+    {
+        myVariables.push_back({name, cells});
+    }
+    valueAssigned();
+    setFlag(Specified, true);
+}
+
+void AxRwVariableBindings::setString(AxSymbolString name, AxString const& text)
+{
+    set(name, AxcCons(AxcString(text.string()), axcNil()));
+}
+
+bool AxRwVariableBindings::remove(AxSymbolString name)
+{
+    if (std::erase_if(myVariables, [name](Variable const& variable) { return variable.name == name; }) == 0)
+    {
+        return false;
+    }
+    valueAssigned();
+    return true;
+}
+
+void AxRwVariableBindings::clear()
+{
+    myVariables.clear();
+    valueAssigned();
+}
+
+AxlObjPtr const* AxRwVariableBindings::find(AxSymbolString name) const
+{
+    for (Variable const& variable : myVariables)
+    {
+        if (variable.name == name)
+        {
+            return &variable.cells;
+        }
+    }
+    return nullptr;
+}
+
+AxlObjPtr const* AxRwVariableBindings::find(AxSymbolString name, AxBindingsList const& bindings)
+{
+    for (AxRwVariableBindings const* const set : bindings)
+    {
+        if (AxlObjPtr const* const cells = set ? set->find(name) : nullptr)
+        {
+            return cells;
+        }
+    }
+    return nullptr;
+}
+
+AxString AxRwVariableBindings::stringValue(AxSymbolString name, bool* found) const
+{
+    AxlObjPtr const* const cells = find(name);
+    if (found)
+    {
+        *found = cells != nullptr;
+    }
+    return cells ? AxString(textOf(*cells)) : AxString();
+}
+
+std::vector<AxSymbolString> AxRwVariableBindings::names() const
+{
+    std::vector<AxSymbolString> all;
+    for (Variable const& variable : myVariables)
+    {
+        all.push_back(variable.name);
+    }
+    return all;
+}
+
+void AxRwVariableBindings::addAllFrom(AxRwVariableBindings const& other)
+{
+    if (this != &other)
+    {
+        for (Variable const& variable : other.myVariables)
+        {
+            set(variable.name, variable.cells);
+        }
+    }
+}
+
+bool AxRwVariableBindings::equals(AxRwVariableBindings const& other) const
+{
+    return myVariables.size() == other.myVariables.size() &&
+           std::all_of(myVariables.begin(), myVariables.end(),
+                       [&other](Variable const& variable)
+                       {
+                           AxlObjPtr const* const theirs = other.find(variable.name);
+                           return theirs && axWrittenItems(theirs->get()) == axWrittenItems(variable.cells.get());
+                       });
+}
+
+std::string AxRwVariableBindings::expand(std::string_view text, AxBindingsList const& bindings, bool* complete,
+                                         AxSymbolString* first)
+{
+    Expansion expansion(bindings);
+    expansion.append(text);
+    if (complete)
+    {
+        *complete = expansion.isComplete();
+    }
+    if (first)
+    {
+        *first = expansion.first();
+    }
+    return std::move(expansion.out());
+}
+
+AxlObjPtr AxRwVariableBindings::getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const&)
+{
+    myVariables.clear();
+    for (AxlObj const* rest = items.get(); rest->isPair(); rest = rest->cdr())
+    {
+        AxlObj const* const item = rest->car();
+        AxSymbolString const name = item->car()->symbol();
+        if (!name.isNull() && item->cdr()->isPair())
+        {
+            set(name, AxlObjPtr(item->cdr()));
+            continue;
+        }
+        AxDiagnostic fault;
+        fault.severity = AxSeverity::Warning;
+        fault.code = "not-a-variable";
+        fault.line = item->line();
+        fault.column = item->column();
+        fault.text = "expected (name value...) in \"" + AxReaderWriter::name().string().string() + '"';
+        AxDiagnostics::report(std::move(fault));
+        std::string written;
+        axAppendCell(written, item);
+        keepItem(AxSymbolString(), std::move(written));
+    }
+    return axcNil();
+}
+
+void AxRwVariableBindings::putData(std::string& out, int indent)
+{
+    for (Variable const& variable : myVariables)
+    {
+        out += '\n';
+        putIndent(out, indent + 1);
+        out += '(';
+        axAppendName(out, variable.name);
+        out += ' ';
+        out += axWrittenItems(variable.cells.get());
+        out += ')';
+    }
+}
+
+void AxRwVariableBindings::reset()
+{
+    AxReaderWriter::reset();
+    myVariables.clear();
+}
+
+char const* AxRwVariableBindings::readerWriterType() const
+{
+    return "AxRwVariableBindings";
+}

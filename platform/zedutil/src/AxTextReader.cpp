@@ -1,0 +1,501 @@
+#include "AxTextReader.h"
+
+#include "AxDiagnostic.h"
+#include "AxNumberText.h"
+#include "AxReadFrame.h"
+#include "AxReaderWriterFactory.h"
+#include "AxRegistryShape.h"
+#include "AxRwBoolean.h"
+#include "AxRwInt.h"
+#include "AxRwList.h"
+#include "AxRwReal.h"
+#include "AxRwString.h"
+#include "AxRwUnsigned.h"
+#include "AxRwVector.h"
+#include "AxlFunctions.h"
+#include "AxlSyntaxError.h"
+
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <limits>
+
+namespace
+{
+using Reading = AxTypeInfo::Reading;
+
+enum Kind : unsigned char
+{
+    Word,
+    Blank,
+    Delimiter // parentheses, quote, semicolon and control bytes, the end of the text among them
+};
+
+constexpr std::array<Kind, 256> kinds()
+{
+    std::array<Kind, 256> table{};
+    for (std::size_t byte = 0; byte < 0x20; ++byte)
+    {
+        table[byte] = Delimiter;
+    }
+    for (unsigned char byte : {' ', '\t', '\r', '\n', '\f', '\v'})
+    {
+        table[byte] = Blank;
+    }
+    for (unsigned char byte : {'(', ')', '"', ';', '\x7f'})
+    {
+        table[byte] = Delimiter;
+    }
+    return table;
+}
+
+Kind kindOf(char byte)
+{
+    static constexpr std::array<Kind, 256> table = kinds();
+    return table[static_cast<unsigned char>(byte)];
+}
+
+char const* endOfWord(char const* at)
+{
+    while (kindOf(*at) == Word)
+    {
+        ++at;
+    }
+    return at;
+}
+
+char const* pastBlanks(char const* at)
+{
+    while (kindOf(*at) == Blank)
+    {
+        ++at;
+    }
+    return at;
+}
+
+bool isDigit(char byte)
+{
+    return static_cast<unsigned char>(byte - '0') < 10;
+}
+
+/// A word that may be a name: neither a number, nor a reference, nor anything that only looks like one of them.
+bool isPlainName(std::string_view word)
+{
+    return !word.empty() && !isDigit(word[0]) && word[0] != '$' && word[0] != '+' && word[0] != '-' && word[0] != '.';
+}
+} // namespace
+
+AxTextReader::AxTextReader(AxlInputStream& stream)
+    : myStream(stream),
+      myBegin(stream.text().data()),
+      myEnd(myBegin + stream.text().size()),
+      myAt(myBegin + stream.position())
+{
+}
+
+void AxTextReader::skipBlanks()
+{
+    myAt = pastBlanks(myAt);
+    while (*myAt == ';')
+    {
+        myAt += std::strcspn(myAt, "\n");
+        myAt = pastBlanks(myAt);
+    }
+}
+
+bool AxTextReader::closes()
+{
+    char const* const at = pastBlanks(myAt);
+    if (*at != ')')
+    {
+        return false;
+    }
+    myAt = at + 1;
+    return true;
+}
+
+AxlObjPtr AxTextReader::cellsAt(char const* from)
+{
+    myStream.moveTo(static_cast<std::size_t>(from - myBegin));
+    AxlReadOptions options;
+    options.closeOpenLists = true;
+    AxlReadResult const result = AxcRead(myStream, AxlEnv(), options);
+    myAt = myBegin + myStream.position();
+    if (result.unclosed && !myUnclosed)
+    {
+        myUnclosed = true;
+        myLine = result.line;
+        myColumn = result.column;
+    }
+    return result.expr;
+}
+
+void AxTextReader::noteUnclosed(char const* open)
+{
+    if (!myUnclosed)
+    {
+        AxlInputStream place(std::string(myBegin, open));
+        place.moveTo(place.text().size());
+        myUnclosed = true;
+        myLine = static_cast<std::uint32_t>(place.lineCount());
+        myColumn = place.column();
+    }
+}
+
+std::string_view AxTextReader::peekHead()
+{
+    skipBlanks();
+    if (*myAt != '(')
+    {
+        return {};
+    }
+    char const* const head = pastBlanks(myAt + 1);
+    std::string_view const word(head, static_cast<std::size_t>(endOfWord(head) - head));
+    return isPlainName(word) ? word : std::string_view();
+}
+
+std::string_view AxTextReader::peekType()
+{
+    std::string_view const head = peekHead();
+    if (head.empty())
+    {
+        return {};
+    }
+    char const* at = pastBlanks(head.data() + head.size());
+    if (*at != '(')
+    {
+        return {};
+    }
+    at = pastBlanks(at + 1);
+    char const* const word = at;
+    at = endOfWord(at);
+    if (!isPlainName({word, static_cast<std::size_t>(at - word)}))
+    {
+        return {};
+    }
+    at = pastBlanks(at);
+    if (*at != '"')
+    {
+        return {};
+    }
+    char const* const text = ++at;
+    while (kindOf(*at) == Word && *at != '\\' && *at != '$')
+    {
+        ++at;
+    }
+    return *at == '"' ? std::string_view(text, static_cast<std::size_t>(at - text)) : std::string_view();
+}
+
+void AxTextReader::read(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    if (!readObject(rw, files, bindings))
+    {
+        skipBlanks();
+        rw.getSelf(cellsAt(myAt), files, bindings);
+    }
+}
+
+bool AxTextReader::readObject(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    AxTypeInfo const& info = AxReaderWriterFactory::typeInfo(rw);
+    if (info.reading != Reading::Record && info.reading != Reading::List)
+    {
+        return false;
+    }
+    std::string_view const head = peekHead();
+    if (head.empty())
+    {
+        return false;
+    }
+    char const* const open = myAt;
+    char const* const body = pastBlanks(head.data() + head.size());
+    // A list headed by a reference stands for the whole value.
+    if ((*body != '(' && *body != ')') || (*body == '(' && *pastBlanks(body + 1) == '$'))
+    {
+        return false;
+    }
+    rw.preGetSelf();
+    rw.setFlag(AxReaderWriter::Invalid, false);
+    if (rw.AxReaderWriter::name().isNull())
+    {
+        rw.setName(AxString(head));
+    }
+    rw.dropReference();
+    rw.dropKeptItems();
+    myAt = body;
+    if (info.reading == Reading::List)
+    {
+        readElements(rw, open, files, bindings);
+    }
+    else
+    {
+        readItems(rw, open, files, bindings);
+    }
+    rw.setFlag(AxReaderWriter::Specified, true);
+    rw.stamp();
+    if (info.ops && info.ops->afterItems && info.reading == Reading::Record)
+    {
+        info.ops->afterItems(rw, files, bindings);
+    }
+    rw.postGetSelf();
+    return true;
+}
+
+void AxTextReader::readElements(AxReaderWriter& rw, char const* open, AxFilenameList const& files,
+                                AxBindingsList const& bindings)
+{
+    auto& list = static_cast<AxRwList&>(rw);
+    AxTypeOps const& ops = *AxReaderWriterFactory::typeInfo(rw).ops;
+    list.removeAndDeleteAll();
+    AxReadFrame frame(rw);
+    AxReaderWriterRegistry const* const members = rw.registryIfAny();
+    bool const hasOwn = members && members->size() != 0;
+    for (skipBlanks(); *myAt != ')'; skipBlanks())
+    {
+        if (myAt == myEnd)
+        {
+            noteUnclosed(open);
+            return;
+        }
+        if (hasOwn || *myAt != '(' || !ops.readElement(list, *this, files, bindings))
+        {
+            list.readElement(cellsAt(myAt).get(), frame, files, bindings);
+        }
+    }
+    ++myAt;
+}
+
+void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameList const& files,
+                             AxBindingsList const& bindings)
+{
+    AxReadFrame frame(rw);
+    AxTypeInfo const& info = AxReaderWriterFactory::typeInfo(rw);
+    auto* const ownItem = info.ops ? info.ops->ownItem : nullptr;
+    AxReaderWriterRegistry& registry = *rw.registry();
+    AxRegistryTable const& table = registry.table();
+    AxBindingsList extended;
+    AxBindingsList const* current = &bindings;
+    std::size_t index = 0;
+    for (skipBlanks(); *myAt != ')'; skipBlanks(), ++index)
+    {
+        if (myAt == myEnd)
+        {
+            noteUnclosed(open);
+            return;
+        }
+        char const* const item = myAt;
+        if (*item == '(' && (!ownItem || index != 0))
+        {
+            char const* const head = pastBlanks(item + 1);
+            std::size_t place = frame.next;
+            char const* end = head;
+            if (place < table.slots.size())
+            {
+                std::string_view const expected = table.slots[place].keyword.view();
+                bool const isExpected = !expected.empty() &&
+                                        std::strncmp(head, expected.data(), expected.size()) == 0 &&
+                                        kindOf(head[expected.size()]) != Word;
+                end = isExpected ? head + expected.size() : endOfWord(head);
+                if (!isExpected)
+                {
+                    place = AxRegistryTable::none;
+                }
+            }
+            else
+            {
+                end = endOfWord(head);
+                place = AxRegistryTable::none;
+            }
+            if (place == AxRegistryTable::none && end != head)
+            {
+                AxSymbolString const keyword = AxSymbolString::find({head, static_cast<std::size_t>(end - head)});
+                place = keyword.isNull() ? AxRegistryTable::none : table.find(keyword);
+            }
+            if (place != AxRegistryTable::none)
+            {
+                AxRegistryTable::Slot const& slot = table.slots[place];
+                AxReaderWriter& member = *registry.at(slot.distance);
+                Reading const reading = slot.infoOf(member).reading;
+                bool const wasSeen = (place < 256 && (frame.few[place / 64] >> (place % 64) & 1U) != 0);
+                myAt = reading >= Reading::Record ? item : pastBlanks(end);
+                if (!wasSeen && place < 256 && readMember(member, reading, files, *current))
+                {
+                    frame.next = place + 1;
+                    frame.last = slot.keyword;
+                    frame.markSeen(place);
+                    continue;
+                }
+            }
+        }
+        AxlObjPtr const cell = cellsAt(item);
+        if (ownItem)
+        {
+            if (current == &bindings)
+            {
+                extended = bindings;
+                current = &extended;
+            }
+            if (ownItem(rw, cell.get(), index, extended))
+            {
+                continue;
+            }
+        }
+        rw.readItem(cell.get(), frame, files, *current);
+    }
+    ++myAt;
+}
+
+bool AxTextReader::readMember(AxReaderWriter& member, AxTypeInfo::Reading reading, AxFilenameList const& files,
+                              AxBindingsList const& bindings)
+{
+    switch (reading)
+    {
+    case Reading::Real:
+    {
+        double value = 0.0;
+        if (scanReal(value) && closes())
+        {
+            static_cast<AxRwReal&>(member).takeRead(std::move(value));
+            return true;
+        }
+        return false;
+    }
+    case Reading::Int:
+    case Reading::Unsigned:
+    {
+        char const* const begin = myAt;
+        char const* const end = endOfWord(begin);
+        long long value = 0;
+        auto const [last, error] = std::from_chars(begin, end, value);
+        bool const isInt = reading == Reading::Int;
+        long long const low = isInt ? std::numeric_limits<int>::min() : 0;
+        long long const high = isInt ? std::numeric_limits<int>::max() : std::numeric_limits<unsigned>::max();
+        if (error != std::errc() || last != end || value < low || value > high)
+        {
+            return false;
+        }
+        myAt = end;
+        if (!closes())
+        {
+            return false;
+        }
+        if (isInt)
+        {
+            static_cast<AxRwInt&>(member).takeRead(static_cast<int>(value));
+        }
+        else
+        {
+            static_cast<AxRwUnsigned&>(member).takeRead(static_cast<unsigned>(value));
+        }
+        return true;
+    }
+    case Reading::Boolean:
+    {
+        char const* const end = endOfWord(myAt);
+        std::string_view const word(myAt, static_cast<std::size_t>(end - myAt));
+        if (word != "true" && word != "false")
+        {
+            return false;
+        }
+        bool value = word == "true";
+        myAt = end;
+        if (closes())
+        {
+            static_cast<AxRwBoolean&>(member).takeRead(std::move(value));
+            return true;
+        }
+        return false;
+    }
+    case Reading::String:
+    {
+        if (*myAt != '"')
+        {
+            return false;
+        }
+        char const* const begin = ++myAt;
+        char const* at = begin;
+        while (*at != '"' && *at != '\\' && *at != '\0' && !(*at == '$' && at[1] == '('))
+        {
+            ++at;
+        }
+        if (*at != '"')
+        {
+            return false;
+        }
+        myAt = at + 1;
+        if (closes())
+        {
+            static_cast<AxRwString&>(member).takeRead(
+                AxString(std::string_view(begin, static_cast<std::size_t>(at - begin))));
+            return true;
+        }
+        return false;
+    }
+    case Reading::Vector:
+    {
+        double xyz[3] = {};
+        for (double& value : xyz)
+        {
+            myAt = pastBlanks(myAt);
+            if (!scanReal(value))
+            {
+                return false;
+            }
+        }
+        if (closes())
+        {
+            static_cast<AxRwVector&>(member).takeRead(AxVector64(xyz[0], xyz[1], xyz[2]));
+            return true;
+        }
+        return false;
+    }
+    case Reading::Record:
+    case Reading::List:
+        return !member.flag(AxReaderWriter::FileBacked) && readObject(member, files, bindings);
+    case Reading::Cells:
+        break;
+    }
+    return false;
+}
+
+bool AxTextReader::scanReal(double& value)
+{
+    static constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                        1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    char const* at = myAt;
+    bool const isNegative = *at == '-';
+    at += isNegative ? 1 : 0;
+    char const* const first = at;
+    std::uint64_t digits = 0;
+    while (isDigit(*at))
+    {
+        digits = digits * 10 + static_cast<std::uint64_t>(*at++ - '0');
+    }
+    std::ptrdiff_t count = at - first;
+    std::ptrdiff_t decimals = 0;
+    if (*at == '.')
+    {
+        char const* const point = ++at;
+        while (isDigit(*at))
+        {
+            digits = digits * 10 + static_cast<std::uint64_t>(*at++ - '0');
+        }
+        decimals = at - point;
+        count += decimals;
+    }
+    // Up to 15 digits the quotient of two exact numbers is the nearest double.
+    if (kindOf(*at) != Word && count > 0 && count <= 15)
+    {
+        double const magnitude = static_cast<double>(digits) / powers[decimals];
+        value = isNegative ? -magnitude : magnitude;
+        myAt = at;
+        return true;
+    }
+    char const* const end = endOfWord(at);
+    if (!axParseReal({myAt, static_cast<std::size_t>(end - myAt)}, value))
+    {
+        return false;
+    }
+    myAt = end;
+    return true;
+}

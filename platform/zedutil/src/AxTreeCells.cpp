@@ -1,0 +1,397 @@
+#include "AxTreeCells.h"
+
+#include "AxDiagnostic.h"
+#include "AxNumberText.h"
+#include "AxReaderWriterFactory.h"
+#include "AxReaderWriterFile.h"
+#include "AxRwList.h"
+#include "AxRwProperty.h"
+#include "AxRwString.h"
+#include "AxlCellPool.h"
+#include "AxlFunctions.h"
+#include "AxlPrint.h"
+#include "AxlSyntaxError.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+
+namespace
+{
+using Cells = std::vector<AxlObjPtr>;
+using Place = AxlCellPool::Place;
+
+Place placeOf(AxEnvValue const& node)
+{
+    return {node.line(), node.column()};
+}
+
+AxlObjPtr listOf(Cells const& items, Place place)
+{
+    AxlObjPtr list;
+    for (auto item = items.rbegin(); item != items.rend(); ++item)
+    {
+        list = AxlCellPool::adopt(
+            AxlCellPool::newPair(AxlCellPool::share(item->get()), AxlCellPool::share(list.get()), place));
+    }
+    return list;
+}
+
+/// A copy of what was read from a text of its own.
+AxlObjPtr placed(AxlObj const* cell, Place place)
+{
+    switch (cell->tag())
+    {
+    case AxlObj::Tag::Pair:
+    {
+        Cells items;
+        for (; cell->isPair(); cell = cell->cdr())
+        {
+            items.push_back(placed(cell->car(), place));
+        }
+        return listOf(items, place);
+    }
+    case AxlObj::Tag::Symbol:
+        return AxlCellPool::adopt(AxlCellPool::newSymbol(cell->symbol(), place));
+    case AxlObj::Tag::String:
+        return AxlCellPool::adopt(AxlCellPool::newString(cell->text(), place));
+    case AxlObj::Tag::Number:
+        return AxlCellPool::adopt(
+            AxlCellPool::newSpelledNumber(cell->flonum(), cell->isInteger(), cell->pname().string(), place));
+    default:
+        return AxlObjPtr(cell);
+    }
+}
+
+/// A name as it would stand in a text.
+AxlObjPtr nameCell(AxSymbolString name, Place place)
+{
+    return AxlCellPool::adopt(name.isBareWord() ? AxlCellPool::newSymbol(name, place)
+                                                : AxlCellPool::newString(name.view(), place));
+}
+
+AxlObjPtr textCell(std::string_view text, Place place)
+{
+    return AxlCellPool::adopt(AxlCellPool::newString(text, place));
+}
+
+void appendParsed(Cells& items, std::string_view text, Place place)
+{
+    try
+    {
+        AxlObjPtr const read = AxTreeCells::parsed(text);
+        for (AxlObj const* rest = read.get(); rest->isPair(); rest = rest->cdr())
+        {
+            items.push_back(placed(rest->car(), place));
+        }
+    }
+    catch (AxlSyntaxError const&)
+    {
+        items.push_back(textCell(text, place)); // whoever reads it refuses it and says where
+    }
+}
+
+bool isBlank(std::string_view text)
+{
+    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    std::size_t const first = text.find_first_not_of(" \t\r\n");
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+}
+
+bool isTextKind(AxReaderWriter const* member)
+{
+    return dynamic_cast<AxRwString const*>(member) || dynamic_cast<AxReaderWriterFile const*>(member);
+}
+
+bool isProperty(AxEnvObject const& object, AxReaderWriter const* guide)
+{
+    return guide ? guide->property() != nullptr : object.type() == "property" && object.attribute("type");
+}
+
+/// The null type stands as an empty value, which as a text would be a fault.
+bool isNullType(AxEnvObject const& object)
+{
+    AxString const* const value = object.attribute("value");
+    return (object.type() == "objectType" || object.type() == "entityType") && value && isBlank(value->string());
+}
+
+/// An empty object of the type that an element names; null when it names none.
+std::unique_ptr<AxReaderWriter> modelOf(AxEnvObject const& object)
+{
+    AxReaderWriterFactory* const factory = AxReaderWriter::factory();
+    AxString const* const named = object.type() == AxTreeCells::theAnyTag ? object.attribute("type") : nullptr;
+    AxString const type = named ? *named : factory->mapXmlToRwType(object.type());
+    std::unique_ptr<AxReaderWriter> model(type.isNull() ? nullptr : factory->createItem(type, AxString(), nullptr));
+    if (model && !named && !(object.type() == model->xmlType()))
+    {
+        model.reset();
+    }
+    // These tags stand for many types.
+    bool const isAny = object.type() == AxTreeCells::theAnyTag || object.type() == AxTreeCells::theAnyListTag;
+    return named || !isAny ? std::move(model) : nullptr;
+}
+
+/// The word that an element of a list begins with.
+AxSymbolString elementHead(AxEnvObject const& object)
+{
+    AxString const* const type = object.type() == AxTreeCells::theAnyTag ? object.attribute("type") : nullptr;
+    bool const isByType = type && (!object.hasName() || AxReaderWriter::factory()->knowsType(*type));
+    return AxSymbolString(isByType ? *type : object.name());
+}
+
+/// Items with a keyword that others may be put behind.
+class ItemList
+{
+public:
+    void add(AxlObjPtr const& item) { myItems.push_back(item); }
+    /// Behind the item of `after` and those that were put there before; in front for the empty text.
+    void add(AxlObjPtr const& item, AxString const& after)
+    {
+        if (after.isNull())
+        {
+            myItems.insert(myItems.begin() + myLeading++, item);
+            return;
+        }
+        auto place = std::find_if(myItems.begin(), myItems.end(),
+                                  [&after](AxlObjPtr const& one) { return one->car()->text() == after.string(); });
+        if (place != myItems.end())
+        {
+            place += 1 + myBehind[after]++;
+        }
+        myItems.insert(place, item);
+    }
+    Cells& items() { return myItems; }
+    void endLeading() { myLeading = static_cast<std::ptrdiff_t>(myItems.size()); }
+
+private:
+    Cells myItems;
+    std::ptrdiff_t myLeading = 0;
+    std::map<AxString, std::ptrdiff_t> myBehind;
+};
+
+void appendValue(Cells& items, AxEnvObject const& object)
+{
+    AxEnvValuePtr const node = object.attributeNode("value");
+    if (!isNullType(object))
+    {
+        appendParsed(items, node->value().string(), placeOf(object));
+    }
+}
+
+Cells itemsOf(AxEnvObject const& object, AxReaderWriter const* guide)
+{
+    using namespace AxTreeCells;
+    ItemList list;
+    std::unique_ptr<AxReaderWriter> model;
+    if (isProperty(object, guide))
+    {
+        AxString const* const type = object.attribute("type");
+        list.add(nameCell(AxSymbolString(type ? *type : AxString()), placeOf(object)));
+        model.reset(AxReaderWriter::factory()->createItem(type ? *type : AxString(), AxString(), nullptr));
+        guide = model.get();
+    }
+    for (char const* const form : {"variable", "value"})
+    {
+        if (object.attribute(form) && isOfForm(object, form, guide))
+        {
+            if (AxString(form) == "variable")
+            {
+                appendParsed(list.items(), object.attribute(form)->string(), placeOf(object));
+                break;
+            }
+            appendValue(list.items(), object);
+        }
+    }
+    list.endLeading();
+    // What a data hook takes comes before the members.
+    for (bool const isLeading : {true, false})
+    {
+        for (AxEnvObject::Attribute const& attribute : object.attributes())
+        {
+            AxReaderWriter const* const member = memberFor(guide, attribute.name);
+            bool const leads = !member && (guide || attribute.name.string().ends_with("-type"));
+            if (leads == isLeading && !isOfForm(object, attribute.name, guide) && !(guide && guide->isValue()))
+            {
+                list.add(attributeItem(object, attribute, member));
+            }
+        }
+        if (isLeading)
+        {
+            list.endLeading();
+        }
+    }
+    for (AxEnvValuePtr const& child : object.children())
+    {
+        AxlObjPtr const item = childItem(*child, object, guide);
+        if (item.nil())
+        {
+            continue;
+        }
+        AxEnvObject const& element = static_cast<AxEnvObject const&>(*child);
+        AxString const* const after = element.type() == theTextTag ? element.attribute("after") : nullptr;
+        if (after)
+        {
+            list.add(item, *after);
+        }
+        else
+        {
+            list.add(item);
+        }
+    }
+    return std::move(list.items());
+}
+
+AxlObjPtr itemWith(AxlObjPtr const& head, Cells items, Place place)
+{
+    items.insert(items.begin(), head);
+    return listOf(items, place);
+}
+
+AxlObjPtr textItem(AxEnvObject const& object)
+{
+    std::string text;
+    for (AxEnvValuePtr const& part : object.children())
+    {
+        text += part->isList() ? std::string() : part->value().string();
+    }
+    Cells items;
+    appendParsed(items, text, placeOf(object));
+    return items.size() == 1 ? items.front() : AxlObjPtr();
+}
+} // namespace
+
+AxlObjPtr AxTreeCells::parsed(std::string_view text)
+{
+    AxlInputStream stream(text);
+    Cells items;
+    for (AxlObjPtr cell = AxcRead(stream); !cell->isEof(); cell = AxcRead(stream))
+    {
+        items.push_back(cell);
+    }
+    return listOf(items, Place{0, 0});
+}
+
+std::string AxTreeCells::printed(AxlObj const* cell)
+{
+    std::string text;
+    axAppendCell(text, cell);
+    return text;
+}
+
+bool AxTreeCells::isNumeral(std::string_view word)
+{
+    bool const isSigned = word.starts_with('-') || word.starts_with('+');
+    std::string_view const body = word.substr(isSigned ? 1 : 0);
+    return body == "inf" || (body == "nan" && !word.starts_with('+')) || axIsNumber(word);
+}
+
+AxlObjPtr AxTreeCells::cellIn(AxString const& text)
+{
+    try
+    {
+        AxlObjPtr const cells = parsed(text.string());
+        return cells->cdr()->isPair() ? AxlObjPtr() : cells;
+    }
+    catch (AxlSyntaxError const&)
+    {
+        return {};
+    }
+}
+
+AxReaderWriter* AxTreeCells::memberFor(AxReaderWriter const* record, AxString const& keyword)
+{
+    AxReaderWriterRegistry const* const members = record && !record->isValue() ? record->registryIfAny() : nullptr;
+    AxSymbolString const symbol = members ? AxSymbolString::find(keyword.string()) : AxSymbolString();
+    return symbol.isNull() ? nullptr : members->find(symbol);
+}
+
+AxReaderWriter* AxTreeCells::memberFor(AxReaderWriter const* record, AxEnvObject const& child)
+{
+    AxReaderWriter* const named = memberFor(record, child.name());
+    return named || child.hasName() ? named : memberFor(record, child.type());
+}
+
+bool AxTreeCells::isOfForm(AxEnvObject const& object, AxString const& attribute, AxReaderWriter const* guide)
+{
+    std::string const& text = object.attribute(attribute)->string();
+    if (attribute == "type")
+    {
+        return object.type() == theAnyTag || isProperty(object, guide) || object.type() == "property";
+    }
+    if (memberFor(guide, attribute))
+    {
+        return false;
+    }
+    return attribute == "value" || (attribute == "variable" && (text.starts_with('$') || text.starts_with("($")));
+}
+
+AxlObjPtr AxTreeCells::attributeCell(std::string_view text, AxEnvValue const& place, AxReaderWriter const* member)
+{
+    if (text.size() > 1 && text.front() == '$' && !text.starts_with("$(") && !text.starts_with("$$("))
+    {
+        return text[1] == '$' ? textCell(text.substr(1), placeOf(place))
+                              : AxlCellPool::adopt(AxlCellPool::newSymbol(AxSymbolString(text), placeOf(place)));
+    }
+    std::string_view const word = member ? trimmed(text) : text;
+    if (isNumeral(word) && !isTextKind(member))
+    {
+        return placed(parsed(word)->car(), placeOf(place));
+    }
+    return textCell(text, placeOf(place));
+}
+
+AxlObjPtr AxTreeCells::attributeItem(AxEnvObject const& object, AxEnvObject::Attribute const& attribute,
+                                     AxReaderWriter const* member)
+{
+    bool const isPlaced = attribute.value->line() != 0;
+    AxEnvValue const& place = isPlaced ? *attribute.value : static_cast<AxEnvValue const&>(object);
+    return listOf({nameCell(AxSymbolString(attribute.name), placeOf(place)),
+                   attributeCell(attribute.value->value().string(), place, member)},
+                  placeOf(place));
+}
+
+AxlObjPtr AxTreeCells::childItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide)
+{
+    AxEnvObject const* const object = child.isObject() ? static_cast<AxEnvObject const*>(&child) : nullptr;
+    if (!object || object->isReserved())
+    {
+        return {};
+    }
+    if (object->type() == theTextTag)
+    {
+        return textItem(*object);
+    }
+    if (parent.type() == theAttributesTag && object->type() == "attribute")
+    {
+        AxString const* const value = object->attribute("value");
+        return listOf({textCell(object->name().string(), placeOf(child)),
+                       attributeCell(value ? std::string_view(value->string()) : std::string_view(), child, nullptr)},
+                      placeOf(child));
+    }
+    if (parent.type() == theObjectTypesTag && object->type() == "objectType")
+    {
+        Cells const items = itemsOf(*object, nullptr);
+        return items.size() == 1 ? items.front() : listOf(items, placeOf(child));
+    }
+    if (AxReaderWriter const* const member = memberFor(guide, *object))
+    {
+        AxSymbolString const keyword(object->hasName() ? object->name() : object->type());
+        return isNullType(*object)
+                   ? AxlObjPtr()
+                   : itemWith(nameCell(keyword, placeOf(child)), itemsOf(*object, member), placeOf(child));
+    }
+    bool const isList = !guide || dynamic_cast<AxRwList const*>(guide);
+    AxSymbolString const head = isList ? elementHead(*object) : AxSymbolString(object->name());
+    bool const isNameless = !isList && head.isNull();
+    return isNameless || (guide && guide->isValue()) ? AxlObjPtr() : expression(*object, head, modelOf(*object).get());
+}
+
+AxlObjPtr AxTreeCells::expression(AxEnvObject const& object, AxSymbolString name, AxReaderWriter const* guide)
+{
+    return itemWith(nameCell(name, placeOf(object)), itemsOf(object, guide), placeOf(object));
+}

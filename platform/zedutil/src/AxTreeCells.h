@@ -1,0 +1,49 @@
+#pragma once
+
+#include "AxReaderWriter.h"
+
+#include <string>
+#include <string_view>
+
+/// Nodes of a tree as the cells of the text that says the same. Cells have the place of the node they come from.
+namespace AxTreeCells
+{
+inline constexpr char const* theTextTag = "sexp";
+inline constexpr char const* theXmlHead = "xml-item";
+inline constexpr char const* theAnyTag = "readerWriter";
+inline constexpr char const* theAnyListTag = "list";
+inline constexpr char const* theAttributesTag = "attributes";
+inline constexpr char const* theObjectTypesTag = "objectTypes";
+
+/// "(name item...)" of an object; `guide` is what it will be read by, null when that does not exist yet.
+AxlObjPtr expression(AxEnvObject const& object, AxSymbolString name, AxReaderWriter const* guide);
+/// The item of an attribute; `member` is what will take it, or null.
+AxlObjPtr attributeItem(AxEnvObject const& object, AxEnvObject::Attribute const& attribute,
+                        AxReaderWriter const* member);
+/// The item of a child of `parent`; nil for one that has none: text, comments, nameless unknown elements.
+AxlObjPtr childItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide);
+/// The member of a record or list that an attribute, or a child by its name or tag, belongs to; or null.
+AxReaderWriter* memberFor(AxReaderWriter const* record, AxString const& keyword);
+AxReaderWriter* memberFor(AxReaderWriter const* record, AxEnvObject const& child);
+/// Whether the attribute belongs to the form of the element rather than to what it holds.
+bool isOfForm(AxEnvObject const& object, AxString const& attribute, AxReaderWriter const* guide);
+
+/// An attribute's text as the cell of a value.
+AxlObjPtr attributeCell(std::string_view text, AxEnvValue const& place, AxReaderWriter const* member);
+/// The one cell in a text; nil when there is none, or more than one.
+AxlObjPtr cellIn(AxString const& text);
+/// All expressions in a text, as a list. Throws AxlSyntaxError.
+AxlObjPtr parsed(std::string_view text);
+std::string printed(AxlObj const* cell);
+/// Whether a word is read as a number, also in the forms that have no digits.
+bool isNumeral(std::string_view word);
+} // namespace AxTreeCells
+
+/// Nodes as a piece of XML in a text, and back.
+namespace AxXmlFragment
+{
+std::string ofNode(AxEnvValue const& node);
+std::string ofAttribute(AxEnvObject::Attribute const& attribute);
+/// Adds what the text says to `node`; false, and a report, when it is no XML.
+bool addTo(AxString const& text, AxEnvObject& node);
+} // namespace AxXmlFragment

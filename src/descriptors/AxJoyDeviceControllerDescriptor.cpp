@@ -1,0 +1,8 @@
+#include "AxJoyDeviceControllerDescriptor.h"
+
+AxJoyDeviceControllerDescriptor::~AxJoyDeviceControllerDescriptor() = default;
+
+AxString AxJoyDeviceControllerDescriptor::type() const
+{
+    return "joy-controller-descriptor";
+}

@@ -1,0 +1,3 @@
+#include "AxJoyDeviceControllerDescriptorTemplate.h"
+
+template class AxJoyDeviceControllerDescriptorTemplate<AxComponentDescriptor>;

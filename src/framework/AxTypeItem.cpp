@@ -1,0 +1,60 @@
+#include "AxTypeItem.h"
+
+#include "AxDiagnostic.h"
+#include "AxReadFrame.h"
+#include "AxlObj.h"
+
+namespace
+{
+AxlObj const* theCell = nullptr;
+}
+
+namespace AxTypeItem
+{
+void write(std::string& out, int indent, char const* head, AxString const& type)
+{
+    out += '\n';
+    AxReaderWriter::putIndent(out, indent + 1);
+    out += '(';
+    out += head;
+    out += " \"";
+    out += type.string();
+    out += "\")";
+}
+
+void check(AxlObj const* item, char const* head)
+{
+    if (item->car()->text() == head)
+    {
+        return;
+    }
+    AxDiagnostic finding;
+    finding.severity = AxSeverity::Warning;
+    finding.code = "type-item-missing";
+    finding.line = item->line();
+    finding.column = item->column();
+    finding.path = AxReadFrame::path();
+    finding.text = "the first item should be (" + std::string(head) + " ...) and is not read";
+    AxDiagnostics::report(std::move(finding));
+}
+
+AxlObj const* typeCell(AxlObjPtr const& expression)
+{
+    return expression.get()->cdr()->car()->cdr()->car();
+}
+
+Scope::Scope(AxlObj const* cell) : myOuter(theCell)
+{
+    theCell = cell;
+}
+
+Scope::~Scope()
+{
+    theCell = myOuter;
+}
+
+AxlObj const* Scope::cell()
+{
+    return theCell;
+}
+} // namespace AxTypeItem

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "AxReaderWriter.h"
+
+/// The item that starts the text of a descriptor and tells its class: `(head "type")`.
+namespace AxTypeItem
+{
+/// Appends the item on a line of its own, one level below `indent`.
+void write(std::string& out, int indent, char const* head, AxString const& type);
+/// Reports an item that stands in the place of the type item and is not headed `head`, since its value is lost.
+void check(AxlObj const* item, char const* head);
+/// The cell that names the type in `(name (head type) ...)`; nil for any other shape.
+AxlObj const* typeCell(AxlObjPtr const& expression);
+
+/// Names the cell whose text a creator is being looked up for, so that a factory, which is asked by text alone, can
+/// tell the place.
+class Scope
+{
+public:
+    explicit Scope(AxlObj const* cell);
+    Scope(Scope const&) = delete;
+    Scope& operator=(Scope const&) = delete;
+    ~Scope();
+
+    /// Null outside of all scopes.
+    static AxlObj const* cell();
+
+private:
+    AxlObj const* myOuter;
+};
+} // namespace AxTypeItem

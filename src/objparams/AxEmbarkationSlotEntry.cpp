@@ -1,0 +1,3 @@
+#include "AxEmbarkationSlotEntry.h"
+
+AxEmbarkationSlotEntry::~AxEmbarkationSlotEntry() = default;

@@ -1,0 +1,3 @@
+#include "AxLoadPoint.h"
+
+AxLoadPoint::~AxLoadPoint() = default;

@@ -1,0 +1,3 @@
+#include "AxRadioDescriptor.h"
+
+AxRadioDescriptor::~AxRadioDescriptor() = default;

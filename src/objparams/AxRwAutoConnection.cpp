@@ -1,0 +1,3 @@
+#include "AxRwAutoConnection.h"
+
+AxRwAutoConnection::~AxRwAutoConnection() = default;

@@ -1,0 +1,3 @@
+#include "AxSlotExclusion.h"
+
+AxSlotExclusion::~AxSlotExclusion() = default;

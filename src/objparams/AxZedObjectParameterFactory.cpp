@@ -1,0 +1,115 @@
+#include "AxZedObjectParameterFactory.h"
+
+#include "AxTypeItem.h"
+#include "AxUnknownType.h"
+#include "AxZedObjectParameterFactoryEntry.h"
+
+#include <vector>
+
+namespace
+{
+AxZedObjectParameterFactoryEntry* entryOf(AxListItem const* item)
+{
+    return static_cast<AxZedObjectParameterFactoryEntry*>(item->data());
+}
+} // namespace
+
+AxZedObjectParameterFactory::AxZedObjectParameterFactory() = default;
+
+AxZedObjectParameterFactory::AxZedObjectParameterFactory(AxZedObjectParameterFactory const& other) : AxHashlist()
+{
+    addEntriesOf(other);
+}
+
+AxZedObjectParameterFactory::~AxZedObjectParameterFactory()
+{
+    deleteEntries();
+}
+
+AxZedObjectParameterFactory& AxZedObjectParameterFactory::operator=(AxZedObjectParameterFactory const& other)
+{
+    if (this != &other)
+    {
+        deleteEntries();
+        addEntriesOf(other);
+    }
+    return *this;
+}
+
+void AxZedObjectParameterFactory::addEntriesOf(AxZedObjectParameterFactory const& other)
+{
+    for (AxListItem const* item = other.first(); item; item = item->next())
+    {
+        AxZedObjectParameterFactoryEntry* const copy = entryOf(item)->clone(*entryOf(item));
+        void* replaced = nullptr;
+        add(AxStringHashKey(copy->typeToCreate()), copy, &replaced);
+        delete static_cast<AxZedObjectParameterFactoryEntry*>(replaced);
+    }
+}
+
+void AxZedObjectParameterFactory::deleteEntries()
+{
+    while (AxListItem const* item = first())
+    {
+        AxZedObjectParameterFactoryEntry const* const entry = entryOf(item);
+        AxHashlist::remove(AxStringHashKey(entry->typeToCreate()));
+        delete entry;
+    }
+}
+
+void AxZedObjectParameterFactory::addCreatorFcn(AxString const& name, AxZedObjectParameters::CreatorFcn creator)
+{
+    auto* const entry = new AxZedObjectParameterFactoryEntry;
+    entry->setTypeToCreate(name);
+    entry->setCreatorFcn(creator);
+    void* replaced = nullptr;
+    add(AxStringHashKey(entry->typeToCreate()), entry, &replaced);
+    delete static_cast<AxZedObjectParameterFactoryEntry*>(replaced);
+}
+
+AxZedObjectParameters* AxZedObjectParameterFactory::createParameters(AxString const& name, AxEnvironmentPtr env,
+                                                                     AxEnvValuePtr* node)
+{
+    auto const* const entry = static_cast<AxZedObjectParameterFactoryEntry const*>(lookup(AxStringHashKey(name)));
+    if (entry && entry->creatorFcn())
+    {
+        AxZedObjectParameters* const made = entry->creatorFcn()(env, node);
+        if (made)
+        {
+            made->setParameterType(name);
+        }
+        return made;
+    }
+    std::vector<std::string_view> known;
+    for (AxListItem const* item = first(); item; item = item->next())
+    {
+        known.push_back(entryOf(item)->typeToCreate().string());
+    }
+    axReportUnknownType(name.string(), AxTypeItem::Scope::cell(), unknownTypeLine(name), known);
+    return nullptr;
+}
+
+std::string AxZedObjectParameterFactory::unknownTypeLine(AxString const& name)
+{
+    return "Can't create parameters of type " + name.string() + ".  No creator found.\n";
+}
+
+bool AxZedObjectParameterFactory::knows(AxString const& name) const
+{
+    return lookup(AxStringHashKey(name)) != nullptr;
+}
+
+std::list<AxString> AxZedObjectParameterFactory::typeNames() const
+{
+    std::list<AxString> names;
+    for (AxListItem const* item = first(); item; item = item->next())
+    {
+        names.push_back(entryOf(item)->typeToCreate());
+    }
+    return names;
+}
+
+AxZedObjectParameterFactory* AxZedObjectParameterFactory::create()
+{
+    return new (std::nothrow) AxZedObjectParameterFactory;
+}

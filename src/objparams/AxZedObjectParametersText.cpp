@@ -1,0 +1,391 @@
+#include "AxZedObjectParameters.h"
+
+#include "AxDiagnostic.h"
+#include "AxReadFrame.h"
+#include "AxReaderWriterFactory.h"
+#include "AxRwObjectType.h"
+#include "AxStreams.h"
+#include "AxTypeItem.h"
+#include "AxUnknownType.h"
+#include "AxZedObjectParameterFactory.h"
+#include "AxZedStateRepositoryUserExtensionFactory.h"
+#include "AxlFunctions.h"
+#include "AxlPrint.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace
+{
+constexpr char const* theTypeHead = "parameter-type";
+constexpr char const* theNoFactoryLine = "Can't create parameters without a parameter factory.\n";
+
+std::string printed(AxlObj const* cell)
+{
+    std::string text;
+    axAppendCell(text, cell);
+    return text;
+}
+
+AxDiagnostic located(AxlObj const* cell, char const* code, std::string text)
+{
+    AxDiagnostic made;
+    made.code = code;
+    made.line = cell->line();
+    made.column = cell->column();
+    made.path = AxReadFrame::path();
+    made.text = std::move(text);
+    return made;
+}
+
+AxSymbolString theBindingsHead()
+{
+    static AxSymbolString const head("variable-bindings");
+    return head;
+}
+
+/// The empty symbol for an item without a head.
+AxSymbolString headOf(AxlObj const* item)
+{
+    return item->car()->symbol();
+}
+
+std::unique_ptr<AxRwVariableBindings> bindingsOf(AxlObj const* item, AxBindingsList const& bindings)
+{
+    auto set = std::make_unique<AxRwVariableBindings>(theBindingsHead());
+    set->getSelf(AxlObjPtr(item), AxReaderWriter::nullFilenames(), bindings);
+    return set;
+}
+
+/// The type item of a record, wherever it stands; nil when there is none.
+AxlObj const* typeItemOf(AxlObj const* record)
+{
+    for (AxlObj const* rest = record->cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        if (rest->car()->car()->text() == theTypeHead)
+        {
+            return rest->car();
+        }
+    }
+    return AxlObj::nilCell();
+}
+} // namespace
+
+/// Records of every class are read without cells but for the items that are no members.
+struct AxZedObjectParameters::Entry : AxTypeEntry<AxZedObjectParameters>
+{
+    Entry() : AxTypeEntry(ops()) {}
+
+    static AxTypeOps ops()
+    {
+        AxTypeOps ops = AxTypeOps::withCreator<AxZedObjectParameters>();
+        ops.ownItem = [](AxReaderWriter& rw, AxlObj const* item, std::size_t, AxBindingsList& bindings)
+        {
+            auto& record = static_cast<AxZedObjectParameters&>(rw);
+            if (headOf(item) == theBindingsHead())
+            {
+                AxRwVariableBindings const* const set = bindingsOf(item, bindings).release();
+                auto const front = std::next(bindings.begin(), static_cast<int>(record.myVariableBindings.size()));
+                record.myVariableBindings.push_back(set);
+                bindings.insert(front, set);
+                return true;
+            }
+            return record.takeItem(item, bindings);
+        };
+        ops.afterItems = [](AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings)
+        { static_cast<AxZedObjectParameters&>(rw).finishReading(files, bindings); };
+        return ops;
+    }
+};
+
+AxZedObjectParameters::Entry const AxZedObjectParameters::ourEntry;
+AxZedObjectParameterFactory* AxZedObjectParameters::theFactory = nullptr;
+
+AxZedObjectParameterFactory* AxZedObjectParameters::factory()
+{
+    return theFactory;
+}
+
+void AxZedObjectParameters::setFactory(AxZedObjectParameterFactory* factory)
+{
+    theFactory = factory;
+}
+
+void AxZedObjectParameters::addParameterCreatorFcn(AxString const& name, CreatorFcn creator)
+{
+    if (!theFactory)
+    {
+        AxWarn("Can't add parameter creator without a parameter factory.\n");
+        return;
+    }
+    theFactory->addCreatorFcn(name, creator);
+}
+
+AxZedObjectParameters* AxZedObjectParameters::creator(AxEnvironmentPtr env, AxEnvValuePtr* node)
+{
+    return new (std::nothrow) AxZedObjectParameters(AxSymbolString(), nullptr, env, node);
+}
+
+AxZedObjectParameters* AxZedObjectParameters::createParameters(char const* typeName, AxEnvironmentPtr const& env,
+                                                               AxEnvValuePtr* node)
+{
+    if (!theFactory)
+    {
+        AxWarn("%s", theNoFactoryLine);
+        return nullptr;
+    }
+    try
+    {
+        std::unique_ptr<AxZedObjectParameters> made(theFactory->createParameters(AxString(typeName), env, node));
+        if (made)
+        {
+            made->init();
+        }
+        return made.release();
+    }
+    catch (std::exception const& error)
+    {
+        AxDiagnostics::report(located(AxlObj::nilCell(), "creation-failed", error.what()));
+        return nullptr;
+    }
+}
+
+AxZedObjectParameters* AxZedObjectParameters::createParameters(AxlObjPtr const& list, AxFilenameList const& files,
+                                                               AxBindingsList const& bindings)
+{
+    if (!theFactory)
+    {
+        AxWarn("%s", theNoFactoryLine);
+        return nullptr;
+    }
+    // Files written by others may hold the type item further back.
+    AxlObj const* const second = list->cdr()->car();
+    AxlObj const* const typeItem = typeItemOf(list.get());
+    AxlObj const* const typeCell = (typeItem->nil() ? second : typeItem)->cdr()->car();
+    AxString const type = typeCell->pname();
+    if (typeItem->nil() && !theFactory->knows(type))
+    {
+        AxlObj const* const place = second->line() != 0 ? second : list.get();
+        AxDiagnostics::reportStated(located(place, "type-item-missing", "expected (parameter-type \"...\")"),
+                                    AxZedObjectParameterFactory::unknownTypeLine(type));
+        return nullptr;
+    }
+    try
+    {
+        std::unique_ptr<AxZedObjectParameters> made;
+        {
+            AxTypeItem::Scope const place(typeCell);
+            made.reset(createParameters(type.c_str()));
+        }
+        if (made)
+        {
+            made->getSelf(list, files, bindings);
+        }
+        return made.release();
+    }
+    catch (std::exception const& error)
+    {
+        AxDiagnostics::report(located(list.get(), "read-failed", error.what()));
+        return nullptr;
+    }
+}
+
+void AxZedObjectParameters::preGetSelf()
+{
+    clearVariableBindings();
+    myExtensionItem = axcNil();
+}
+
+void AxZedObjectParameters::getSelf(AxlObjPtr const& expression, AxFilenameList const& files,
+                                    AxBindingsList const& bindings)
+{
+    std::vector<std::unique_ptr<AxRwVariableBindings>> own;
+    for (AxlObj const* rest = expression->cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        if (headOf(rest->car()) == theBindingsHead())
+        {
+            own.push_back(bindingsOf(rest->car(), bindings));
+        }
+    }
+    if (own.empty())
+    {
+        AxReaderWriter::getSelf(expression, files, bindings);
+    }
+    else
+    {
+        AxBindingsList known = bindings;
+        for (auto set = own.rbegin(); set != own.rend(); ++set)
+        {
+            known.push_front(set->get());
+        }
+        AxReaderWriter::getSelf(expression, files, known);
+        for (std::unique_ptr<AxRwVariableBindings>& set : own)
+        {
+            myVariableBindings.push_back(set.release());
+        }
+    }
+    if (!invalid())
+    {
+        finishReading(files, bindings);
+    }
+}
+
+void AxZedObjectParameters::finishReading(AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    AxlObjPtr const extensionItem = std::move(myExtensionItem);
+    myExtensionItem = axcNil();
+    if (!createStateRepositoryUserExtension(extensionItem, files, bindings) && !extensionItem.nil())
+    {
+        keepItem(registry()->entry(registry()->size() - 1).keyword, printed(extensionItem.get()));
+    }
+    reportDuplicateData();
+}
+
+bool AxZedObjectParameters::createStateRepositoryUserExtension(AxlObjPtr const& item, AxFilenameList const& files,
+                                                               AxBindingsList const& bindings)
+{
+    AxString const& type = stateRepositoryUserExtensionType();
+    AxZedStateRepositoryUserExtensionFactory const* const extensions = AxZedStateRepositoryUserExtension::factory();
+    std::string cause;
+    std::unique_ptr<AxZedStateRepositoryUserExtension> made;
+    if (type.isNull())
+    {
+        cause = "No state-repository-extension-type parameter specified";
+    }
+    else if (!extensions)
+    {
+        cause = "AxZedStateRepositoryUserExtension factory not specified";
+    }
+    else
+    {
+        made.reset(extensions->create(type));
+        if (!made)
+        {
+            bool const isKnown =
+                std::find(extensions->keys().begin(), extensions->keys().end(), type) != extensions->keys().end();
+            cause = "Cannot create state repository user extension";
+            cause += isKnown ? "" : " " + type.string();
+        }
+    }
+    if (!made)
+    {
+        AxDiagnostic failure = located(item.get(), "user-extension", cause);
+        failure.path = AxReaderWriter::name().string().string();
+        AxDiagnostics::reportStated(
+            std::move(failure),
+            "AxZedObjectParameters::getSelf() : Error creating myStateRepositoryUserExtension\n" + cause + '\n');
+        return false;
+    }
+    if (type == AxZedStateRepositoryUserExtension::baseType())
+    {
+        AxInfo << "Creating myStateRepositoryUserExtension of base type AxZedStateRepositoryUserExtension" << AxEndl;
+    }
+    AxZedStateRepositoryUserExtension* const extension = made.release();
+    setStateRepositoryUserExtension(extension);
+    if (!item.nil())
+    {
+        extension->getSelf(item, files, bindings);
+    }
+    return true;
+}
+
+void AxZedObjectParameters::reportDuplicateData() const
+{
+    for (AxRwProperty const* property : myParameterData)
+    {
+        AxString const& name = property->AxReaderWriter::name().string();
+        if (myStateData.find(name))
+        {
+            std::string const line = AxReaderWriter::name().string().string() +
+                                     " has duplicate parameter and state data named: " + name.string() +
+                                     ".  Only state data will be published on the network by that name.";
+            AxDiagnostic finding;
+            finding.severity = AxSeverity::Warning;
+            finding.code = "duplicate-data";
+            finding.path = AxReaderWriter::name().string().string();
+            finding.text = '"' + name.string() + "\" stands in both \"parameter-data\" and \"state-data\"";
+            AxDiagnostics::reportStated(std::move(finding), line + '\n');
+        }
+    }
+}
+
+AxlObjPtr AxZedObjectParameters::getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const& bindings)
+{
+    AxlObj const* lead = items.get();
+    while (lead->isPair() && takeItem(lead->car(), bindings))
+    {
+        lead = lead->cdr();
+    }
+    std::vector<AxlObj const*> others;
+    bool areAllOthers = true;
+    for (AxlObj const* rest = lead; rest->isPair(); rest = rest->cdr())
+    {
+        bool const isTaken = takeItem(rest->car(), bindings);
+        areAllOthers = areAllOthers && !isTaken;
+        if (!isTaken)
+        {
+            others.push_back(rest->car());
+        }
+    }
+    if (areAllOthers)
+    {
+        return AxlObjPtr(lead);
+    }
+    AxlObjPtr list = axcNil();
+    for (auto item = others.rbegin(); item != others.rend(); ++item)
+    {
+        list = AxcCons(AxlObjPtr(*item), list);
+    }
+    return list;
+}
+
+bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& bindings)
+{
+    static AxSymbolString const typeHead(theTypeHead);
+    static AxSymbolString const extensionHead("user-extension");
+    static AxSymbolString const objectTypeHead("object-type");
+    static AxSymbolString const matchTypeHead("match-type");
+    static AxSymbolString const nameHead("record-name");
+
+    AxSymbolString const head = headOf(item);
+    if (head.isNull())
+    {
+        return false;
+    }
+    if (head == extensionHead)
+    {
+        myExtensionItem = AxlObjPtr(item);
+        return true;
+    }
+    if (head == objectTypeHead || head == matchTypeHead)
+    {
+        AxRwObjectType type(head, nullptr);
+        type.getSelf(AxlObjPtr(item), nullFilenames(), bindings);
+        if (type.valueSpecified() && (!type.isVariableReference() || type.variableIsBound()))
+        {
+            (head == objectTypeHead ? myObjectType : myMatchType) = type.value();
+        }
+        else
+        {
+            keepItem(AxSymbolString(), printed(item));
+        }
+        return true;
+    }
+    if (head == nameHead)
+    {
+        setName(item->cdr()->car()->pname());
+        return true;
+    }
+    return head == typeHead || head == theBindingsHead();
+}
+
+void AxZedObjectParameters::putData(std::string& out, int indent)
+{
+    AxTypeItem::write(out, indent, theTypeHead, type());
+    for (AxRwVariableBindings const* bindings : myVariableBindings)
+    {
+        out += '\n';
+        putIndent(out, indent + 1);
+        const_cast<AxRwVariableBindings*>(bindings)->putSelf(out, indent + 1, true, AxFilename::nullFilename());
+    }
+}

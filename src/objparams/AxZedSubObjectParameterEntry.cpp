@@ -1,0 +1,3 @@
+#include "AxZedSubObjectParameterEntry.h"
+
+AxZedSubObjectParameterEntry::~AxZedSubObjectParameterEntry() = default;

@@ -1,0 +1,62 @@
+#include "AxParameterDbFiles.h"
+
+#include "AxReaderWriterFile.h"
+#include "AxRwVariableBindings.h"
+
+#include <boost/filesystem/operations.hpp>
+#include <cstdarg>
+
+AxFilePtr axOpenToRead(AxFilename const& file)
+{
+    AxFilename found;
+    return AxFilePtr(AxReaderWriterFile::loadHighestPriorityFile(file, {}, found, true));
+}
+
+AxFilename axDirectoryOf(AxFilename const& file)
+{
+    boost::system::error_code ignored;
+    std::string directory =
+        boost::filesystem::absolute(boost::filesystem::path(file.native()).parent_path(), ignored).string();
+    while (!directory.empty() && AxFilename::isSeparator(directory.back()))
+    {
+        directory.pop_back();
+    }
+    return AxFilename(directory);
+}
+
+void axBindDatabaseDirectory(AxRwVariableBindings& bindings, AxFilename const& directory)
+{
+    bindings.setString("opd-dir", directory.string());
+}
+
+std::string axFormat(char const* format, ...)
+{
+    std::va_list arguments;
+    va_start(arguments, format);
+    std::va_list again;
+    va_copy(again, arguments);
+    int const length = std::vsnprintf(nullptr, 0, format, arguments);
+    va_end(arguments);
+    std::string text(length > 0 ? static_cast<std::size_t>(length) : 0, '\0');
+    std::vsnprintf(text.data(), text.size() + 1, format, again);
+    va_end(again);
+    return text;
+}
+
+AxDiagnostic axFault(char const* code, AxFilename const& file, std::string text, AxSeverity severity)
+{
+    AxDiagnostic fault;
+    fault.severity = severity;
+    fault.code = code;
+    fault.file = file.native();
+    fault.text = std::move(text);
+    return fault;
+}
+
+AxDiagnostic axFaultAt(char const* code, unsigned line, unsigned column, std::string text, AxSeverity severity)
+{
+    AxDiagnostic fault = axFault(code, AxSourceScope::currentFile(), std::move(text), severity);
+    fault.line = line;
+    fault.column = column;
+    return fault;
+}

@@ -1,0 +1,422 @@
+#include "AxSxpParameterDb.h"
+
+#include "AxParameterDbFiles.h"
+#include "AxReaderWriterFile.h"
+#include "AxRecursiveReaderWriterIterator.h"
+#include "AxRemoteConfigurationList.h"
+#include "AxRwVariableBindings.h"
+#include "AxStreams.h"
+#include "AxSxpParameterDbEntry.h"
+#include "AxSxpParameterDbFileData.h"
+#include "AxSxpParameterDbReader.h"
+#include "AxSxpParameterDbWriter.h"
+#include "AxZedObjectParameters.h"
+
+#include <boost/filesystem/operations.hpp>
+
+namespace fs = boost::filesystem;
+
+namespace
+{
+constexpr int theCurrentVersion = 101;
+/// Databases of this version name table files relative to the application.
+constexpr int theApplicationRelativeVersion = 100;
+
+/// Copies the regular files below `from` into `to`, making directories for those that hold some.
+bool copyTree(fs::path const& from, fs::path const& to)
+{
+    boost::system::error_code error;
+    if (!fs::is_directory(from, error))
+    {
+        return false;
+    }
+    fs::recursive_directory_iterator walk(from, error);
+    bool isComplete = !error;
+    for (fs::recursive_directory_iterator const end; walk != end && !error; walk.increment(error))
+    {
+        if (!fs::is_regular_file(walk->path(), error))
+        {
+            continue;
+        }
+        fs::path const target = to / fs::relative(walk->path(), from, error);
+        fs::create_directories(target.parent_path(), error);
+        fs::copy_file(walk->path(), target, fs::copy_option::overwrite_if_exists, error);
+        isComplete = isComplete && !error;
+    }
+    return isComplete && !error;
+}
+} // namespace
+
+AxSxpParameterDb::AxSxpParameterDb()
+    : myVersionNumber(theCurrentVersion), myListCreator(AxRemoteConfigurationList::create)
+{
+}
+
+AxSxpParameterDb::~AxSxpParameterDb() = default;
+
+AxSxpParameterDb* AxSxpParameterDb::create()
+{
+    return new (std::nothrow) AxSxpParameterDb;
+}
+
+AxString const& AxSxpParameterDb::opdFilenameExtension()
+{
+    static AxString const extension(".opd");
+    return extension;
+}
+
+AxString const& AxSxpParameterDb::opeFilenameExtension()
+{
+    static AxString const extension(".ope");
+    return extension;
+}
+
+AxFilename const& AxSxpParameterDb::theOldParameterDbDirectory()
+{
+    static AxFilename const directory("..\\data\\parameters");
+    return directory;
+}
+
+std::map<AxString, AxFilename> const& AxSxpParameterDb::extensionToPathMap()
+{
+    static std::map<AxString, AxFilename> const map{{"asl", ".\\ammoselect"},
+                                                    {"dmg", ".\\damage"},
+                                                    {"det", ".\\detection"},
+                                                    {"frm", ".\\formation"},
+                                                    {"hit", ".\\hit"}};
+    return map;
+}
+
+bool AxSxpParameterDb::init()
+{
+    AxZedParameterDb::init();
+    setReader(createParamDbReader());
+    setWriter(createSxpParamDbWriter());
+    createRemoteConfigurationList();
+    return true;
+}
+
+AxSxpParameterDbReader* AxSxpParameterDb::createParamDbReader()
+{
+    return new AxSxpParameterDbReader;
+}
+
+AxSxpParameterDbWriter* AxSxpParameterDb::createSxpParamDbWriter()
+{
+    return new AxSxpParameterDbWriter;
+}
+
+bool AxSxpParameterDb::createRemoteConfigurationList()
+{
+    myRemoteConfigurationList.reset(myListCreator ? myListCreator("remote-configurations", nullptr) : nullptr);
+    return myRemoteConfigurationList != nullptr;
+}
+
+AxZedParameterDbEntry* AxSxpParameterDb::createParameterEntry() const
+{
+    return new AxSxpParameterDbEntry;
+}
+
+AxSxpParameterDbEntry* AxSxpParameterDb::add(AxObjectType const& type, AxFilename const& file, bool typeIsMatchType,
+                                             AxZedObjectParameters* params)
+{
+    AxZedParameterDbEntry* const made = createParameterEntry();
+    auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(made);
+    if (!entry)
+    {
+        delete made;
+        return nullptr;
+    }
+    entry->setObjectType(type);
+    entry->setParameters(params);
+    entry->setFilename(file);
+    entry->setTypeIsMatchType(typeIsMatchType);
+    addParameterDbEntry(entry);
+    return entry;
+}
+
+AxZedObjectParameters* AxSxpParameterDb::lookup(AxObjectType const& type, AxObjectType* matchedType,
+                                                AxString* info) const
+{
+    AxZedParameterDbEntry* const found = lookupParameterDbEntry(type, matchedType);
+    if (!found)
+    {
+        return nullptr;
+    }
+    auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(found);
+    if (!entry)
+    {
+        return found->parameters();
+    }
+    if (info)
+    {
+        *info = entry->filename().string();
+    }
+    AxZedObjectParameters* const record = getParameters(entry);
+    if (record && matchedType)
+    {
+        *matchedType = record->objectType();
+    }
+    return record;
+}
+
+AxZedObjectParameters* AxSxpParameterDb::getParameters(AxSxpParameterDbEntry* entry) const
+{
+    if (!entry)
+    {
+        AxWarn("AxSxpParameterDb::getParameters() : NULL entry\n");
+        return nullptr;
+    }
+    if (AxZedObjectParameters* const held = entry->parameters())
+    {
+        return held;
+    }
+    AxZedObjectParameters* const record = entry->load();
+    if (record)
+    {
+        record->setMatchType(entry->objectType());
+        record->setObjectType(entry->objectType());
+        if (myVersionNumber == theApplicationRelativeVersion)
+        {
+            // A look-up does not change the database; that it is const does not bind derived classes.
+            const_cast<AxSxpParameterDb*>(this)->updateReaderWriterFilePaths(*record);
+        }
+    }
+    return record;
+}
+
+void AxSxpParameterDb::removeAll()
+{
+    AxZedParameterDb::removeAll();
+    if (myRemoteConfigurationList)
+    {
+        myRemoteConfigurationList->removeAndDeleteAll();
+    }
+}
+
+bool AxSxpParameterDb::load(AxFilename const& file)
+{
+    if (!myReader)
+    {
+        AxWarn("AxZedParameterDb::load() - Can't load %s.  Parameter DB reader is NULL\n", file.c_str());
+        return false;
+    }
+    return myReader->loadParameterDb(file, this);
+}
+
+bool AxSxpParameterDb::loadAll(AxFilename const& file)
+{
+    if (!load(file))
+    {
+        return false;
+    }
+    AxList const& list = parameterList();
+    std::uint32_t const changes = list.changeCount();
+    for (AxListItem const* item = list.first(); item; item = item->next())
+    {
+        auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));
+        if (entry)
+        {
+            getParameters(entry);
+        }
+        if (list.changeCount() != changes)
+        {
+            AxDiagnostics::report(axFault("list-changed", file, "entries came or went while all were being loaded"));
+            break;
+        }
+    }
+    return true;
+}
+
+bool AxSxpParameterDb::save(AxFilename const& file)
+{
+    if (!myWriter)
+    {
+        AxWarn("AxZedParameterDb::save() - Can't save %s.  Parameter DB writer is NULL\n", file.c_str());
+        return false;
+    }
+    AxFilename const base = stripExtension(file.stripPath(), opdFilenameExtension());
+    bool const isInRoot = getPath(file).isNull() && !(base == file) && !(file.stripPath() == file);
+    bool isWritten = false;
+    if (base == file.stripPath())
+    {
+        AxDiagnostics::report(axFault("bad-name", file, "the name of a database file ends in \".opd\""));
+    }
+    else if (isInRoot)
+    {
+        AxDiagnostics::report(axFault("bad-name", file, "a database cannot be saved directly in the root directory"));
+    }
+    else
+    {
+        isWritten = myWriter->write(this, file, AxFilename(".\\" + base.string().string()));
+    }
+    if (!isWritten)
+    {
+        AxWarn << "Error writing parameter database file " << file << AxEndl;
+    }
+    return isWritten;
+}
+
+AxFilename AxSxpParameterDb::getPath(AxFilename const& file) const
+{
+    std::string const& text = file.string().string();
+    std::size_t const last = text.find_last_of("/\\");
+    return last == std::string::npos || last == 0 ? AxFilename::nullFilename() : AxFilename(text.substr(0, last + 1));
+}
+
+AxFilename AxSxpParameterDb::stripExtension(AxFilename const& file, AxString const& extension) const
+{
+    std::string const& text = file.string().string();
+    return text.ends_with(extension.string()) ? AxFilename(text.substr(0, text.size() - extension.string().size()))
+                                              : file;
+}
+
+void AxSxpParameterDb::setVersionNumber(int version)
+{
+    myVersionNumber = version;
+}
+
+int AxSxpParameterDb::versionNumber() const
+{
+    return myVersionNumber;
+}
+
+void AxSxpParameterDb::addDependentParameterFileToCopyPair(AxFilename const& from, AxFilename const& to)
+{
+    myCopyPairs.insert_or_assign(from.string(), to.string());
+}
+
+void AxSxpParameterDb::clearDependentParameterFileToCopyPairs()
+{
+    myCopyPairs.clear();
+}
+
+AxSxpParameterDb::CopyPairs const& AxSxpParameterDb::dependentParameterFileToCopyPairs() const
+{
+    return myCopyPairs;
+}
+
+void AxSxpParameterDb::addVariableBindings(VariableBindingsPtr const& bindings)
+{
+    if (bindings)
+    {
+        myVariableBindings.push_back(bindings);
+    }
+}
+
+std::list<AxSxpParameterDb::VariableBindingsPtr> const& AxSxpParameterDb::variableBindings() const
+{
+    return myVariableBindings;
+}
+
+void AxSxpParameterDb::setReader(AxSxpParameterDbReader* reader)
+{
+    if (reader != myReader.get())
+    {
+        myReader.reset(reader);
+    }
+}
+
+void AxSxpParameterDb::setWriter(AxSxpParameterDbWriter* writer)
+{
+    if (writer != myWriter.get())
+    {
+        myWriter.reset(writer);
+    }
+}
+
+std::vector<AxFilename> const& AxSxpParameterDb::searchPaths() const
+{
+    return mySearchPaths;
+}
+
+void AxSxpParameterDb::setSearchPaths(std::vector<AxFilename> const& paths)
+{
+    mySearchPaths = paths;
+}
+
+bool AxSxpParameterDb::copyDependentParameterDirectories(AxFilename const& from, AxFilename const& to)
+{
+    AxInfo("Copying dependent parameter file directories from %s to %s\n", from.c_str(), to.c_str());
+    bool areAllCopied = true;
+    for (char const* directory : {"ammoselect", "damage", "detection", "hit", "formation"})
+    {
+        bool const isCopied = copyTree(fs::path(from.native()) / directory, fs::path(to.native()) / directory);
+        if (!isCopied && std::string_view(directory) != "formation")
+        {
+            AxWarn("Error copying %s directory to %s\n", directory, to.c_str());
+        }
+        areAllCopied = areAllCopied && isCopied;
+    }
+    return areAllCopied;
+}
+
+AxFilename AxSxpParameterDb::fileTableName(AxFilename const& file) const
+{
+    AxFilename const bare = file.stripPath();
+    AxString const extension = bare.extension();
+    auto const found = extensionToPathMap().find(extension);
+    if (found != extensionToPathMap().end())
+    {
+        return found->second.combine(bare);
+    }
+    AxWarn << "File extension " << extension << " does not match a known type" << AxEndl;
+    AxWarn << "File " << file << " will be relative to the .ope file" << AxEndl;
+    return AxFilename(".\\" + bare.string().string());
+}
+
+void AxSxpParameterDb::updateReaderWriterFilePaths(AxZedObjectParameters& parameters)
+{
+    AxRecursiveReaderWriterIterator walk(*parameters.registry());
+    for (AxReaderWriter* rw = walk.first(); rw; rw = walk.next())
+    {
+        auto* const member = dynamic_cast<AxReaderWriterFile*>(rw);
+        if (!member || member->filename().isNull() || !AxReaderWriter::appPath().combine(member->filename()).exists())
+        {
+            continue;
+        }
+        member->setFilename(fileTableName(member->filename()));
+        AxInfo << "New AxReaderWriter filename set to " << member->filename() << AxEndl;
+    }
+}
+
+int AxSxpParameterDb::addUnloadedFilesToCopyPairs(AxFilename const& directory)
+{
+    int count = 0;
+    for (AxListItem const* item = parameterList().first(); item; item = item->next())
+    {
+        auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));
+        if (!entry || entry->parameters() || entry->filename().isNull() || !entry->filename().isRelative())
+        {
+            continue;
+        }
+        AxFilename const from = entry->foundFilename();
+        AxFilename const to = directory.combine(entry->filename());
+        if (!from.isNull() && !to.exists())
+        {
+            addDependentParameterFileToCopyPair(from, to);
+            ++count;
+        }
+    }
+    return count;
+}
+
+void AxSxpParameterDb::keepUnreadItems(AxSxpParameterDbFileData const& data)
+{
+    if (data.keptItems().empty() && data.entryList().unreadElements().empty())
+    {
+        return;
+    }
+    if (!myUnreadItems)
+    {
+        myUnreadItems = std::make_unique<AxSxpParameterDbFileData>();
+    }
+    for (auto const& [after, text] : data.keptItems())
+    {
+        myUnreadItems->keepItem(after, text);
+    }
+    for (std::string const& text : data.entryList().unreadElements())
+    {
+        myUnreadItems->entryList().keepUnread(text);
+    }
+}

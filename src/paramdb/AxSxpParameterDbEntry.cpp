@@ -1,0 +1,296 @@
+#include "AxSxpParameterDbEntry.h"
+
+#include "AxExtFileInputStream.h"
+#include "AxParameterDbFiles.h"
+#include "AxReaderWriterFactory.h"
+#include "AxReaderWriterFile.h"
+#include "AxRwVariableBindings.h"
+#include "AxSxpParameterDbFileEntry.h"
+#include "AxZedObjectParameters.h"
+#include "AxlFunctions.h"
+#include "AxlSyntaxError.h"
+
+#include <cerrno>
+#include <cstring>
+#include <exception>
+
+namespace
+{
+constexpr int theCurrentVersion = 101;
+
+/// Holds a flag for as long as it lives.
+class Marked
+{
+public:
+    explicit Marked(bool& flag) : myFlag(flag) { myFlag = true; }
+    Marked(Marked const&) = delete;
+    Marked& operator=(Marked const&) = delete;
+    ~Marked() { myFlag = false; }
+
+private:
+    bool& myFlag;
+};
+
+/// Whether a record's text names its type: in the second element, or in a later item of that head.
+bool namesType(AxlObj const* object)
+{
+    auto const hasText = [](AxlObj const* item)
+    { return item->isPair() && (item->cdr()->car()->isSymbol() || item->cdr()->car()->isString()); };
+    AxlObj const* const items = object->cdr();
+    if (hasText(items->car()))
+    {
+        return true;
+    }
+    for (AxlObj const* rest = items->cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        if (rest->car()->car()->text() == "parameter-type" && hasText(rest->car()))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+} // namespace
+
+AxSxpParameterDbEntry::AxSxpParameterDbEntry() : myVersion(theCurrentVersion) {}
+
+AxSxpParameterDbEntry::~AxSxpParameterDbEntry() = default;
+
+AxZedObjectParameters* AxSxpParameterDbEntry::load()
+{
+    return loadFromFile(filename());
+}
+
+AxString AxSxpParameterDbEntry::uniqueIdentifier() const
+{
+    return myFilename.string();
+}
+
+void AxSxpParameterDbEntry::setFilename(AxFilename const& file)
+{
+    myFilename = file;
+}
+
+AxFilename const& AxSxpParameterDbEntry::filename() const
+{
+    return myFilename;
+}
+
+void AxSxpParameterDbEntry::setPath(AxFilename const& path)
+{
+    myPath = path;
+}
+
+AxFilename const& AxSxpParameterDbEntry::path() const
+{
+    return myPath;
+}
+
+void AxSxpParameterDbEntry::setVersion(int version)
+{
+    myVersion = version;
+}
+
+void AxSxpParameterDbEntry::setVariableBindings(boost::shared_ptr<AxRwVariableBindings> const& bindings)
+{
+    myVariableBindings = bindings;
+}
+
+boost::shared_ptr<AxRwVariableBindings> AxSxpParameterDbEntry::variableBindings() const
+{
+    return myVariableBindings;
+}
+
+std::vector<AxFilename> const& AxSxpParameterDbEntry::searchPaths() const
+{
+    return mySearchPaths;
+}
+
+void AxSxpParameterDbEntry::setSearchPaths(std::vector<AxFilename> const& paths)
+{
+    mySearchPaths = paths;
+}
+
+void AxSxpParameterDbEntry::setFileEntry(AxSxpParameterDbFileEntry const& entry)
+{
+    myFileEntry.reset(entry.copy());
+}
+
+std::vector<AxFilename> AxSxpParameterDbEntry::directories() const
+{
+    std::vector<AxFilename> directories = mySearchPaths;
+    for (AxFilename const& directory : {myPath, myDatabaseDirectory})
+    {
+        if (!directory.isNull())
+        {
+            directories.push_back(directory);
+        }
+    }
+    return directories;
+}
+
+AxFilename AxSxpParameterDbEntry::foundFilename() const
+{
+    AxFilename found;
+    AxFilePtr const open(AxReaderWriterFile::loadHighestPriorityFile(filename(), directories(), found, true));
+    return open ? found : AxFilename();
+}
+
+AxZedObjectParameters* AxSxpParameterDbEntry::loadFromFile(AxFilename const& file)
+{
+    if (myIsLoading)
+    {
+        AxDiagnostics::report(axFault("record-loading", file, "the record was asked for while it is being read"));
+        return nullptr;
+    }
+    Marked const loading(myIsLoading);
+    try
+    {
+        AxZedObjectParameters* const record = file.extension() == "entity" ? readEntityFile(file) : readTextFile(file);
+        return record != nullptr ? hold(record) : nullptr;
+    }
+    catch (std::exception const& error)
+    {
+        AxDiagnostics::report(axFault("read-failed", file, error.what()));
+        return nullptr;
+    }
+}
+
+AxZedObjectParameters* AxSxpParameterDbEntry::readEntityFile(AxFilename const& file)
+{
+    AxDiagnostics::report(axFault("entity-file", myPath.combine(file), "entity files cannot be read by this build"));
+    return nullptr;
+}
+
+AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& file)
+{
+    AxFilename found;
+    std::vector<AxFilename> const searched = directories();
+    AxFilePtr const open(AxReaderWriterFile::loadHighestPriorityFile(file, searched, found, true));
+    if (!open)
+    {
+        char const* const reason = std::strerror(errno);
+        AxDiagnostic fault = axFault("cannot-open", file, reason);
+        for (AxFilename const& directory : searched)
+        {
+            fault.hint += (fault.hint.empty() ? "searched " : ", ") + directory.native();
+        }
+        AxDiagnostics::reportStated(std::move(fault),
+                                    axFormat("Could not open parameter file %s: %s\n", file.c_str(), reason));
+        return nullptr;
+    }
+    myReading = found;
+    AxSourceScope const scope(found);
+    AxZedObjectParameters* const record = readParameterEntry(open.get(), AxEnvironmentPtr(), nullptr);
+    if (record != nullptr && record->invalid())
+    {
+        AxDiagnostics::reportStated(axFault("invalid-record", found, "the record is not complete"),
+                                    axFormat("Parameters are invalid for %s\n", file.c_str()));
+    }
+    return record;
+}
+
+AxZedObjectParameters* AxSxpParameterDbEntry::readParameterEntry(std::FILE* file, AxEnvironmentPtr const& env,
+                                                                 AxEnvValuePtr* value)
+{
+    AxFilename const& name = myReading.isNull() ? myFilename : myReading;
+    AxExtFileInputStream stream(file, name);
+    if (!stream.isValid())
+    {
+        AxDiagnostics::reportStated(axFault("unreadable-file", name, "the file cannot be read"),
+                                    axFormat("couldn't create lisp stream for %s\n", myFilename.c_str()));
+        return nullptr;
+    }
+    try
+    {
+        AxlReadOptions options;
+        options.closeOpenLists = true;
+        AxlReadResult const result = AxcRead(stream, AxlEnv(), options);
+        if (result.expr->isEof())
+        {
+            AxDiagnostics::report(axFaultAt("empty-file", 1, 1, "expected a record, found an empty file"));
+            return nullptr;
+        }
+        if (result.unclosed)
+        {
+            AxDiagnostics::report(axFaultAt("unclosed-list", result.line, result.column, "the list is not closed"));
+        }
+        AxZedObjectParameters* const record = loadParameters(result.expr, env, value);
+        if (record != nullptr && result.unclosed)
+        {
+            record->setInvalid(true);
+        }
+        std::uint32_t line = 0;
+        std::uint32_t column = 0;
+        if (axTextFollows(stream, line, column))
+        {
+            AxDiagnostics::report(
+                axFaultAt("text-follows", line, column, "the text behind the record is not read", AxSeverity::Warning));
+        }
+        return record;
+    }
+    catch (AxlSyntaxError const& error)
+    {
+        AxDiagnostics::report(error.diagnostic());
+        return nullptr;
+    }
+}
+
+AxZedObjectParameters* AxSxpParameterDbEntry::loadParameters(AxlObjPtr const& object, AxEnvironmentPtr const&,
+                                                             AxEnvValuePtr*)
+{
+    if (!namesType(object.get()))
+    {
+        AxlObj const* const second = object->cdr()->car();
+        AxlObj const* const place = second->line() != 0 ? second : object.get();
+        AxDiagnostics::report(
+            axFaultAt("no-parameter-type", place->line(), place->column(), "expected (parameter-type ...)"));
+        return nullptr;
+    }
+    AxFilenameList files;
+    if (!myReading.isNull())
+    {
+        files.push_back(myReading.directory());
+    }
+    files.insert(files.end(), mySearchPaths.begin(), mySearchPaths.end());
+    if (!myPath.isNull())
+    {
+        files.push_back(myPath);
+    }
+    AxRwVariableBindings database("opd-variables");
+    AxBindingsList bindings;
+    if (myVariableBindings)
+    {
+        bindings.push_back(myVariableBindings.get());
+    }
+    if (!myDatabaseDirectory.isNull())
+    {
+        axBindDatabaseDirectory(database, myDatabaseDirectory);
+        bindings.push_back(&database);
+    }
+    return AxZedObjectParameters::createParameters(object, files, bindings);
+}
+
+AxZedObjectParameters* AxSxpParameterDbEntry::hold(AxZedObjectParameters* record)
+{
+    AxZedObjectParameters* const held = parameters();
+    if (held == nullptr)
+    {
+        setParameters(record);
+        return record;
+    }
+    std::unique_ptr<AxZedObjectParameters> const fresh(record);
+    AxString const freshType = fresh->type();
+    AxString const heldType = held->type();
+    if (!(freshType == heldType))
+    {
+        AxDiagnostics::reportStated(
+            axFault("other-type", myReading, "the record is a " + freshType.string()),
+            axFormat("Cannot load different parameter %s type from file into existing type %s\n", freshType.c_str(),
+                     heldType.c_str()));
+        return nullptr;
+    }
+    AxReaderWriter::factory()->copyReaderWriter(fresh.get(), held);
+    held->setInvalid(fresh->invalid());
+    return held;
+}

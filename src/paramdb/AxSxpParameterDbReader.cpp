@@ -1,0 +1,309 @@
+#include "AxSxpParameterDbReader.h"
+
+#include "AxExtFileInputStream.h"
+#include "AxParameterDbFiles.h"
+#include "AxReaderWriterFile.h"
+#include "AxRemoteConfigurationList.h"
+#include "AxStreams.h"
+#include "AxSxpParameterDb.h"
+#include "AxSxpParameterDbEntry.h"
+#include "AxSxpParameterDbFileData.h"
+#include "AxZedObjectParameters.h"
+#include "AxZedObjectParametersList.h"
+#include "AxlFunctions.h"
+#include "AxlSyntaxError.h"
+
+#include <boost/make_shared.hpp>
+#include <cerrno>
+#include <cstring>
+#include <exception>
+
+namespace
+{
+constexpr int theCurrentVersion = 101;
+/// From this version on names are relative to the data root rather than to the application.
+constexpr int theFirstVersionWithDataRoot = 100;
+
+/// Reads the first expression of a stream and reports what is wrong with its text. Null at the end of the file; what
+/// was read counts when the text ends too early.
+AxlObjPtr readExpression(AxlInputStream& stream)
+{
+    AxlReadOptions options;
+    options.closeOpenLists = true;
+    AxlReadResult const result = AxcRead(stream, AxlEnv(), options);
+    if (result.expr->isEof())
+    {
+        return axcNil();
+    }
+    if (result.unclosed)
+    {
+        AxDiagnostics::report(axFaultAt("unclosed-list", result.line, result.column, "the list is not closed"));
+    }
+    std::uint32_t line = 0;
+    std::uint32_t column = 0;
+    if (axTextFollows(stream, line, column))
+    {
+        AxDiagnostics::report(
+            axFaultAt("text-follows", line, column, "the text behind the first list is not read", AxSeverity::Warning));
+    }
+    return result.expr;
+}
+} // namespace
+
+AxSxpParameterDbReader::~AxSxpParameterDbReader() = default;
+
+AxSxpParameterDbFileData* AxSxpParameterDbReader::createParameterDbFileData()
+{
+    return new AxSxpParameterDbFileData;
+}
+
+bool AxSxpParameterDbReader::loadParameterDb(AxFilename const& file, AxSxpParameterDb* db)
+{
+    if (!db)
+    {
+        AxWarn("AxSxpParameterDbReader::loadParameterDb() : Can't load NULL parameter database\n");
+        return false;
+    }
+    AxInfo("Loading parameter database file %s . . .\n", file.c_str());
+    db->clearDependentParameterFileToCopyPairs();
+    int version = 0;
+    if (!AxSxpParameterDbFileData::getVersion(file, version))
+    {
+        AxWarn << "Can't determine version number in file " << file << AxEndl;
+        return false;
+    }
+    std::unique_ptr<AxSxpParameterDbFileData> const data(createParameterDbFileData());
+    auto const creator = db->remoteConfigurationListCreatorFcn();
+    std::unique_ptr<AxRemoteConfigurationList> const configurations(
+        creator ? creator("remote-configurations", data->registry()) : nullptr);
+    data->setRemoteConfigurationList(configurations.get());
+    bool const isLoaded = loadData(file, version, *data, *db);
+    data->setRemoteConfigurationList(nullptr);
+    return isLoaded;
+}
+
+bool AxSxpParameterDbReader::loadData(AxFilename const& file, int version, AxSxpParameterDbFileData& data,
+                                      AxSxpParameterDb& db)
+{
+    AxFilename dataRoot;
+    myDatabaseDirectory = axDirectoryOf(file);
+    if (!load(file, &data, dataRoot))
+    {
+        return false;
+    }
+    if (!data.versionSpecified())
+    {
+        data.setVersion(version);
+    }
+    if (version > theCurrentVersion)
+    {
+        AxDiagnostics::report(axFault(
+            "newer-version", file, "version " + std::to_string(version) + " is newer than 101", AxSeverity::Warning));
+    }
+    AxFilename const basePath = version < theFirstVersionWithDataRoot ? AxReaderWriter::appPath() : dataRoot;
+    return putFileDataInParameterDb(data, basePath, &db);
+}
+
+bool AxSxpParameterDbReader::load(AxFilename const& file, AxSxpParameterDbFileData* data, AxFilename& dataRoot)
+{
+    if (!data)
+    {
+        AxWarn("AxSxpParameterDbReader::getParameterDbData() : Can't load parameter data file into NULL "
+               "AxSxpParameterDbFileData object\n");
+        return false;
+    }
+    AxFilePtr const stream = axOpenToRead(file);
+    if (!stream)
+    {
+        char const* const reason = std::strerror(errno);
+        AxDiagnostics::reportStated(axFault("cannot-open", file, reason),
+                                    axFormat("Could not open parameter database file %s: %s\n", file.c_str(), reason));
+        return false;
+    }
+    return readFileData(file, data, stream.get(), dataRoot);
+}
+
+bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameterDbFileData* data, std::FILE* stream,
+                                          AxFilename& dataRoot)
+{
+    AxSourceScope const scope(file);
+    AxExtFileInputStream input(stream, file);
+    if (!input.isValid())
+    {
+        AxDiagnostics::reportStated(axFault("unreadable-file", file, "the file cannot be read"),
+                                    axFormat("couldn't create lisp stream for %s\n", file.c_str()));
+        return false;
+    }
+    AxFilename const directory = axDirectoryOf(file);
+    AxRwVariableBindings database("opd-variables");
+    axBindDatabaseDirectory(database, directory);
+    try
+    {
+        AxlObjPtr const expression = readExpression(input);
+        if (!expression.nil())
+        {
+            data->getSelf(expression, {directory}, {&database});
+        }
+    }
+    catch (AxlSyntaxError const& error)
+    {
+        AxDiagnostics::report(error.diagnostic());
+        return false;
+    }
+    catch (std::exception const& error)
+    {
+        AxDiagnostics::report(axFault("read-failed", file, error.what()));
+        return false;
+    }
+    bool isBound = false;
+    AxString const root = data->variableBindings().stringValue("data-root", &isBound);
+    if (isBound)
+    {
+        std::string const expanded =
+            AxRwVariableBindings::expand(root.string(), {&data->variableBindings(), &database});
+        dataRoot = directory.combine(AxFilename(expanded));
+        addEntityFiles(dataRoot, *data);
+    }
+    return true;
+}
+
+void AxSxpParameterDbReader::addEntityFiles(AxFilename const& dataRoot, AxSxpParameterDbFileData&)
+{
+    std::vector<AxFilename> const entities = AxReaderWriterFile::findFilesByExtension(dataRoot, ".entity");
+    for (AxFilename const& entity : entities)
+    {
+        AxDiagnostics::report(axFault("entity-file", entity, "entity files cannot be read by this build"));
+    }
+}
+
+bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData const& data, AxFilename const& basePath,
+                                                      AxSxpParameterDb* db)
+{
+    if (!db)
+    {
+        AxWarn("AxSxpParameterDbReader::putFileDataInParameterDb() : Can't load parameter file data into NULL "
+               "AxSxpParameterDb object\n");
+        return false;
+    }
+    db->setVersionNumber(data.version());
+    auto const shared = boost::make_shared<AxRwVariableBindings>(AxSymbolString("variable-bindings"));
+    shared->addAllFrom(data.variableBindings());
+    db->addVariableBindings(shared);
+    for (AxSxpParameterDbFileEntry* fileEntry : data.entryList())
+    {
+        AxSxpParameterDbEntry* const entry =
+            db->add(fileEntry->objectType(), fileEntry->filename(), fileEntry->typeIsMatchType(), nullptr);
+        if (!entry)
+        {
+            continue;
+        }
+        entry->setVersion(db->versionNumber());
+        entry->setPath(basePath);
+        entry->setVariableBindings(shared);
+        entry->setSearchPaths(db->searchPaths());
+        entry->setDatabaseDirectory(myDatabaseDirectory);
+        if (fileEntry->hasMoreThanItsValues())
+        {
+            entry->setFileEntry(*fileEntry);
+        }
+        entryAddedFor(fileEntry, entry);
+    }
+    db->keepUnreadItems(data);
+    AxRemoteConfigurationList const* const read = data.remoteConfigurationList();
+    if (read && db->remoteConfigurationList())
+    {
+        for (AxRemoteConfiguration* configuration : *read)
+        {
+            configuration->setVariableBindings(shared);
+        }
+        *db->remoteConfigurationList() += *read;
+    }
+    return true;
+}
+
+void AxSxpParameterDbReader::entryAddedFor(AxSxpParameterDbFileEntry*, AxSxpParameterDbEntry*) {}
+
+void AxSxpParameterDbReader::setFilenamePathsRelativeToFile(AxFilename const& file, AxSxpParameterDbFileData* data)
+{
+    if (!data)
+    {
+        AxWarn("AxSxpParameterDbReader::setFilenamePathsRelativeToFile() : Can't set paths on NULL "
+               "AxSxpParameterDbFileData object\n");
+        return;
+    }
+    AxFilename const directory = file.directory();
+    for (AxSxpParameterDbFileEntry* entry : data->entryList())
+    {
+        if (entry->filename().isNull())
+        {
+            AxWarn("AxSxpParameterDbReader::setFilenamePathsRelativeToFile() : empty filename in entry\n");
+            continue;
+        }
+        entry->setFilename(directory.combine(entry->filename()));
+    }
+}
+
+bool AxSxpParameterDbReader::load(AxFilename const& file, AxZedObjectParametersList* list)
+{
+    if (!list)
+    {
+        AxWarn("AxSxpParameterDbReader::load() : NULL AxZedObjectParametersList specified\n");
+        return false;
+    }
+    AxFilePtr const stream = axOpenToRead(file);
+    if (!stream)
+    {
+        char const* const reason = std::strerror(errno);
+        AxDiagnostics::reportStated(axFault("cannot-open", file, reason),
+                                    axFormat("Could not open parameter database file %s: %s\n", file.c_str(), reason));
+        return false;
+    }
+    AxSourceScope const scope(file);
+    AxExtFileInputStream input(stream.get(), file);
+    if (!input.isValid())
+    {
+        AxDiagnostics::reportStated(axFault("unreadable-file", file, "the file cannot be read"),
+                                    axFormat("couldn't create lisp stream for %s\n", file.c_str()));
+        return false;
+    }
+    try
+    {
+        AxlObjPtr const expression = readExpression(input);
+        if (!expression.nil())
+        {
+            list->getSelf(expression, {file.directory()}, AxReaderWriter::nullVariableReference());
+        }
+    }
+    catch (AxlSyntaxError const& error)
+    {
+        AxDiagnostics::report(error.diagnostic());
+        return false;
+    }
+    catch (std::exception const& error)
+    {
+        AxDiagnostics::report(axFault("read-failed", file, error.what()));
+        return false;
+    }
+    list->inheritValuesFromAncestors();
+    return true;
+}
+
+bool AxSxpParameterDbReader::putFileDataInParameterDb(AxZedObjectParametersList const& list, AxSxpParameterDb* db)
+{
+    if (!db)
+    {
+        AxWarn("AxSxpParameterDbReader::putFileDataInParameterDb() : Can't load parameter file data into NULL "
+               "AxSxpParameterDb object\n");
+        return false;
+    }
+    for (AxListItem const* item = list.first(); item; item = item->next())
+    {
+        auto const* const record = static_cast<AxZedObjectParameters const*>(AxRwList::element(item));
+        AxZedObjectParameters* const copy = record->clone(record->AxReaderWriter::name(), nullptr);
+        if (copy)
+        {
+            db->add(copy->objectType(), AxFilename(), false, copy);
+        }
+    }
+    return true;
+}

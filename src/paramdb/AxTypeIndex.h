@@ -1,0 +1,67 @@
+#pragma once
+
+#include "AxList.h"
+#include "AxTypeTable.h"
+
+#include <map>
+
+/// Keeps a list in ascending order of the object types of its items and finds the best match for a type.
+///
+/// What is found is by definition the result of a walk from the head: items below the asked type that it fits become
+/// the best so far; the first item not below it answers at once if equal, ends the walk if the type does not fit it,
+/// and otherwise becomes the best. For types without negative fields that is the greatest fitting type, and among
+/// fitting types the one whose set of wildcards is least: exact types stand in one hash table, patterns in a second,
+/// asked shape by shape in ascending order. Other types go through the ordered map. Built when first needed; a list
+/// that was changed behind the index, or whose types were, is looked at anew, and walked while it is out of order.
+class AxTypeIndex
+{
+public:
+    /// The type of an item's data; null when it has none.
+    using TypeOf = AxObjectType const* (*)(void const* data);
+
+    AxTypeIndex(AxList& list, TypeOf ofData) : myList(list), myTypeOf(ofData) {}
+
+    AxListItem* bestMatch(AxObjectType const& type);
+    /// The first item of exactly this type, null when there is none.
+    AxListItem* firstOf(AxObjectType const& type);
+    /// Puts `data` in front of the first item above its type, or at the end when the last item is below it. Null when
+    /// neither is to be had, because an item of equal type is the last.
+    AxListItem* insert(void* data, AxObjectType const& type);
+    void remove(AxListItem* item);
+    void removeAll();
+    /// A type was changed behind the index.
+    void invalidate() { myIsKnown = false; }
+
+    /// The nearest item in front of `item` whose type it fits or whose super type is the catch-all mark.
+    AxListItem* ancestorOf(AxListItem const* item);
+
+private:
+    AxObjectType const& typeOf(AxListItem const* item) const { return *myTypeOf(item->data()); }
+    bool isSorted();
+    bool scanIsSorted() const;
+    void forget();
+    void buildTables();
+    void buildOrder();
+    AxTypeTable& tableFor(unsigned shape) { return shape == 0 ? myExact : myPatterns; }
+    void countShape(unsigned shape, int change);
+    void enter(AxListItem* item, AxObjectType const& type);
+    bool leave(AxListItem const* item);
+    AxListItem* walk(AxObjectType const& type) const;
+    AxListItem* bestOfUnusual(AxObjectType const& type);
+    AxListItem* greatestBelow(AxObjectType const& type);
+    AxListItem* insertByWalk(void* data, AxObjectType const& type);
+    AxListItem* lastCatchAllBefore(AxObjectType const& type);
+
+    AxList& myList;
+    TypeOf myTypeOf;
+    AxTypeTable myExact;
+    AxTypeTable myPatterns;
+    std::vector<std::uint8_t> myShapes; // of the patterns, ascending
+    std::array<std::uint32_t, 256> myShapeCounts{};
+    std::map<AxObjectType, AxListItem*> myOrder; // the first item of each type
+    std::uint32_t myChangeCount = 0;             // of the list as the index knows it
+    bool myIsKnown = true;
+    bool myIsSorted = true;
+    bool myHasTables = false;
+    bool myHasOrder = false;
+};

@@ -1,0 +1,49 @@
+#include "AxZedParameterDbEntry.h"
+
+#include "AxZedObjectParameters.h"
+#include "AxZedParameterDb.h"
+
+AxZedParameterDbEntry::~AxZedParameterDbEntry()
+{
+    if (myHolder != nullptr)
+    {
+        myHolder->release(*this);
+    }
+    delete myParameters;
+    myParameters = nullptr;
+}
+
+void AxZedParameterDbEntry::setObjectType(AxObjectType const& type)
+{
+    bool const isOther = !(myObjectType == type);
+    myObjectType = type;
+    if (isOther && myHolder != nullptr)
+    {
+        myHolder->typeChanged();
+    }
+}
+
+AxObjectType const& AxZedParameterDbEntry::objectType() const
+{
+    return myObjectType;
+}
+
+void AxZedParameterDbEntry::setParameters(AxZedObjectParameters* parameters)
+{
+    myParameters = parameters;
+}
+
+AxZedObjectParameters* AxZedParameterDbEntry::parameters() const
+{
+    return myParameters;
+}
+
+AxZedObjectParameters* AxZedParameterDbEntry::load()
+{
+    return myParameters;
+}
+
+AxString AxZedParameterDbEntry::uniqueIdentifier() const
+{
+    return myObjectType.string(":");
+}

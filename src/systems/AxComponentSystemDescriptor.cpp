@@ -1,0 +1,202 @@
+#include "AxComponentSystemDescriptor.h"
+
+#include "AxComponentSystemDefinition.h"
+#include "AxFaultAt.h"
+#include "AxReaderWriterFactory.h"
+#include "AxRwVariableBindings.h"
+#include "AxlFunctions.h"
+#include "axTryNew.h"
+
+#include <vector>
+
+static AxTypeEntry<AxComponentSystemDescriptor> const typeEntry;
+
+static AxlObjPtr listOf(std::vector<AxlObj const*> const& cells)
+{
+    AxlObjPtr list;
+    for (auto cell = cells.rbegin(); cell != cells.rend(); ++cell)
+    {
+        list = AxcCons(AxlObjPtr(*cell), list);
+    }
+    return list;
+}
+
+AxComponentSystemDescriptor::AxComponentSystemDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxReaderWriter(name, registry)
+{
+    attachDefinition();
+    myIsEnabled.setValueSpecified(true, false);
+}
+
+AxComponentSystemDescriptor::AxComponentSystemDescriptor(AxString const& name, AxReaderWriterRegistry* registry)
+    : AxComponentSystemDescriptor(AxSymbolString(name), registry)
+{
+}
+
+AxComponentSystemDescriptor::AxComponentSystemDescriptor(char const* name, AxReaderWriterRegistry* registry)
+    : AxComponentSystemDescriptor(AxSymbolString(name), registry)
+{
+}
+
+AxComponentSystemDescriptor::AxComponentSystemDescriptor(AxComponentSystemDescriptor const& other,
+                                                         AxReaderWriterRegistry* registry)
+    : AxComponentSystemDescriptor(other.AxReaderWriter::name(), registry)
+{
+    *this = other;
+}
+
+AxComponentSystemDescriptor::~AxComponentSystemDescriptor()
+{
+    mySystemDefinitionFile.setContent(nullptr);
+}
+
+AxComponentSystemDescriptor& AxComponentSystemDescriptor::operator=(AxComponentSystemDescriptor const& other)
+{
+    if (this != &other)
+    {
+        declareParametersOf(*other.myDefinition, false);
+        assign(other);
+    }
+    return *this;
+}
+
+void AxComponentSystemDescriptor::attachDefinition()
+{
+    AxSymbolString const keyword = mySystemDefinitionFile.AxReaderWriter::name();
+    myDefinition = std::make_unique<AxComponentSystemDefinition>(keyword, nullptr);
+    registry()->addContentEntry(keyword, myDefinition.get());
+    mySystemDefinitionFile.setContent(myDefinition.get());
+}
+
+void AxComponentSystemDescriptor::resetSystemDefinition()
+{
+    mySystemDefinitionFile.setContent(nullptr);
+    attachDefinition();
+    mySystemDefinitionFile.clearChanged();
+}
+
+void AxComponentSystemDescriptor::setSystemDefinitionFile(AxFilename const& file)
+{
+    assignSpecified(mySystemDefinitionFile, file);
+}
+
+void AxComponentSystemDescriptor::setIsEnabled(bool enabled)
+{
+    assignSpecified(myIsEnabled, enabled);
+}
+
+void AxComponentSystemDescriptor::setPartOfRollUp(bool part)
+{
+    assignSpecified(myPartOfRollUp, part);
+}
+
+void AxComponentSystemDescriptor::addVariableBindingsFromMetaData()
+{
+    declareParametersOf(*myDefinition, true);
+}
+
+void AxComponentSystemDescriptor::declareParametersOf(AxComponentSystemDefinition const& definition, bool reports)
+{
+    for (AxSystemParameterData const* parameter : definition.metaData().paramterDataList())
+    {
+        AxSymbolString const keyword(parameter->parameterName());
+        AxString const& type = parameter->variableType();
+        if (keyword.isNull())
+        {
+            continue;
+        }
+        AxReaderWriter const* const present = registry()->lookup(keyword);
+        AxReaderWriter* const made = present ? nullptr : registry()->createMember(type, keyword);
+        if (made)
+        {
+            parameter->assignDefaultValueToReaderWriter(made);
+        }
+        else if (reports && (!present || !(type == present->readerWriterType())))
+        {
+            std::string text = "parameter \"" + keyword.string().string() + "\" of the system \"" +
+                               AxReaderWriter::name().string().string() + "\" ";
+            text += present ? "has the name of another member" : "is of the unknown type \"" + type.string() + '"';
+            AxDiagnostics::report(axFaultAt(AxSeverity::Warning, present ? "parameter-name-taken" : "unknown-type",
+                                            AxlObj::nilCell(), std::move(text)));
+        }
+    }
+}
+
+AxComponentSystemDescriptor* AxComponentSystemDescriptor::clone(AxReaderWriterRegistry* registry) const
+{
+    return axTryNew<AxComponentSystemDescriptor>(*this, registry);
+}
+
+AxlObjPtr AxComponentSystemDescriptor::getData(AxlObjPtr const& items, AxFilenameList const& files,
+                                               AxBindingsList const& bindings)
+{
+    // The definition declares the keywords of other items, so it is read before them wherever it stands.
+    std::vector<AxlObj const*> definition;
+    std::vector<AxlObj const*> others;
+    for (AxlObj const* rest = items.get(); rest->isPair(); rest = rest->cdr())
+    {
+        AxlObj const* const item = rest->car();
+        bool const isDefinition = registry()->find(item->car()->symbol()) == &mySystemDefinitionFile;
+        (isDefinition ? definition : others).push_back(item);
+    }
+    if (!definition.empty())
+    {
+        readItems(listOf(definition).get(), files, bindings);
+    }
+    addVariableBindingsFromMetaData();
+    return definition.empty() ? items : listOf(others);
+}
+
+void AxComponentSystemDescriptor::postGetSelf()
+{
+    bindReferencesInDefinition();
+}
+
+void AxComponentSystemDescriptor::bindVariables(AxBindingsList const& bindings)
+{
+    AxReaderWriter::bindVariables(bindings);
+    bindReferencesInDefinition();
+}
+
+void AxComponentSystemDescriptor::bindLocalVariables(AxBindingsList const& bindings)
+{
+    AxReaderWriter::bindLocalVariables(bindings);
+    bindReferencesInDefinition();
+}
+
+void AxComponentSystemDescriptor::bindReferencesInDefinition()
+{
+    if (!myDefinition->hasVariableReference())
+    {
+        return;
+    }
+    AxRwVariableBindings values;
+    for (std::size_t i = 0; i < registry()->size(); ++i)
+    {
+        AxRegistryEntry const entry = registry()->entry(i);
+        bool const isOpen = entry.member->isVariableReference() && !entry.member->variableIsBound();
+        if (!entry.content && !isOpen && entry.member != &mySystemDefinitionFile)
+        {
+            std::string text = "(";
+            entry.member->putData(text, 0);
+            AxlInputStream stream(text + ')');
+            values.set(entry.keyword, AxcRead(stream));
+        }
+    }
+    bool const wasChanged = mySystemDefinitionFile.contentChanged();
+    myDefinition->bindLocalVariables({&values});
+    if (!wasChanged)
+    {
+        mySystemDefinitionFile.clearChanged(); // a reference that is bound is written as it was
+    }
+}
+
+char const* AxComponentSystemDescriptor::readerWriterType() const
+{
+    return "AxComponentSystemDescriptor";
+}
+
+char const* AxComponentSystemDescriptor::xmlType() const
+{
+    return "AxComponentSystemDescriptor";
+}

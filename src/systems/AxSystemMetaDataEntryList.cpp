@@ -1,0 +1,10 @@
+#include "AxSystemMetaDataEntryList.h"
+
+static AxTypeEntry<AxSystemMetaDataEntryList> const typeEntry;
+
+AxSystemMetaDataEntryList::~AxSystemMetaDataEntryList() = default;
+
+char const* AxSystemMetaDataEntryList::readerWriterType() const
+{
+    return "AxSystemMetaDataEntryList";
+}

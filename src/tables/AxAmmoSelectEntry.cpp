@@ -1,0 +1,29 @@
+#include "AxAmmoSelectEntry.h"
+
+#include "AxAmmoSelectTable.h"
+
+AxAmmoSelectEntry::AxAmmoSelectEntry() : AxAmmoSelectEntry(AxAmmoSelectTable::elementWord(), nullptr) {}
+
+AxAmmoSelectEntry::AxAmmoSelectEntry(AxAmmoSelectEntry const& other, AxReaderWriterRegistry* registry)
+    : AxAmmoSelectEntry(other.AxReaderWriter::name(), registry)
+{
+    assign(other);
+}
+
+AxAmmoSelectEntry::~AxAmmoSelectEntry() = default;
+
+AxAmmoSelectEntry& AxAmmoSelectEntry::operator=(AxAmmoSelectEntry const& other)
+{
+    assign(other);
+    return *this;
+}
+
+void AxAmmoSelectEntry::setTargetType(AxEntityType const& type)
+{
+    assignSpecified(myTargetType, type);
+}
+
+void AxAmmoSelectEntry::setSimMunitionList(AxSimMunitionList const& munitions)
+{
+    assignSpecified(myAmmo, munitions);
+}

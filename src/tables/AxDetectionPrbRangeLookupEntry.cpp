@@ -1,0 +1,28 @@
+#include "AxDetectionPrbRangeLookupEntry.h"
+
+#include "axTryNew.h"
+
+AxDetectionPrbRangeLookupEntry::AxDetectionPrbRangeLookupEntry()
+    : AxDetectionPrbRangeLookupEntry(elementWord(), nullptr)
+{
+}
+
+AxDetectionPrbRangeLookupEntry::AxDetectionPrbRangeLookupEntry(AxDetectionPrbRangeLookupEntry const& other,
+                                                               AxReaderWriterRegistry* registry)
+    : AxDetectionPrbRangeLookupEntry(other.AxReaderWriter::name(), registry)
+{
+    assign(other);
+}
+
+AxDetectionPrbRangeLookupEntry::~AxDetectionPrbRangeLookupEntry() = default;
+
+AxDetectionPrbRangeLookupEntry& AxDetectionPrbRangeLookupEntry::operator=(AxDetectionPrbRangeLookupEntry const& other)
+{
+    assign(other);
+    return *this;
+}
+
+AxDetectionPrbRangeLookupEntry* AxDetectionPrbRangeLookupEntry::clone(AxReaderWriterRegistry* registry) const
+{
+    return axTryNew<AxDetectionPrbRangeLookupEntry>(*this, registry);
+}

@@ -1,0 +1,41 @@
+#include "AxPrbCoefficientsRangeDeterminant.h"
+
+AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxSymbolString name,
+                                                                     AxReaderWriterRegistry* registry)
+    : AxRecordOf(name, registry)
+{
+    myCoefficientList.setValueSpecified(
+        true, true); // its keyword tells the kind of determinant, so it is written even when empty
+}
+
+AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxKeyword const& keyword,
+                                                                     AxReaderWriterRegistry* registry)
+    : AxRecordOf(keyword, registry)
+{
+    myCoefficientList.setValueSpecified(true, true);
+}
+
+AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxPrbCoefficientsRangeDeterminant const& other)
+    : AxPrbCoefficientsRangeDeterminant(other.AxReaderWriter::name(), nullptr)
+{
+    assign(other);
+}
+
+AxPrbCoefficientsRangeDeterminant::~AxPrbCoefficientsRangeDeterminant() = default;
+
+AxPrbCoefficientsRangeDeterminant&
+AxPrbCoefficientsRangeDeterminant::operator=(AxPrbCoefficientsRangeDeterminant const& other)
+{
+    assign(other);
+    return *this;
+}
+
+bool AxPrbCoefficientsRangeDeterminant::getProbabilities(double range, AxPrbRangeTableEntry* out) const
+{
+    return myCoefficientList.getProbabilities(range, out);
+}
+
+double AxPrbCoefficientsRangeDeterminant::getMaximumDamageRadius() const
+{
+    return myCoefficientList.maxRangeValue();
+}

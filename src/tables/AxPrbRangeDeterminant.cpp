@@ -1,0 +1,9 @@
+#include "AxPrbRangeDeterminant.h"
+
+AxPrbRangeDeterminant::~AxPrbRangeDeterminant() = default;
+
+AxPrbRangeDeterminant& AxPrbRangeDeterminant::operator=(AxPrbRangeDeterminant const& other)
+{
+    assign(other);
+    return *this;
+}

@@ -1,0 +1,179 @@
+#include "AxPrbRangeList.h"
+
+#include "AxFaultAt.h"
+#include "AxNumberText.h"
+#include "AxReaderWriterFactory.h"
+#include "AxStreams.h"
+#include "AxlFunctions.h"
+#include "AxlObj.h"
+#include "axTryNew.h"
+
+#include <cmath>
+
+static AxTypeEntry<AxPrbRangeList> const typeEntry;
+
+/// Tells of each row that a later one of its range has replaced.
+static void reportReplacedRows(AxlObj const* rows)
+{
+    auto const rangeOf = [](AxlObj const* list) { return list->car()->cdr()->car(); };
+    for (; rows->isPair(); rows = rows->cdr())
+    {
+        AxlObj const* const range = rangeOf(rows);
+        AxlObj const* later = range->isNumber() ? rows->cdr() : AxlObj::nilCell();
+        while (later->isPair() && !(rangeOf(later)->isNumber() && rangeOf(later)->flonum() == range->flonum()))
+        {
+            later = later->cdr();
+        }
+        if (later->isPair())
+        {
+            std::string text = "the row of range ";
+            axAppendReal(text, range->flonum());
+            AxDiagnostics::report(axFaultAt(AxSeverity::Info, "replaced-row", rows->car(),
+                                            text + " is replaced by a later one of the same range"));
+        }
+    }
+}
+
+AxPrbRangeList::AxPrbRangeList(AxPrbRangeList const& other) : AxRwList(other)
+{
+    copyList(other);
+    carryState(other);
+}
+
+AxPrbRangeList::~AxPrbRangeList()
+{
+    AxRwList::removeAndDeleteAll();
+}
+
+AxPrbRangeList& AxPrbRangeList::operator=(AxPrbRangeList const& other)
+{
+    if (this != &other)
+    {
+        AxRwList::removeAndDeleteAll();
+        copyList(other);
+        carryState(other);
+    }
+    return *this;
+}
+
+void AxPrbRangeList::copyList(AxPrbRangeList const& other)
+{
+    for (AxListItem const* item = other.first(); item; item = item->next())
+    {
+        if (auto* const copy = axTryNew<AxPrbRangeTableEntry>(*row(item)))
+        {
+            addTableEntry(copy);
+        }
+        else
+        {
+            AxWarn("Memory allocation failed in AxPrbRangeList::copyList()\n");
+        }
+    }
+}
+
+bool AxPrbRangeList::getProbabilities(double range, AxPrbRangeTableEntry* out) const
+{
+    AxListItem const* item = first();
+    while (item && !(row(item)->range() >= range))
+    {
+        item = item->next();
+    }
+    bool const isKnown = item != nullptr;
+    if (!isKnown)
+    {
+        item = last();
+    }
+    if (out)
+    {
+        AxPrbRangeTableEntry::Refill refill(*out, isKnown ? row(item)->range() : range);
+        if (item)
+        {
+            for (AxRwReal const* outcome : *row(item))
+            {
+                refill.add(outcome->AxReaderWriter::name(), isKnown ? outcome->value() : 0.0);
+            }
+        }
+    }
+    return isKnown;
+}
+
+double AxPrbRangeList::minRangeValue() const
+{
+    return isEmpty() ? 0.0 : row(first())->range();
+}
+
+double AxPrbRangeList::maxRangeValue() const
+{
+    return isEmpty() ? 0.0 : row(last())->range();
+}
+
+void AxPrbRangeList::addTableEntry(AxPrbRangeTableEntry const& row)
+{
+    addTableEntry(axTryNew<AxPrbRangeTableEntry>(row));
+}
+
+void AxPrbRangeList::addTableEntry(AxPrbRangeTableEntry* added)
+{
+    if (!added)
+    {
+        AxWarn("Memory allocation failed in AxPrbRangeList::addTableEntry()\n");
+        return;
+    }
+    double const range = added->range();
+    if (std::isnan(range))
+    {
+        AxDiagnostics::report(axFaultAt(AxSeverity::Error, "wrong-kind", AxlObj::nilCell(),
+                                        "a row whose range is no number cannot be added"));
+        delete added;
+        return;
+    }
+    if (isEmpty() || range > row(last())->range())
+    {
+        addToEnd(added);
+        return;
+    }
+    AxListItem* item = first();
+    while (row(item)->range() < range)
+    {
+        item = item->next();
+    }
+    addBefore(added, item);
+    AxPrbRangeTableEntry* const next = row(item);
+    if (next->range() == range)
+    {
+        remove(next, item);
+        delete next;
+    }
+}
+
+void AxPrbRangeList::getSelf(AxlObjPtr const& expression, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    AxRwList::getSelf(expression, files, bindings);
+    if (AxcLength(expression) - 1 > count())
+    {
+        reportReplacedRows(expression->cdr());
+    }
+}
+
+AxlObjPtr AxPrbRangeList::getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    if (!item->cdr()->car()->isNumber())
+    {
+        AxDiagnostics::report(axFaultAt(AxSeverity::Error, "wrong-kind", item.get(),
+                                        "a row expects its range, a number, first; it is not read"));
+        keepElement(item.get());
+        return item;
+    }
+    auto* const read = axTryNew<AxPrbRangeTableEntry>(item->car()->symbol(), nullptr);
+    if (read)
+    {
+        read->getSelf(item, files, bindings);
+    }
+    addTableEntry(read);
+    return item;
+}
+
+char const* AxPrbRangeList::readerWriterType() const
+{
+    return "AxPrbRangeList";
+}

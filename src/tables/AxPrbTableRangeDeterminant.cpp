@@ -1,0 +1,38 @@
+#include "AxPrbTableRangeDeterminant.h"
+
+AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxRecordOf(name, registry)
+{
+    myRangeList.setValueSpecified(true,
+                                  true); // its keyword tells the kind of determinant, so it is written even when empty
+}
+
+AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxKeyword const& keyword, AxReaderWriterRegistry* registry)
+    : AxRecordOf(keyword, registry)
+{
+    myRangeList.setValueSpecified(true, true);
+}
+
+AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxPrbTableRangeDeterminant const& other)
+    : AxPrbTableRangeDeterminant(other.AxReaderWriter::name(), nullptr)
+{
+    assign(other);
+}
+
+AxPrbTableRangeDeterminant::~AxPrbTableRangeDeterminant() = default;
+
+AxPrbTableRangeDeterminant& AxPrbTableRangeDeterminant::operator=(AxPrbTableRangeDeterminant const& other)
+{
+    assign(other);
+    return *this;
+}
+
+bool AxPrbTableRangeDeterminant::getProbabilities(double range, AxPrbRangeTableEntry* out) const
+{
+    return myRangeList.getProbabilities(range, out);
+}
+
+double AxPrbTableRangeDeterminant::getMaximumDamageRadius() const
+{
+    return myRangeList.maxRangeValue();
+}

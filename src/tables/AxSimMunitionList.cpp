@@ -1,0 +1,68 @@
+#include "AxSimMunitionList.h"
+
+#include "AxReaderWriterFactory.h"
+#include "AxStreams.h"
+#include "axTryNew.h"
+
+static AxTypeEntry<AxSimMunitionList> const typeEntry;
+
+AxSimMunitionList::~AxSimMunitionList() = default;
+
+AxSimMunition* AxSimMunitionList::addSimMunition(AxSimMunition const& munition)
+{
+    return add(munition);
+}
+
+AxSimMunition* AxSimMunitionList::addSimMunition(AxSimMunition* munition)
+{
+    addToEnd(munition);
+    return munition;
+}
+
+bool AxSimMunitionList::removeSimMunition(AxSimMunition* munition)
+{
+    AxListItem* const item = munition ? itemOf(munition) : nullptr;
+    if (!item)
+    {
+        return false;
+    }
+    remove(munition, item);
+    delete munition;
+    return true;
+}
+
+AxSimMunition* AxSimMunitionList::lookupSimMunition(AxString const& name) const
+{
+    for (AxSimMunition* munition : *this)
+    {
+        if (munition->munitionName() == name)
+        {
+            return munition;
+        }
+    }
+    return nullptr;
+}
+
+AxlObjPtr AxSimMunitionList::getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    auto* const munition = axTryNew<AxSimMunition>(elementWord(), nullptr);
+    if (!munition)
+    {
+        AxWarn("AxSimMunition allocation failed\n");
+        return item;
+    }
+    munition->getSelf(item, files, bindings);
+    addSimMunition(munition);
+    return item;
+}
+
+char const* AxSimMunitionList::readerWriterType() const
+{
+    return "AxSimMunitionList";
+}
+
+AxSymbolString AxSimMunitionList::elementWord()
+{
+    static AxSymbolString const word("munition");
+    return word;
+}

@@ -1,0 +1,90 @@
+#include "AxDiagnostic.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "AxSinkScope.h"
+
+namespace
+{
+AxDiagnostic unknownKeyword()
+{
+    return {AxSeverity::Warning,       "unknown-keyword",       "m1.ope", 12, 34, "m1/hull",
+            "unknown keyword \"mas\"", "did you mean \"mass\"?"};
+}
+
+std::string_view nearest(std::string_view word, std::vector<std::string_view> const& candidates)
+{
+    return axNearest(word, candidates);
+}
+} // namespace
+
+TEST(AxDiagnostic, PrintsWhatIsKnown)
+{
+    AxDiagnostic diagnostic = unknownKeyword();
+    EXPECT_EQ(diagnostic.format(),
+              "m1.ope:12:34: warning: unknown keyword \"mas\"; did you mean \"mass\"? [unknown-keyword]");
+    diagnostic.column = 0;
+    diagnostic.hint.clear();
+    diagnostic.severity = AxSeverity::Info;
+    EXPECT_EQ(diagnostic.format(), "m1.ope:12: info: unknown keyword \"mas\" [unknown-keyword]");
+    diagnostic.line = 0;
+    diagnostic.code.clear();
+    EXPECT_EQ(diagnostic.format(), "m1.ope: info: unknown keyword \"mas\"");
+    diagnostic.file.clear();
+    diagnostic.text = "a\nb\x1B[1m";
+    EXPECT_EQ(diagnostic.format(), "info: a b [1m");
+}
+
+TEST(AxDiagnostics, ReportsToTheSinkAndInOneLine)
+{
+    AxSinkScope warnings(AxWarn), information(AxInfo);
+    std::vector<std::string> codes;
+    auto const previous = AxDiagnostics::setSink([&](AxDiagnostic const& found) { codes.push_back(found.code); });
+    AxDiagnostics::report(unknownKeyword());
+    AxDiagnostics::report({.severity = AxSeverity::Info, .code = "kept", .text = "kept"});
+    AxDiagnostics::reportStated(unknownKeyword(), "Stated text\n");
+    AxDiagnostics::setSink(previous);
+    EXPECT_EQ(codes, (std::vector<std::string>{"unknown-keyword", "kept", "unknown-keyword"}));
+    EXPECT_EQ(warnings.text(), unknownKeyword().format() + "\nStated text\n");
+    EXPECT_EQ(information.text(), "info: kept [kept]\n" + unknownKeyword().format() + "\n");
+}
+
+TEST(AxDiagnostics, FillsInTheFileThatIsBeingRead)
+{
+    AxSinkScope warnings(AxWarn);
+    AxSourceScope const outer(AxFilename("a.opd"));
+    {
+        AxSourceScope const inner(AxFilename(".\\b.ope"));
+        AxDiagnostics::report({.line = 1, .text = "inner"});
+    }
+    AxDiagnostics::report({.text = "outer"});
+    EXPECT_EQ(warnings.text(), "b.ope:1: error: inner\na.opd: error: outer\n");
+}
+
+TEST(AxDiagnostics, SurvivesASinkThatThrows)
+{
+    AxSinkScope warnings(AxWarn);
+    auto const previous = AxDiagnostics::setSink([](AxDiagnostic const&) { throw std::runtime_error("sink"); });
+    AxDiagnostics::reportStated({.text = "x"}, "stated\n");
+    AxDiagnostics::setSink(previous);
+    EXPECT_EQ(warnings.text(), "stated\n");
+}
+
+TEST(axNearest, SuggestsWhatIsAtMostThreeEditsAway)
+{
+    EXPECT_EQ(nearest("mas", {"max", "mass", "min"}), "max");
+    EXPECT_EQ(nearest("max-sped", {"max-slope", "max-speed"}), "max-speed");
+    EXPECT_EQ(nearest("abcdef", {"abcxyz"}), "abcxyz");
+    EXPECT_EQ(nearest("abcdef", {"abwxyz"}), "");
+    EXPECT_EQ(nearest("ab", {"xy", "abcd"}), "");
+    EXPECT_EQ(nearest("ab", {"xb", "ax"}), "xb");
+    EXPECT_EQ(nearest("", {"a"}), "");
+    EXPECT_EQ(nearest("mass", {"mass"}), "mass");
+    EXPECT_EQ(nearest("abcd", {"", "xabcd"}), "xabcd");
+    EXPECT_EQ(nearest(std::string(1000, 'a'), {std::string_view("a")}), "");
+}

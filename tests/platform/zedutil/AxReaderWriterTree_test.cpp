@@ -1,0 +1,441 @@
+#include "AxDiagnostic.h"
+#include "AxEnvXMLReader.h"
+#include "AxNLengthRealVector.h"
+#include "AxReaderWriter.h"
+#include "AxReaderWriterFile.h"
+#include "AxRwAppearance.h"
+#include "AxRwBoolean.h"
+#include "AxRwBoundingVolume.h"
+#include "AxRwEntityType.h"
+#include "AxRwForces.h"
+#include "AxRwInt.h"
+#include "AxRwObjectType.h"
+#include "AxRwObjectTypeList.h"
+#include "AxRwOffsetVector.h"
+#include "AxRwProperties.h"
+#include "AxRwReal.h"
+#include "AxRwRealAttributeList.h"
+#include "AxRwString.h"
+#include "AxRwStringAttributeList.h"
+#include "AxRwStringList.h"
+#include "AxRwTaitBryan.h"
+#include "AxRwTemplatedListPtr.h"
+#include "AxRwUUID.h"
+#include "AxRwVariableBindings.h"
+#include "AxSinkScope.h"
+#include "AxlFunctions.h"
+
+#include <boost/filesystem/operations.hpp>
+#include <boost/make_shared.hpp>
+#include <gtest/gtest.h>
+
+namespace
+{
+class Part : public AxReaderWriter
+{
+public:
+    Part(AxSymbolString name, AxReaderWriterRegistry* registry) : AxReaderWriter(name, registry) {}
+    Part(AxKeyword const& keyword, AxReaderWriterRegistry* registry) : AxReaderWriter(keyword, registry) {}
+    Part& operator=(Part const& other)
+    {
+        assign(other);
+        return *this;
+    }
+    char const* readerWriterType() const override { return "Part"; }
+    char const* xmlType() const override { return "part"; }
+
+    AxRwReal power{{"power", "W", "Largest power."}, 1000.0, registry()};
+    AxRwString label{{"label", "", "Name shown to people."}, registry()};
+    AxRwString type{{"type", "", "A keyword that elements use for themselves."}, registry()};
+    AxRwVector place{{"place", "m", "Where it is."}, registry()};
+};
+
+/// Owns its elements.
+class ManyTypes : public AxRwList
+{
+public:
+    using AxRwList::AxRwList;
+    ~ManyTypes() override { AxRwList::removeAndDeleteAll(); }
+};
+
+/// One member of each kind, and a type item of its own.
+class Machine : public AxReaderWriter
+{
+public:
+    explicit Machine(AxSymbolString name = {}) : AxReaderWriter(name, nullptr) { registry()->setLocalData(); }
+    char const* readerWriterType() const override { return "Machine"; }
+    char const* xmlType() const override { return "machine"; }
+
+    using AxReaderWriter::getData;
+    using AxReaderWriter::putData;
+    void putData(std::string& out, int indent) override
+    {
+        if (!itsType.isNull())
+        {
+            out += '\n';
+            putIndent(out, indent + 1);
+            out += "(machine-type ";
+            AxRwString::writeValue(out, itsType);
+            out += ')';
+        }
+    }
+    AxlObjPtr getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const&) override
+    {
+        if (!(AxcCar(items)->car()->text() == "machine-type"))
+        {
+            return items;
+        }
+        itsType = AxcCadr(AxcCar(items))->pname();
+        return AxcCdr(items);
+    }
+
+    AxString itsType;
+    AxRwReal mass{{"mass", "kg", "Mass."}, 5000.0, registry()};
+    AxRwInt seats{{"seats", "", "Places."}, registry()};
+    AxRwBoolean armed{{"armed", "", "Weapon or not."}, registry()};
+    AxRwString label{{"label", "", "Name shown to people."}, registry()};
+    AxRwString title{{"name", "", "A keyword that elements use for themselves."}, registry()};
+    AxRwAppearance paint{{"paint", "", "Appearance."}, registry()};
+    AxRwUUID id{{"id", "", "Identifier."}, registry()};
+    AxReaderWriterFile file{{"file", "", "A file."}, registry()};
+    AxRwObjectType kind{{"kind", "", "What it is."}, registry()};
+    AxRwEntityType entity{{"entity", "", "What it is."}, registry()};
+    AxRwVector place{{"place", "m", "Where it is."}, registry()};
+    AxRwOffsetVector offset{{"offset", "m", "Where it is held."}, registry()};
+    AxRwTaitBryan angles{{"angles", "rad", "How it is turned."}, registry()};
+    AxRwStringList tags{{"tags", "", "Words."}, registry()};
+    AxNLengthRealVector curve{{"curve", "", "Numbers."}, registry()};
+    AxRwForces forces{{"forces", "", "Forces."}, registry()};
+    AxRwObjectTypeList targets{{"targets", "", "Types."}, registry()};
+    AxRwStringAttributeList notes{{"notes", "", "Named words."}, registry()};
+    AxRwRealAttributeList grip{{"grip", "", "Named numbers."}, registry()};
+    AxRwBoundingVolume box{{"box", "m", "Its hull."}, registry()};
+    Part engine{{"engine", "", "Its engine."}, registry()};
+    AxRwTemplatedListPtr<Part, 1> spares{{"spares", "", "Parts carried along."}, registry()};
+    AxRwProperties properties{{"properties", "", "Free values."}, registry()};
+    ManyTypes many{{"many", "", "Values of many types."}, registry()};
+};
+
+struct Findings
+{
+    Findings()
+        : previous(AxDiagnostics::setSink([this](AxDiagnostic const& found) { all.push_back(found); })),
+          quiet(AxWarn, [](std::string const&) {})
+    {
+    }
+    ~Findings() { AxDiagnostics::setSink(previous); }
+    std::string codes() const
+    {
+        std::string text;
+        for (AxDiagnostic const& found : all)
+        {
+            text += (text.empty() ? "" : " ") + found.code + '@' + std::to_string(found.line);
+        }
+        return text;
+    }
+    std::vector<AxDiagnostic> all;
+    AxDiagnostics::Sink previous;
+    AxSinkScope quiet;
+};
+
+bool read(AxReaderWriter& rw, std::string_view text, AxBindingsList const& bindings = {})
+{
+    return rw.readText(text, AxFilename("test.ope"), AxReaderWriter::nullFilenames(), bindings);
+}
+
+/// The element without the declaration in front of it.
+std::string xmlOf(AxReaderWriter const& rw)
+{
+    std::string const xml = rw.toXml().string();
+    return xml.substr(xml.find('\n') + 1);
+}
+
+AxEnvironmentPtr treeOf(std::string_view xml)
+{
+    return AxEnvXMLReader::readText(xml, AxFilename("test.xml"));
+}
+
+char const* const theWholeText =
+    "(m1 (machine-type \"x\") (mass 57000.5) (seats 4) (armed true) (label \"a \\\"b\\\" <&> \\\\ $$(c)\") (name "
+    "\"own\")"
+    " (paint 4294967295) (id \"01234567-89ab-cdef-0123-456789abcdef\") (file \"dir\\a.ope\") (kind 1 1 1 225 1 1 3 0)"
+    " (entity 1 1 225 -1 -1 -1 -1) (place 1 -2.5 1e+20) (offset 0 0 1) (angles 0.5 0 0)"
+    " (tags \"Tank\" \"Main battle\" \"5\" \"$x\" \"\") (curve 1 2.5 inf) (forces 1 3)"
+    " (targets (1 1 1 225 -1 -1 -1 -1) (3 1 1 222 0 0 0 0)) (notes (\"a b\" \"$5\") (\"c\" \"7\")) (grip (\"mud\" 0.4))"
+    " (box (min 0 0 0) (max 1 2 3)) (engine (power 7) (label \"007\") (type \"V 12\"))"
+    " (spares (left (place 1 2 3)) (\"a b\" (power inf)) (left))"
+    " (properties (p AxRwReal 5) (q AxRwVector 1 2 3) (s AxRwString \"x y\") (t AxRwObjectType 1 2 3 4 5 6 7))"
+    " (many (AxRwReal 5) (AxRwString \"five\") (AxRwVector 1 2 3)))";
+} // namespace
+
+TEST(AxReaderWriterTree, EveryKindComesBackEqualAndWritesTheSameText)
+{
+    Machine written;
+    ASSERT_TRUE(read(written, theWholeText));
+    ASSERT_TRUE(written.keptItems().empty());
+    Findings findings;
+    Machine back;
+    ASSERT_TRUE(back.fromXml(written.toXml())) << written.toXml().string();
+    EXPECT_EQ(findings.codes(), "") << written.toXml().string();
+    EXPECT_EQ(back.writtenText(), written.writtenText());
+    EXPECT_EQ(back.itsType, "x");
+    EXPECT_TRUE(back == written);
+    EXPECT_EQ(back.toXml(), written.toXml());
+}
+
+TEST(AxReaderWriterTree, EachKindHasItsShape)
+{
+    struct Case
+    {
+        char const* item;
+        char const* xml;
+    };
+    Case const cases[] = {
+        {"(mass 5)", "<machine name=\"m\" mass=\"5.0\"/>\n"},
+        {"(armed yes)", "<machine name=\"m\" armed=\"true\"/>\n"},
+        {"(label \"a b\")", "<machine name=\"m\" label=\"a b\"/>\n"},
+        {"(file \"a.ope\")", "<machine name=\"m\" file=\"a.ope\"/>\n"},
+        {"(machine-type \"x\")", "<machine name=\"m\" machine-type=\"x\"/>\n"},
+        {"(name \"x\")", "<machine name=\"m\">\n  <AxRwString name=\"name\" value=\"&quot;x&quot;\"/>\n</machine>\n"},
+        {"(kind 1 1 1 225 1 1 -1 -1)",
+         "<machine name=\"m\">\n  <objectType name=\"kind\" value=\"1:1:1:225:1:1:-1:-1\"/>\n</machine>\n"},
+        {"(place 1 2 3)", "<machine name=\"m\">\n  <vector name=\"place\" value=\"1.0 2.0 3.0\"/>\n</machine>\n"},
+        {"(tags \"Tank\" \"Main battle\")",
+         "<machine name=\"m\">\n  <strings name=\"tags\" value=\"Tank &quot;Main battle&quot;\"/>\n</machine>\n"},
+        {"(targets (1 1 1 225 1 1 3 0))",
+         "<machine name=\"m\">\n  <objectTypes name=\"targets\">\n    <objectType value=\"1:1:1:225:1:1:3:0\"/>\n"
+         "  </objectTypes>\n</machine>\n"},
+        {"(notes (\"a\" \"b\"))",
+         "<machine name=\"m\">\n  <attributes name=\"notes\">\n    <attribute name=\"a\" value=\"b\"/>\n"
+         "  </attributes>\n</machine>\n"},
+        {"(engine (power 7))", "<machine name=\"m\">\n  <part name=\"engine\" power=\"7.0\"/>\n</machine>\n"},
+        {"(spares (left (power 7)))",
+         "<machine name=\"m\">\n  <parts name=\"spares\">\n    <part name=\"left\" power=\"7.0\"/>\n  </parts>\n"
+         "</machine>\n"},
+        {"(many (AxRwReal 5))", "<machine name=\"m\">\n  <list name=\"many\">\n    <readerWriter value=\"5.0\" "
+                                "type=\"AxRwReal\"/>\n  </list>\n"
+                                "</machine>\n"},
+        {"(properties (p AxRwReal 5))",
+         "<machine name=\"m\">\n  <properties name=\"properties\">\n"
+         "    <property name=\"p\" type=\"AxRwReal\" value=\"5.0\"/>\n  </properties>\n</machine>\n"},
+    };
+    for (Case const& c : cases)
+    {
+        Machine machine;
+        ASSERT_TRUE(read(machine, std::string("(m ") + c.item + ')')) << c.item;
+        EXPECT_EQ(xmlOf(machine), c.xml);
+    }
+}
+
+TEST(AxReaderWriterTree, ReadsAttributesAndChildrenInAnyOrder)
+{
+    Machine machine;
+    Findings findings;
+    ASSERT_TRUE(machine.fromXml("<m name='m'><vector value='1 2 3' name='place'/><objectType name='kind' value=' '/>"
+                                "<engine label='5' power=' 7 '/><parts name='spares'><part power='1' name='a'/></parts>"
+                                "</m>"));
+    EXPECT_EQ(findings.codes(), "");
+    EXPECT_EQ(machine.writtenText(), "(m\n  (place 1.0 2.0 3.0)\n  (engine\n    (power 7.0)\n    (label \"5\"))\n"
+                                     "  (spares\n    (a\n      (power 1.0))))\n");
+    EXPECT_FALSE(machine.kind.valueSpecified());
+}
+
+TEST(AxReaderWriterTree, ReferencesKeepTheirFormAndTakeTheirValues)
+{
+    struct Case
+    {
+        char const* item;
+        char const* xml;
+    };
+    Case const cases[] = {
+        {"(mass $heavy)", "mass=\"$heavy\""},
+        {"(label \"$5\")", "label=\"$$5\""},
+        {"(label \"a/$(dir)/b\")", "label=\"a/$(dir)/b\""},
+        {"(label \"$(dir)\")", "label=\"$(dir)\""},
+        {"(label \"cost $$(x)\")", "label=\"cost $$(x)\""},
+        {"(label \"$\")", "label=\"$$\""},
+        {"(label \"$$a\")", "label=\"$$$a\""},
+        {"(label $dir)", "label=\"$dir\""},
+        {"(mass ($heavy 5.0))", "<sexp name=\"mass\">(mass ($heavy 5.0))</sexp>"},
+        {"(place $here)", "<vector name=\"place\" variable=\"$here\"/>"},
+        {"(place ($here 1 2 3))", "variable=\"($here 1 2 3)\""},
+        {"(tags \"a\" \"$(dir)\")", "value=\"&quot;a&quot; &quot;$(dir)&quot;\""},
+        {"(spares (a (power $heavy)))", "<part name=\"a\" power=\"$heavy\"/>"},
+    };
+    AxRwVariableBindings bindings;
+    bindings.set("heavy", AxcCons(AxcNumber(9.0), axcNil()));
+    bindings.setString("dir", "d");
+    for (Case const& c : cases)
+    {
+        Machine machine;
+        read(machine, std::string("(m ") + c.item + ')');
+        std::string const xml = machine.toXml().string();
+        EXPECT_NE(xml.find(c.xml), std::string::npos) << c.item << '\n' << xml;
+        Machine back;
+        ASSERT_TRUE(back.fromXml(AxString(xml)));
+        EXPECT_EQ(back.writtenText(), machine.writtenText()) << xml;
+        EXPECT_EQ(back.hasVariableReference(), machine.hasVariableReference()) << xml;
+        AxEnvironmentPtr const env = treeOf(xml);
+        Machine bound;
+        bound.getSelf(env, env->root(), AxReaderWriter::nullFilenames(), {&bindings});
+        EXPECT_EQ(bound.writtenText(), machine.writtenText()) << xml;
+        Machine fromText;
+        read(fromText, std::string("(m ") + c.item + ')', {&bindings});
+        EXPECT_EQ(bound.mass.value(), fromText.mass.value());
+        EXPECT_EQ(bound.label.value(), fromText.label.value());
+    }
+}
+
+TEST(AxReaderWriterTree, KeptItemsComeBackInTheirPlaces)
+{
+    char const* const texts[] = {
+        "(m (foo 5))",
+        "(m (foo (bar \"x\") y) (mass 1))",
+        "(m (mass 1) (foo 5) (seats 2))",
+        "(m (mass 1) (foo 5) (bar 6) (seats 2) (place 1 2 3) (more) (tags \"a\"))",
+        "(m (place 1 2 3) (mass heavy) (foo 5) (seats 2))",
+        "(m (engine (power 1) (foo 5) (label \"a\")) stray)",
+        "(m (machine-type \"5\") (foo 5))",
+        "(m (machine-type \"5\") (mass 1) (foo 5) (seats 1) (name \"x\") (bar 6))",
+        "(m (machine-type \"5\") (foo 5) (mass 1) (spares (a (foo 5)) (b)))",
+        "(m (many (AxRwReal 5) (NoSuchType 7 (a \"b\")) (AxRwReal 6)))",
+    };
+    for (char const* const text : texts)
+    {
+        Findings findings;
+        Machine machine;
+        ASSERT_TRUE(read(machine, text));
+        Machine back;
+        ASSERT_TRUE(back.fromXml(machine.toXml()));
+        EXPECT_EQ(back.writtenText(), machine.writtenText()) << machine.toXml().string();
+        EXPECT_EQ(back.toXml(), machine.toXml());
+    }
+    Findings findings;
+    Machine machine;
+    read(machine, "(m (mass 1) (foo 5))");
+    EXPECT_EQ(xmlOf(machine), "<machine name=\"m\" mass=\"1.0\">\n  <sexp name=\"foo\">(foo 5)</sexp>\n</machine>\n");
+}
+
+TEST(AxReaderWriterTree, UnknownXmlIsKeptReportedAndWrittenAsXmlAgain)
+{
+    std::string const xml = "<machine name=\"m\" mass=\"1.0\" foo=\"5\">\n"
+                            "  <!-- a &quot; \"note\" -->\n"
+                            "  <vector name=\"place\" value=\"1.0 2.0 3.0\"/>\n"
+                            "  <future name=\"bar\" a=\"1\">\n    <inner/>\n  </future>\n"
+                            "  <nameless/>\n"
+                            "  <part name=\"engine\" power=\"7.0\">\n    <mystery name=\"x\" y=\"z\"/>\n  </part>\n"
+                            "</machine>\n";
+    Findings findings;
+    Machine machine;
+    ASSERT_TRUE(machine.fromXml(AxString(xml)));
+    EXPECT_EQ(findings.codes(), "unknown-keyword@1 unknown-keyword@4 unknown-keyword@9 unknown-element@7");
+    EXPECT_EQ(xmlOf(machine), xml);
+    std::string const text = machine.writtenText();
+    EXPECT_NE(text.find("  (xml-item \"foo=\\\"5\\\"\")\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("  (xml-item \"<nameless/>\")\n"), std::string::npos) << text;
+    Machine fromText;
+    ASSERT_TRUE(read(fromText, text));
+    EXPECT_EQ(xmlOf(fromText), xml);
+    EXPECT_EQ(fromText.writtenText(), text);
+}
+
+TEST(AxReaderWriterTree, FaultsAreReportedAtTheirLinesAndNeighboursAreRead)
+{
+    struct Case
+    {
+        char const* xml;
+        char const* codes;
+        double mass;
+    };
+    Case const cases[] = {
+        {"<m name='m'\n mass='heavy' seats='2'/>", "wrong-kind@1", 5000.0},
+        {"<m name='m' mass='7'>\n<vector name='place' value='1 2'/></m>", "wrong-kind@2", 7.0},
+        {"<m name='m' mass='7'>\n<vector name='place' value='1 (2'/></m>", "wrong-kind@2", 7.0},
+        {"<m name='m' mass='7'>\n<vector name='place'/></m>", "wrong-kind@2", 7.0},
+        {"<m name='m' mass='7'>\n<sexp name='x'>(x</sexp></m>", "not-an-item@2", 7.0},
+        {"<m name='m' mass='7' mas='8'/>", "unknown-keyword@1", 7.0},
+    };
+    for (Case const& c : cases)
+    {
+        Findings findings;
+        Machine machine;
+        EXPECT_TRUE(machine.fromXml(c.xml)) << c.xml;
+        EXPECT_EQ(findings.codes(), c.codes) << c.xml;
+        EXPECT_EQ(machine.mass.value(), c.mass) << c.xml;
+    }
+    Findings findings;
+    Machine machine;
+    EXPECT_FALSE(machine.fromXml("<m"));
+    EXPECT_TRUE(machine.invalid());
+    EXPECT_FALSE(machine.fromXmlFile("no/such/file.xml"));
+    EXPECT_FALSE(machine.toXml(AxFilename("no/such/dir/file.xml")));
+    machine.label = AxString(std::string("a\x01"));
+    machine.label.setValueSpecified(true, false);
+    EXPECT_EQ(machine.toXml(), "");
+}
+
+TEST(AxReaderWriterTree, FilesHoldWhatTextsHold)
+{
+    boost::filesystem::path const path =
+        boost::filesystem::temp_directory_path() / boost::filesystem::unique_path("tree-%%%%%%.xml");
+    AxFilename const file(path.string());
+    Machine machine;
+    ASSERT_TRUE(read(machine, theWholeText));
+    ASSERT_TRUE(machine.toXml(file));
+    Machine back;
+    EXPECT_TRUE(back.fromXmlFile(file));
+    EXPECT_EQ(back.writtenText(), machine.writtenText());
+    boost::filesystem::remove(path);
+}
+
+TEST(AxReaderWriterTree, AttributesAreReadByKind)
+{
+    AxEnvironmentPtr const env =
+        treeOf("<m name='n' r='2.5' i='-7' w='3.0' h='0xFf' b='Yes' s='x' value='1:1:1:225:1:1:3:0'/>");
+    AxEnvValuePtr const node = env->root();
+    EXPECT_EQ(AxReaderWriter::getAttribute(env, "name", node), "n");
+    EXPECT_EQ(AxReaderWriter::getAttribute(env, "absent", node), "");
+    EXPECT_EQ(AxRwReal::getDouble(env, "r", node), 2.5);
+    EXPECT_EQ(AxRwReal::getDouble(env, "s", node), 0.0);
+    EXPECT_EQ(AxRwReal::getDouble(env, "r", AxEnvValuePtr()), 0.0);
+    EXPECT_EQ(AxRwInt::getInt(env, "i", node), -7);
+    EXPECT_EQ(AxRwInt::getInt(env, "w", node), 3);
+    EXPECT_EQ(AxRwInt::getInt(env, "r", node), 0);
+    EXPECT_EQ(AxRwInt::getIntegerFromHex(env, "h", node), 255);
+    EXPECT_EQ(AxRwInt::getIntegerFromHex(env, "s", node), 0);
+    EXPECT_TRUE(AxRwBoolean::getBoolAttribute(env, "b", node));
+    EXPECT_FALSE(AxRwBoolean::getBoolAttribute(env, "s", node));
+    EXPECT_EQ(AxRwObjectType::getObjectType(env, node), AxObjectType(1, 1, 225, 1, 1, 3, 0, 1));
+}
+
+TEST(AxReaderWriterTree, OneMemberIsReadFromItsRecordsElement)
+{
+    AxEnvironmentPtr const env = treeOf("<m name='n' old-mass='$heavy' seats='3'/>");
+    Machine machine;
+    machine.mass.addAlias("old-mass");
+    EXPECT_TRUE(machine.mass.getVariableReference(env, env->root()));
+    EXPECT_EQ(machine.mass.variableName(), "heavy");
+    EXPECT_FALSE(machine.seats.getVariableReference(env, env->root()));
+    machine.seats.getData(env, env->root(), AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
+    EXPECT_EQ(machine.seats.value(), 3);
+    EXPECT_TRUE(machine.seats.valueSpecified());
+}
+
+TEST(AxReaderWriterTree, ListsAreFilledByACreator)
+{
+    AxEnvironmentPtr const env = treeOf("<l><part name='a' power='1'/><!-- c --><other name='b'/><part name='c'/></l>");
+    auto const make = [](AxString const& name) -> AxReaderWriter* { return new Part(AxSymbolString(name), nullptr); };
+    for (auto const& [type, names] : {std::pair("", "abc"), std::pair("part", "ac"), std::pair("none", "")})
+    {
+        AxRwTemplatedListPtr<Part, 1> list("list", nullptr);
+        AxString(type).isNull() ? list.populateList(make, env, env->root(), {}, {})
+                                : list.populateListByType(make, env, env->root(), type, {}, {});
+        std::string found;
+        for (Part const* part : list)
+        {
+            found += part->AxReaderWriter::name().view();
+        }
+        EXPECT_EQ(found, names);
+        EXPECT_TRUE(list.count() == 0 || list.firstElement()->writtenText() == "(a\n  (power 1.0))\n");
+    }
+}

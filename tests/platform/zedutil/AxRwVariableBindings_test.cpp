@@ -1,0 +1,84 @@
+#include "AxRwVariableBindings.h"
+
+#include "AxRwReal.h"
+#include "AxRwString.h"
+#include "platform/zedutil/Reading.h"
+
+#include <gtest/gtest.h>
+
+TEST(AxRwVariableBindings, AnswersValuesAsText)
+{
+    AxRwVariableBindings set;
+    readFrom(set, "(variable-bindings (a \"x y\") (b word) (c 1.50 2) (a again))");
+    bool isFound = false;
+    EXPECT_EQ(set.stringValue("a", &isFound), "again");
+    EXPECT_TRUE(isFound);
+    EXPECT_EQ(set.stringValue("b"), "word");
+    EXPECT_EQ(set.stringValue("c"), "1.50 2");
+    EXPECT_EQ(set.stringValue("d", &isFound), "");
+    EXPECT_FALSE(isFound);
+    EXPECT_EQ(set.names(), (std::vector<AxSymbolString>{"a", "b", "c"}));
+    EXPECT_TRUE(set.remove("b"));
+    EXPECT_FALSE(set.remove("b"));
+}
+
+TEST(AxRwVariableBindings, ExpandsReferencesTheFirstSetFirst)
+{
+    AxRwVariableBindings inner;
+    AxRwVariableBindings outer;
+    readFrom(inner, "(inner (root \"$(dir)/data\") (alias $root) (loop \"<$(loop)>\"))");
+    readFrom(outer, "(outer (dir \"/opt\") (root \"hidden\"))");
+    struct
+    {
+        char const* text;
+        char const* expanded;
+        bool isComplete;
+        char const* first;
+    } const cases[] = {
+        {"", "", true, ""},
+        {"plain $ $( $x", "plain $ $( $x", true, ""},
+        {"$(root)/a", "/opt/data/a", true, "root"},
+        {"$(alias)", "/opt/data", true, "alias"},
+        {"$$(root) $(dir)$(dir)", "$(root) /opt/opt", true, "dir"},
+        {"$(none)/$(dir)", "$(none)//opt", false, "none"},
+        {"a$", "a$", true, ""},
+    };
+    for (auto const& one : cases)
+    {
+        bool isComplete = false;
+        AxSymbolString first;
+        EXPECT_EQ(AxRwVariableBindings::expand(one.text, {&inner, &outer}, &isComplete, &first), one.expanded);
+        EXPECT_EQ(isComplete, one.isComplete) << one.text;
+        EXPECT_EQ(first, one.first);
+    }
+    bool isComplete = true;
+    AxRwVariableBindings::expand("$(loop)", {&inner}, &isComplete);
+    EXPECT_FALSE(isComplete);
+}
+
+TEST(AxRwVariableBindings, FeedsMembersThatAreBoundLater)
+{
+    AxRwString path("path", nullptr);
+    AxRwReal mass("mass", nullptr);
+    readFrom(path, "(path \"$(dir)/a\")");
+    readFrom(mass, "(mass $m)");
+    EXPECT_FALSE(path.variableIsBound());
+    AxRwVariableBindings set;
+    set.setString("dir", "/opt");
+    readFrom(mass, "(mass $m)", {&set});
+    path.bindLocalVariables({&set});
+    mass.bindLocalVariables({&set});
+    EXPECT_EQ(path.value(), "/opt/a");
+    EXPECT_TRUE(path.variableIsBound());
+    EXPECT_FALSE(mass.variableIsBound());
+    EXPECT_EQ(path.writtenText(), "(path \"$(dir)/a\")\n");
+}
+
+TEST(AxRwVariableBindings, KeepsWhatIsNoVariable)
+{
+    ReportedFindings findings;
+    AxRwVariableBindings set;
+    readFrom(set, "(variable-bindings (a 1) (b) 7 (c 2))");
+    EXPECT_EQ(findings.codes(), "not-a-variable@1:26 not-a-variable@1:30");
+    EXPECT_EQ(set.writtenText(), "(variable-bindings\n  (a 1)\n  (c 2)\n  (b)\n  7)\n");
+}

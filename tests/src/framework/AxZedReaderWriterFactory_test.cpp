@@ -1,0 +1,90 @@
+#include "AxZedReaderWriterFactory.h"
+
+#include "AxReaderWriter.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace
+{
+struct Row
+{
+    char const* type;
+    char const* xmlType; // empty for lists that have none
+    bool isPresent;
+};
+
+constexpr Row theRows[] = {
+    {"AxTargetPriorityList", "list", true},
+    {"AxTargetPriorityEntry", "readerWriter", true},
+    {"AxRwResourceManagerType", "list", true},
+    {"integer-resource", "readerWriter", true},
+    {"real-resource", "readerWriter", true},
+    {"munition-resource", "readerWriter", true},
+    {"AxLoadPoint", "loadPoint", true},
+    {"loadPoints", "", true},
+    {"embarkationSlots", "", true},
+    {"AxDmgMunitionTable", "list", false},
+    {"AxEmbarkationSlotEntry", "embarkationSlot", true},
+    {"AxZedSubObjectParameterEntry", "AxZedSubObjectParameterEntry", true},
+    {"AxZedSubObjectParameterList", "AxZedSubObjectParameterList", true},
+    {"AxFormationTableEntry", "AxFormationTableEntry", false},
+    {"AxFormationTable", "AxFormationTable", false},
+    {"slotExclusions", "", true},
+    {"AxSlotExclusion", "slotExclusion", true},
+    {"target-selection-criteria", "readerWriter", true},
+    {"readerWriters", "", true},
+    {"AxAggregatedMovementDescriptor_MobilityEntrys", "", false},
+    {"AxAggregatedMovementDescriptor_MobilityEntry", "AxAggregatedMovementDescriptor_MobilityEntry", false},
+};
+} // namespace
+
+TEST(AxZedReaderWriterFactory, KnowsExactlyThePresentTypes)
+{
+    AxZedReaderWriterFactory factory;
+    for (auto const& [type, xmlType, isPresent] : theRows)
+    {
+        EXPECT_EQ(factory.knowsType(type), isPresent) << type;
+        std::unique_ptr<AxReaderWriter> const made(factory.createItem(type, "item", nullptr));
+        EXPECT_EQ(made != nullptr, isPresent) << type;
+        if (made)
+        {
+            EXPECT_EQ(made->name(), "item");
+            EXPECT_EQ(factory.mapRwToXmlType(type), xmlType);
+        }
+    }
+    EXPECT_FALSE(factory.createItem("no-such-type", "item", nullptr));
+}
+
+TEST(AxZedReaderWriterFactory, CopiesWhatItCreates)
+{
+    AxZedReaderWriterFactory factory;
+    for (Row const& row : theRows)
+    {
+        if (row.isPresent)
+        {
+            std::unique_ptr<AxReaderWriter> const made(factory.createItem(row.type, "item", nullptr));
+            std::unique_ptr<AxReaderWriter> const clone(factory.cloneReaderWriter(row.type, made.get(), nullptr));
+            ASSERT_TRUE(clone) << row.type;
+            EXPECT_TRUE(factory.compareReaderWriter(made.get(), clone.get())) << row.type;
+            EXPECT_EQ(clone->writtenText(true), made->writtenText(true)) << row.type;
+        }
+    }
+}
+
+TEST(AxZedReaderWriterFactory, IsTheLibrarysFactoryFromTheStart)
+{
+    EXPECT_NE(dynamic_cast<AxZedReaderWriterFactory*>(AxReaderWriter::factory()), nullptr);
+}
+
+TEST(AxZedReaderWriterFactory, ReadsAListOfAnyReaderWriters)
+{
+    std::unique_ptr<AxReaderWriter> const list(AxReaderWriter::factory()->createItem("readerWriters", "x", nullptr));
+    char const* text = "(x\n  (AxRwReal 1.5)\n  (AxRwInt 2))\n";
+    list->readText(text, AxFilename("test.ope"), AxReaderWriter::nullFilenames(),
+                   AxReaderWriter::nullVariableReference());
+    EXPECT_EQ(list->writtenText(), text);
+    std::unique_ptr<AxReaderWriter> const clone(
+        AxReaderWriter::factory()->cloneReaderWriter("readerWriters", list.get(), nullptr));
+    EXPECT_EQ(clone->writtenText(), text);
+}

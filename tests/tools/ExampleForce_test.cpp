@@ -1,0 +1,137 @@
+#include "AxAmmoSelectTable.h"
+#include "AxComponentSystemDefinition.h"
+#include "AxComponentSystemDescriptor.h"
+#include "AxDefaultComponentDescriptorFactory.h"
+#include "AxDefaultParameterFactory.h"
+#include "AxMovingObjectParameters.h"
+#include "AxObjectSensorDescriptor.h"
+#include "AxRangeProbabilityTable.h"
+#include "AxSinkScope.h"
+#include "AxSxpParameterDb.h"
+#include "AxSxpParameterDbEntry.h"
+#include "AxZedObjectParametersDB.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+namespace
+{
+namespace fs = std::filesystem;
+
+std::string const theForce = ZEDOBJPARAM_SOURCE_DIR "/examples/force/";
+AxObjectType const theTank(1, 1, 225, 1, 1, 3, 0, 1);
+
+/// What comes from the example directory must come without a warning.
+class ExampleForce : public testing::Test
+{
+protected:
+    ExampleForce()
+    {
+        AxComponentDescriptor::setFactory(&myDescriptors);
+        AxZedObjectParameters::setFactory(&myRecords);
+    }
+    ~ExampleForce() override
+    {
+        EXPECT_EQ(myWarnings.text(), "");
+        AxComponentDescriptor::setFactory(nullptr);
+        AxZedObjectParameters::setFactory(nullptr);
+    }
+
+    static std::unique_ptr<AxSxpParameterDb> loadAll(std::string const& file)
+    {
+        auto database = std::make_unique<AxSxpParameterDb>();
+        EXPECT_TRUE(database->init() && database->loadAll(AxFilename(file)));
+        return database;
+    }
+    static void load(std::string const& file, AxReaderWriter& table)
+    {
+        AxReaderWriterFile member("table-file", nullptr);
+        member.setContent(&table);
+        member.setFilename(AxFilename(theForce + file));
+        EXPECT_TRUE(member.load({}, {}));
+    }
+
+private:
+    AxSinkScope myWarnings{AxWarn};
+    AxDefaultComponentDescriptorFactory myDescriptors;
+    AxDefaultParameterFactory myRecords;
+};
+
+TEST_F(ExampleForce, HitTableAnswersByRangeAndTarget)
+{
+    AxRangeProbabilityTable table("hit", nullptr);
+    load("hit/gun-120mm.hit", table);
+    AxPrbRangeTableEntry row;
+    AxEntityType matched;
+    EXPECT_TRUE(table.getProbabilities(AxEntityType(1, 1, 225, 6, 1, 7, 0), 1500.0, &row, &matched));
+    EXPECT_EQ(row.probability("hit"), 0.78);
+    EXPECT_EQ(matched, AxEntityType(1, 1, -1, -1, -1, -1, -1));
+    EXPECT_TRUE(table.getProbabilities(AxEntityType(1, 1, 222, 1, 2, 6, 0), 2000.0, &row, &matched));
+    EXPECT_DOUBLE_EQ(row.probability("hit"), 0.75) << "tanks have a line, 1.05 - 0.00015 r";
+    EXPECT_FALSE(table.getProbabilities(AxEntityType(1, 3, 225, 4, 1, 1, 0), 100.0, &row, &matched));
+}
+
+TEST_F(ExampleForce, AmmunitionTableGivesSabotForTanksAndHeatForTheRest)
+{
+    AxAmmoSelectTable table("ammo", nullptr);
+    load("ammoselect/gun-120mm.asl", table);
+    auto const first = [&](AxEntityType const& target) {
+        return static_cast<AxSimMunition const*>(AxRwList::element(table.simMunitionList(target).first()))
+            ->munitionName();
+    };
+    EXPECT_EQ(first(AxEntityType(1, 1, 222, 1, 2, 6, 0)), "120mm-sabot");
+    EXPECT_EQ(first(AxEntityType(1, 1, 222, 2, 2, 1, 0)), "120mm-heat");
+}
+
+TEST_F(ExampleForce, SystemsTakeTheValuesThatTheRecordSets)
+{
+    std::unique_ptr<AxSxpParameterDb> const database = loadAll(theForce + "force.opd");
+    AxZedObjectParameters const* tank = database->lookup(theTank);
+    ASSERT_NE(tank, nullptr);
+    EXPECT_EQ(tank->minTickPeriod(), 0.1);
+    auto const rangeOf = [&](char const* system)
+    {
+        AxComponentSystemDescriptor const* sight = tank->systemDescriptorList().lookupComponentSystemDescriptor(system);
+        AxComponentDescriptor const* eye =
+            sight->systemDefinition()->sensorDescriptorList().lookupComponentDescriptor("eye");
+        return dynamic_cast<AxObjectSensorDescriptor const&>(*eye).sensorGeometry().maxRange();
+    };
+    EXPECT_EQ(rangeOf("sight"), 4000.0);
+    EXPECT_EQ(rangeOf("commander-sight"), 4500.0);
+}
+
+TEST_F(ExampleForce, ComesBackEqualFromASave)
+{
+    fs::path const copy = fs::path(testing::TempDir()) / "example-force-copy";
+    fs::remove_all(copy);
+    fs::copy(theForce, copy, fs::copy_options::recursive);
+    std::unique_ptr<AxSxpParameterDb> const original = loadAll((copy / "force.opd").string());
+    EXPECT_TRUE(original->save(AxFilename((copy / "saved.opd").string())));
+    std::unique_ptr<AxSxpParameterDb> const saved = loadAll((copy / "saved.opd").string());
+
+    EXPECT_EQ(saved->numParameterEntries(), 23);
+    for (AxListItem const* item = original->parameterList().first(); item != nullptr; item = item->next())
+    {
+        auto const& entry = *static_cast<AxZedParameterDbEntry const*>(item->data());
+        AxZedObjectParameters const* record = saved->lookup(entry.objectType());
+        ASSERT_NE(record, nullptr) << entry.objectType().string().string();
+        EXPECT_TRUE(record->equals(*entry.parameters())) << entry.objectType().string().string();
+    }
+    fs::remove_all(copy);
+}
+
+TEST_F(ExampleForce, CollectionPassesValuesDown)
+{
+    AxZedObjectParametersDB collection("parameter-list", nullptr);
+    ASSERT_TRUE(collection.init() && collection.readParameterFile(theForce + "collection.params"));
+    auto const* tank = dynamic_cast<AxMovingObjectParameters const*>(collection.lookupParameters(theTank, nullptr));
+    ASSERT_NE(tank, nullptr);
+    EXPECT_EQ(tank->mass(), 62100.0);
+    EXPECT_EQ(tank->maxSpeed(), 18.6) << "from the M1";
+    EXPECT_EQ(tank->category(), "tank") << "from the tank, through the M1";
+    EXPECT_EQ(tank->deadReckoningThresholds().translationThreshold(), 0.25);
+    EXPECT_EQ(tank->deadReckoningThresholds().rotationThreshold(), 2.0);
+}
+} // namespace

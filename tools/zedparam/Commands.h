@@ -1,0 +1,22 @@
+#pragma once
+
+namespace CLI
+{
+class App;
+}
+
+/// What the process ends with.
+enum ExitCode
+{
+    Fine = 0,
+    HasFindings = 1, ///< findings, or nothing answers
+    CouldNotRun = 2
+};
+
+/// Each adds one sub-command. When the command line calls it, it runs and leaves what it ended with in `exitCode`.
+void addInfoCommand(CLI::App& app, int& exitCode);
+void addListCommand(CLI::App& app, int& exitCode);
+void addLookupCommand(CLI::App& app, int& exitCode);
+void addShowCommand(CLI::App& app, int& exitCode);
+void addCheckCommand(CLI::App& app, int& exitCode);
+void addSaveCommand(CLI::App& app, int& exitCode);

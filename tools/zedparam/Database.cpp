@@ -1,0 +1,74 @@
+#include "Database.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "AxDefaultComponentDescriptorFactory.h"
+#include "AxDefaultParameterFactory.h"
+#include "AxZedObjectParameters.h"
+#include "Progress.h"
+#include "ShownPath.h"
+
+namespace
+{
+void setFactories()
+{
+    static AxDefaultComponentDescriptorFactory descriptors;
+    static AxDefaultParameterFactory records;
+    AxComponentDescriptor::setFactory(&descriptors);
+    AxZedObjectParameters::setFactory(&records);
+}
+} // namespace
+
+std::unique_ptr<Database> Database::open(std::string const& file)
+{
+    setFactories();
+    auto database = std::make_unique<Database>();
+    if (!database->init() || !database->load(AxFilename(file)))
+    {
+        return nullptr;
+    }
+    database->myDirectory = std::filesystem::path(file).parent_path().string();
+    if (database->myDirectory.empty())
+    {
+        database->myDirectory = ".";
+    }
+    return database;
+}
+
+std::vector<AxSxpParameterDbEntry*> Database::entries() const
+{
+    std::vector<AxSxpParameterDbEntry*> result;
+    for (AxListItem const* item = parameterList().first(); item != nullptr; item = item->next())
+    {
+        auto* entry = static_cast<AxZedParameterDbEntry*>(item->data());
+        if (auto* fileEntry = dynamic_cast<AxSxpParameterDbEntry*>(entry))
+        {
+            result.push_back(fileEntry);
+        }
+    }
+    return result;
+}
+
+void Database::readRecords(std::string const& what) const
+{
+    std::vector<AxSxpParameterDbEntry*> const all = entries();
+    Progress progress(what, all.size());
+    for (AxSxpParameterDbEntry* entry : all)
+    {
+        getParameters(entry);
+        progress.step();
+    }
+}
+
+bool Database::isPattern(AxZedParameterDbEntry const& entry)
+{
+    return entry.typeIsMatchType() || std::ranges::find(entry.objectType().fields(), AxObjectType::theWildcard) !=
+                                          entry.objectType().fields().end();
+}
+
+std::string Database::fileOf(AxSxpParameterDbEntry const& entry)
+{
+    AxFilename const found = entry.foundFilename();
+    return shownPath((found.isNull() ? entry.filename() : found).native());
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "AxDiagnostic.h"
+#include "AxSinkScope.h"
+
+class JsonWriter;
+
+/// Takes what the library reports for as long as it lives. A warning that comes without a place is a finding as well,
+/// unless it follows a finding in the same file: then it tells the consequence.
+class Findings
+{
+public:
+    enum class Print
+    {
+        AtOnce, ///< each on the standard error stream as it comes
+        Never
+    };
+
+    explicit Findings(Print print);
+    Findings(Findings const&) = delete;
+    Findings& operator=(Findings const&) = delete;
+    ~Findings();
+
+    void add(AxDiagnostic diagnostic);
+
+    bool empty() const { return myFindings.empty(); }
+    /// By file, line, column and text, each once: what several records share is read, and reported, for each of them.
+    std::vector<AxDiagnostic> const& sorted();
+
+    static void write(JsonWriter& json, std::vector<AxDiagnostic> const& findings);
+
+private:
+    void takeWarning(std::string const& line);
+
+    Print myPrint;
+    std::vector<AxDiagnostic> myFindings;
+    bool myEchoFollows = false; // the library repeats a finding as a line of text
+    std::optional<AxSinkScope> myWarnings;
+    AxDiagnostics::Sink myPreviousSink;
+};

@@ -1,0 +1,101 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "AxRwVariableBindings.h"
+#include "Database.h"
+#include "Findings.h"
+#include "Json.h"
+
+namespace
+{
+struct Summary
+{
+    int version = 0;
+    std::size_t entries = 0;
+    std::size_t patterns = 0;
+    std::size_t missing = 0;
+    std::vector<std::string> variables;
+};
+
+Summary summarize(Database const& database)
+{
+    Summary summary;
+    summary.version = database.versionNumber();
+    for (AxSxpParameterDbEntry const* entry : database.entries())
+    {
+        ++summary.entries;
+        summary.patterns += Database::isPattern(*entry);
+        summary.missing += entry->foundFilename().isNull();
+    }
+    for (AxSxpParameterDb::VariableBindingsPtr const& bindings : database.variableBindings())
+    {
+        for (AxSymbolString const name : bindings->names())
+        {
+            summary.variables.push_back(name.string().string());
+        }
+    }
+    return summary;
+}
+
+void printText(std::string const& file, Summary const& summary)
+{
+    std::printf("database   %s\nversion    %d\n", file.c_str(), summary.version);
+    std::printf("entries    %zu: %zu exact, %zu patterns\n", summary.entries, summary.entries - summary.patterns,
+                summary.patterns);
+    std::printf("records    %zu found, %zu missing\n", summary.entries - summary.missing, summary.missing);
+    std::printf("variables ");
+    for (std::string const& name : summary.variables)
+    {
+        std::printf(" %s", name.c_str());
+    }
+    std::printf("%s\n", summary.variables.empty() ? " none" : "");
+}
+
+void printJson(std::string const& file, Summary const& summary)
+{
+    JsonWriter json;
+    json.beginObject().member("database", file);
+    json.key("version").integer(summary.version);
+    json.key("entries").integer(static_cast<long long>(summary.entries));
+    json.key("patterns").integer(static_cast<long long>(summary.patterns));
+    json.key("missing").integer(static_cast<long long>(summary.missing));
+    json.key("variables").beginArray();
+    for (std::string const& name : summary.variables)
+    {
+        json.string(name);
+    }
+    json.endArray().endObject().print();
+}
+} // namespace
+
+void addInfoCommand(CLI::App& app, int& exitCode)
+{
+    struct Options
+    {
+        std::string database;
+        bool json = false;
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App* command = app.add_subcommand("info", "What a database holds, in numbers; no record is read.");
+    command->add_option("DB", options->database, "The database file (.opd)")->required();
+    command->add_flag("--json", options->json, "Print JSON");
+    command->callback(
+        [options, &exitCode]
+        {
+            Findings findings(Findings::Print::AtOnce);
+            std::unique_ptr<Database> const database = Database::open(options->database);
+            if (database == nullptr)
+            {
+                exitCode = CouldNotRun;
+                return;
+            }
+            (options->json ? printJson : printText)(options->database, summarize(*database));
+            exitCode = findings.empty() ? Fine : HasFindings;
+        });
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+/// "what 12/100" on the standard error stream, overwritten in place and cleared in the end; nothing at all unless that
+/// stream is a terminal.
+class Progress
+{
+public:
+    Progress(std::string what, std::size_t total);
+    Progress(Progress const&) = delete;
+    Progress& operator=(Progress const&) = delete;
+    ~Progress();
+
+    void step();
+
+private:
+    std::string myWhat;
+    std::size_t myTotal;
+    std::size_t myDone = 0;
+    bool myIsShown;
+};

@@ -1,0 +1,126 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "AxReaderWriterFile.h"
+#include "AxRecursiveReaderWriterIterator.h"
+#include "AxZedObjectParameters.h"
+#include "Database.h"
+#include "Findings.h"
+#include "Tables.h"
+
+namespace
+{
+namespace fs = std::filesystem;
+
+/// The files that a database in another directory needs beside it, at the places they have here.
+class Companions
+{
+public:
+    Companions(fs::path const& from, fs::path const& to) : myFrom(fs::weakly_canonical(from)), myTo(to) {}
+
+    /// False for a file that does not lie below the database's directory.
+    bool add(Database& database, fs::path const& file) const
+    {
+        fs::path const relative = fs::weakly_canonical(file).lexically_relative(myFrom);
+        if (relative.empty() || *relative.begin() == "..")
+        {
+            return false;
+        }
+        database.addDependentParameterFileToCopyPair(AxFilename(file.string()), AxFilename((myTo / relative).string()));
+        return true;
+    }
+
+private:
+    fs::path myFrom;
+    fs::path myTo;
+};
+
+void addCompanions(Database& database, fs::path const& directory, Findings& findings)
+{
+    Companions const companions(database.directory(), directory);
+    for (fs::path const& table : tableFiles(database))
+    {
+        companions.add(database, table);
+    }
+    for (AxSxpParameterDbEntry* entry : database.entries())
+    {
+        if (entry->parameters() == nullptr)
+        {
+            continue;
+        }
+        AxRecursiveReaderWriterIterator all(*entry->parameters()->registry());
+        for (AxReaderWriter const* rw = all.first(); rw != nullptr; rw = all.next())
+        {
+            auto const* file = dynamic_cast<AxReaderWriterFile const*>(rw);
+            if (file == nullptr || file->foundFilename().isNull())
+            {
+                continue;
+            }
+            if (!companions.add(database, file->foundFilename().native()) && file->filename().isRelative())
+            {
+                AxDiagnostic finding;
+                finding.severity = AxSeverity::Warning;
+                finding.code = "not-copied";
+                finding.file = Database::fileOf(*entry);
+                finding.text = "\"" + file->filename().string().string() +
+                               "\" lies outside the database's directory and is not copied";
+                findings.add(std::move(finding));
+            }
+        }
+    }
+    database.addUnloadedFilesToCopyPairs(AxFilename(directory.string()));
+}
+
+int save(std::string const& from, std::string const& to)
+{
+    if (!to.ends_with(AxSxpParameterDb::opdFilenameExtension().string()))
+    {
+        std::fprintf(stderr, "zedparam: cannot save to \"%s\"; expected a name that ends in \"%s\"\n", to.c_str(),
+                     AxSxpParameterDb::opdFilenameExtension().c_str());
+        return CouldNotRun;
+    }
+    Findings findings(Findings::Print::AtOnce);
+    std::unique_ptr<Database> const database = Database::open(from);
+    if (database == nullptr)
+    {
+        return CouldNotRun;
+    }
+    database->readRecords("reading records");
+    fs::path const directory = fs::absolute(to).lexically_normal().parent_path();
+    if (fs::weakly_canonical(directory) != fs::weakly_canonical(database->directory()))
+    {
+        addCompanions(*database, directory, findings);
+    }
+    std::size_t records = 0;
+    for (AxSxpParameterDbEntry const* entry : database->entries())
+    {
+        records += entry->parameters() != nullptr;
+    }
+    if (!database->save(AxFilename(to)))
+    {
+        return CouldNotRun;
+    }
+    std::printf("saved %zu of %zu records to %s\n", records, database->entries().size(), to.c_str());
+    return findings.empty() ? Fine : HasFindings;
+}
+} // namespace
+
+void addSaveCommand(CLI::App& app, int& exitCode)
+{
+    struct Options
+    {
+        std::string database;
+        std::string target;
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App* command =
+        app.add_subcommand("save", "Reads all records and writes the database anew, with the files that it refers to.");
+    command->add_option("DB", options->database, "The database file (.opd)")->required();
+    command->add_option("NEW", options->target, "The database file to write (.opd)")->required();
+    command->callback([options, &exitCode] { exitCode = save(options->database, options->target); });
+}
