@@ -54,7 +54,7 @@ class Databases
 public:
     Databases()
     {
-        std::string folder = (fs::temp_directory_path() / "zedobjparam-bench-XXXXXX").string();
+        std::string folder = (fs::temp_directory_path() / "zedobjparam-bench-").string() + std::string(6, 'X');
         if (!mkdtemp(folder.data()))
         {
             throw std::runtime_error("cannot make a temporary folder");

@@ -34,6 +34,7 @@ target_compile_options(
               -Wconversion
               -Wnon-virtual-dtor
               -Woverloaded-virtual
+              "$<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>"
               "$<$<BOOL:${ZEDOBJPARAM_WERROR}>:-Werror;$<$<CXX_COMPILER_ID:GNU>:-Wno-error=restrict>>"
               "$<$<CONFIG:Debug>:-gsplit-dwarf>")
 

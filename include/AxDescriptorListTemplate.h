@@ -2,6 +2,7 @@
 
 #include "AxReaderWriterFactory.h"
 #include "AxTypedListIterator.h"
+#include "axAddKeyed.h"
 
 /// An owning list of records, each name once: what the descriptor lists have in common. `T` offers
 /// `clone(AxReaderWriterRegistry*) const` and `operator==`.
@@ -74,19 +75,18 @@ protected:
     /// The first element of that name, null when there is none.
     AxListItem* findItem(AxString const& name) const { return findItem(AxSymbolString::find(name.string()), name); }
     T* find(AxString const& name) const { return static_cast<T*>(element(findItem(name))); }
-    /// Takes `element` over as the last; an element of its name before it is deleted. Marks the list specified.
+    /// Takes `element` over as the last; an element of its name before it is deleted. Marks the list specified. Null
+    /// is ignored.
     void addOwned(T* element)
     {
-        AxSymbolString const name = element->AxReaderWriter::name();
-        if (AxListItem* older = findItem(name, name.string()))
+        if (!element)
         {
-            auto* replaced = static_cast<T*>(AxRwList::element(older));
-            AxRwList::remove(replaced, older);
-            delete replaced;
+            return;
         }
-        AxRwList::add(element);
+        axAddKeyed(*this, element, &axNameKey);
         setValueSpecified(true, false);
     }
+    /// Null when no copy could be made.
     T* addCopy(T const& element)
     {
         auto* copy = static_cast<T*>(element.clone(nullptr));
@@ -95,6 +95,10 @@ protected:
     }
     void copyAll(AxDescriptorListTemplate const& other)
     {
+        if (&other == this)
+        {
+            return;
+        }
         for (T const* element : other)
         {
             addCopy(*element);

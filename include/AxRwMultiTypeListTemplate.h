@@ -7,6 +7,7 @@
 #include "AxUnknownType.h"
 #include "AxlObj.h"
 
+#include <memory>
 #include <typeinfo>
 
 /// An owning list of records of the family `T`, each element headed by the name of its class. `T` offers a static
@@ -53,9 +54,13 @@ public:
 
     using AxRwList::add;
     /// Appends a clone and answers it. Overload resolution prefers this to the adding of a pointer that is to be owned:
-    /// use `addToEnd` for that.
+    /// use `addToEnd` for that. Null is ignored and answered.
     virtual T* add(T const* element)
     {
+        if (!element)
+        {
+            return nullptr;
+        }
         T* copy = element->clone();
         AxRwList::addToEnd(copy);
         return copy;
@@ -66,6 +71,10 @@ public:
     /// Appends copies of the other's elements.
     void copyListFrom(AxRwMultiTypeListTemplate const& other)
     {
+        if (&other == this)
+        {
+            return;
+        }
         for (T const* element : other)
         {
             AxRwList::addToEnd(element->clone());
@@ -102,10 +111,10 @@ public:
         AxlObj const* const head = item.get()->car();
         AxString const type(head->text());
         auto* const families = T::factory();
-        if (T* element = families->create(type, type))
+        if (std::unique_ptr<T> element(families->create(type, type)); element)
         {
             element->getSelf(item, files, bindings);
-            AxRwList::addToEnd(element);
+            AxRwList::addToEnd(element.release());
             return item;
         }
         std::vector<std::string_view> known;
@@ -129,13 +138,13 @@ private:
         {
             std::string_view const head = reader.peekHead();
             AxString const type(head);
-            T* const element = head.empty() ? nullptr : T::factory()->create(type, type);
+            std::unique_ptr<T> element(head.empty() ? nullptr : T::factory()->create(type, type));
             if (!element)
             {
                 return false;
             }
             reader.read(*element, files, bindings);
-            list.addToEnd(element);
+            list.addToEnd(element.release());
             return true;
         };
         return ops;

@@ -9,6 +9,7 @@
 #include <vector>
 
 class AxSxpParameterDbFileEntry;
+class AxlInputStream;
 
 /// An entry that knows the file of its record and reads it when the record is first asked for.
 class ZEDOBJPARAM_API AxSxpParameterDbEntry : public AxZedParameterDbEntry
@@ -59,6 +60,9 @@ public:
     void setFileEntry(AxSxpParameterDbFileEntry const& entry);
 
 private:
+    struct Sources;
+
+    AxZedObjectParameters* readRecord(AxlInputStream& stream, AxEnvironmentPtr const& env, AxEnvValuePtr* value);
     std::vector<AxFilename> directories() const;
     AxZedObjectParameters* readTextFile(AxFilename const& file);
     AxZedObjectParameters* readEntityFile(AxFilename const& file);

@@ -42,6 +42,9 @@ public:
     void putData(std::string& out, int indent) override;
 
 private:
+    struct Entry;
+    static Entry const ourEntry;
+
     AxRwInt myVersion{{"version", "", "Version of the file's form."}, 101, registry()};
     AxSxpParameterDbFileEntryList myEntries{{"parameter-files", "", "Types and the files of their records."},
                                             registry()};

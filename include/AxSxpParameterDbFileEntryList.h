@@ -21,6 +21,10 @@ public:
     void keepUnread(std::string const& text);
 
 private:
+    struct Entry;
+    static Entry const ourEntry;
+
+    void leaveOut(AxlObj const* item, unsigned line, unsigned column);
     void keep(AxlObj const* item);
 
     std::vector<std::string> myUnread;

@@ -64,8 +64,10 @@ private:
     void writeRecord(AxZedObjectParameters& record, std::string& out, int indent, bool all,
                      AxFilename const& file) const;
     void copyRecords(AxZedObjectParametersList const& other);
+    void forgetUnknownTypes();
 
     std::vector<ElementType> myElementTypes;
     AxString myCurrentElementType;
     std::unique_ptr<AxTypeIndex> myIndex;
+    bool myTypesAreKnown = false; // while the list is read, nobody else has its records
 };

@@ -8,10 +8,13 @@
 #include <AxStreams.h>
 #include <AxSxpParameterDb.h>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 
 namespace
 {
+namespace fs = std::filesystem;
+
 /// A kind of component that only this host knows. Length in metres.
 class TowedArrayDescriptor
     : public AxDescriptorOf<TowedArrayDescriptor, AxComponentDescriptor, "towed-array-descriptor">
@@ -66,6 +69,16 @@ bool isEquipped(char const* file)
     std::printf("saved and read again: cable of %.0f m\n", tail != nullptr ? tail->cableLength() : 0.0);
     return tail != nullptr && tail->cableLength() == 450.0;
 }
+
+/// Puts what the records refer to, and the records that were never read, beside the new database.
+void takeAlong(AxSxpParameterDb& database, fs::path const& from, fs::path const& to)
+{
+    for (char const* folder : {"systems", "rules"})
+    {
+        fs::copy(from / folder, to / folder, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    }
+    database.addUnloadedFilesToCopyPairs(AxFilename(to.string()));
+}
 } // namespace
 
 int main(int argc, char** argv)
@@ -86,5 +99,10 @@ int main(int argc, char** argv)
     AxComponentDescriptor::addComponentDescriptorCreatorFcn("towed-array-descriptor", &TowedArrayDescriptor::creator);
 
     std::unique_ptr<AxSxpParameterDb> const database = load(argv[1]);
-    return database != nullptr && equip(*database) && database->save(argv[2]) && isEquipped(argv[2]) ? 0 : 1;
+    if (database == nullptr || !equip(*database))
+    {
+        return 1;
+    }
+    takeAlong(*database, fs::absolute(argv[1]).parent_path(), fs::absolute(argv[2]).parent_path());
+    return database->save(argv[2]) && isEquipped(argv[2]) ? 0 : 1;
 }

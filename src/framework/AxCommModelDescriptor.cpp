@@ -4,6 +4,7 @@
 #include "AxUnknownType.h"
 #include "AxlObj.h"
 
+#include <exception>
 #include <map>
 #include <memory>
 
@@ -117,18 +118,28 @@ AxCommModelDescriptor* AxCommModelDescriptor::createCommModelDescriptor(AxlObjPt
 {
     AxlObj const* const typeCell = AxTypeItem::typeCell(expression);
     AxString const type = typeCell->pname();
+    AxlObj const* const place = AxTypeItem::placeOf(typeCell, expression);
     auto const found = creators().find(type);
-    std::unique_ptr<AxCommModelDescriptor> made(found != creators().end() && found->second ? found->second() : nullptr);
-    if (!made)
+    try
     {
-        std::vector<std::string_view> known;
-        for (auto const& [name, creator] : creators())
+        std::unique_ptr<AxCommModelDescriptor> made(found != creators().end() && found->second ? found->second()
+                                                                                               : nullptr);
+        if (made)
         {
-            known.push_back(name.string());
+            made->getSelf(expression, files, bindings);
+            return made.release();
         }
-        axReportUnknownType(type.string(), typeCell, "could not create signature propagator descriptor\n", known);
+    }
+    catch (std::exception const& error)
+    {
+        AxTypeItem::reportCreationFailed(place, type.string(), error.what());
         return nullptr;
     }
-    made->getSelf(expression, files, bindings);
-    return made.release();
+    std::vector<std::string_view> known;
+    for (auto const& [name, creator] : creators())
+    {
+        known.push_back(name.string());
+    }
+    axReportUnknownType(type.string(), place, "could not create signature propagator descriptor\n", known);
+    return nullptr;
 }

@@ -6,6 +6,7 @@
 #include "AxTypeItem.h"
 #include "AxlObj.h"
 
+#include <exception>
 #include <memory>
 
 namespace
@@ -21,6 +22,7 @@ AxTypeOps typeOps()
     { return new AxComponentDescriptor(name, registry); };
     ops.copy = [](AxReaderWriter& to, AxReaderWriter const& from) { to.assign(from); };
     ops.equal = [](AxReaderWriter const& a, AxReaderWriter const& b) { return typeid(a) == typeid(b) && a == b; };
+    ops.leadHead = theTypeHead;
     ops.ownItem = [](AxReaderWriter&, AxlObj const* item, std::size_t index, AxBindingsList&)
     {
         if (index == 0)
@@ -235,12 +237,25 @@ void AxComponentDescriptor::addComponentDescriptorCreatorFcn(AxString const& typ
 
 AxComponentDescriptor* AxComponentDescriptor::createComponentDescriptor(char const* type)
 {
-    AxComponentDescriptor* const made = theFactory->createComponentDescriptor(AxString(type));
-    if (made)
+    if (!theFactory)
     {
-        made->init();
+        AxWarn("Can't create component descriptor without a component descriptor factory.\n");
+        return nullptr;
     }
-    return made;
+    try
+    {
+        std::unique_ptr<AxComponentDescriptor> made(theFactory->createComponentDescriptor(AxString(type)));
+        if (made)
+        {
+            made->init();
+        }
+        return made.release();
+    }
+    catch (std::exception const& error)
+    {
+        AxTypeItem::reportCreationFailed(AxTypeItem::Scope::cell(), type, error.what());
+        return nullptr;
+    }
 }
 
 AxComponentDescriptor* AxComponentDescriptor::createComponentDescriptor(AxlObjPtr const& expression,
@@ -253,15 +268,24 @@ AxComponentDescriptor* AxComponentDescriptor::createComponentDescriptor(AxlObjPt
         return nullptr;
     }
     AxlObj const* const typeCell = AxTypeItem::typeCell(expression);
+    AxlObj const* const place = AxTypeItem::placeOf(typeCell, expression);
     AxString const type = typeCell->pname();
-    std::unique_ptr<AxComponentDescriptor> made;
+    try
     {
-        AxTypeItem::Scope const place(typeCell);
-        made.reset(createComponentDescriptor(type.c_str()));
+        std::unique_ptr<AxComponentDescriptor> made;
+        {
+            AxTypeItem::Scope const scope(place);
+            made.reset(createComponentDescriptor(type.c_str()));
+        }
+        if (made)
+        {
+            made->getSelf(expression, files, bindings);
+        }
+        return made.release();
     }
-    if (made)
+    catch (std::exception const& error)
     {
-        made->getSelf(expression, files, bindings);
+        AxTypeItem::reportCreationFailed(place, type.string(), error.what());
+        return nullptr;
     }
-    return made.release();
 }

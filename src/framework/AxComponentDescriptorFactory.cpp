@@ -4,6 +4,7 @@
 #include "AxTypeItem.h"
 #include "AxUnknownType.h"
 
+#include <unordered_set>
 #include <vector>
 
 namespace
@@ -46,10 +47,15 @@ void AxComponentDescriptorFactory::addEntriesOf(AxComponentDescriptorFactory con
 
 void AxComponentDescriptorFactory::deleteEntries()
 {
-    while (AxListItem const* item = first())
+    // An entry's type may have been changed since it was added, so that it tells nothing of its key.
+    std::unordered_set<AxComponentDescriptorFactoryEntry const*> entries;
+    for (AxListItem const* item = first(); item; item = item->next())
     {
-        AxComponentDescriptorFactoryEntry const* const entry = entryOf(item);
-        AxHashlist::remove(AxStringHashKey(entry->typeToCreate()));
+        entries.insert(entryOf(item));
+    }
+    AxHashlist::clear();
+    for (AxComponentDescriptorFactoryEntry const* entry : entries)
+    {
         delete entry;
     }
 }

@@ -5,6 +5,8 @@
 #include "AxStreams.h"
 #include "AxTextReader.h"
 
+#include <memory>
+
 /// Elements of known types are read without cells.
 struct AxComponentDescriptorList::Entry : AxTypeEntry<AxComponentDescriptorList>
 {
@@ -25,13 +27,13 @@ struct AxComponentDescriptorList::Entry : AxTypeEntry<AxComponentDescriptorList>
         {
             return false;
         }
-        AxComponentDescriptor* const made = AxComponentDescriptor::createComponentDescriptor(type.c_str());
+        std::unique_ptr<AxComponentDescriptor> made(AxComponentDescriptor::createComponentDescriptor(type.c_str()));
         if (!made)
         {
             return false;
         }
         reader.read(*made, files, bindings);
-        static_cast<AxComponentDescriptorList&>(list).addComponentDescriptor(made);
+        static_cast<AxComponentDescriptorList&>(list).addComponentDescriptor(made.release());
         return true;
     }
 };

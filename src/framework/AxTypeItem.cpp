@@ -1,6 +1,7 @@
 #include "AxTypeItem.h"
 
 #include "AxDiagnostic.h"
+#include "AxFaultAt.h"
 #include "AxReadFrame.h"
 #include "AxlObj.h"
 
@@ -41,6 +42,18 @@ void check(AxlObj const* item, char const* head)
 AxlObj const* typeCell(AxlObjPtr const& expression)
 {
     return expression.get()->cdr()->car()->cdr()->car();
+}
+
+AxlObj const* placeOf(AxlObj const* typeCell, AxlObjPtr const& expression)
+{
+    return typeCell->line() != 0 ? typeCell : expression.get();
+}
+
+void reportCreationFailed(AxlObj const* cell, std::string_view type, std::string_view reason)
+{
+    AxDiagnostics::report(
+        axFaultAt(AxSeverity::Error, "creation-failed", cell ? cell : AxlObj::nilCell(),
+                  "cannot create an element of type \"" + std::string(type) + "\": " + std::string(reason)));
 }
 
 Scope::Scope(AxlObj const* cell) : myOuter(theCell)

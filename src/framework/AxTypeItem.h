@@ -11,6 +11,10 @@ void write(std::string& out, int indent, char const* head, AxString const& type)
 void check(AxlObj const* item, char const* head);
 /// The cell that names the type in `(name (head type) ...)`; nil for any other shape.
 AxlObj const* typeCell(AxlObjPtr const& expression);
+/// Where a fault of the type is reported: its cell, or the expression when that has no place.
+AxlObj const* placeOf(AxlObj const* typeCell, AxlObjPtr const& expression);
+/// Reports that the creator of `type` threw; `cell` may be null.
+void reportCreationFailed(AxlObj const* cell, std::string_view type, std::string_view reason);
 
 /// Names the cell whose text a creator is being looked up for, so that a factory, which is asked by text alone, can
 /// tell the place.

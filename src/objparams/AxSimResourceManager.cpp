@@ -3,6 +3,7 @@
 #include "AxReaderWriterFactory.h"
 #include "AxTextReader.h"
 #include "AxUnknownType.h"
+#include "axAddKeyed.h"
 
 #include <memory>
 
@@ -29,13 +30,13 @@ AxTypeOps typeOps()
         [](AxRwList& list, AxTextReader& reader, AxFilenameList const& files, AxBindingsList const& bindings)
     {
         std::string_view const head = reader.peekHead();
-        AxSimResource* const resource = head.empty() ? nullptr : newResource(head);
+        std::unique_ptr<AxSimResource> resource(head.empty() ? nullptr : newResource(head));
         if (!resource)
         {
             return false;
         }
         reader.read(*resource, files, bindings);
-        static_cast<AxSimResourceManager&>(list).addResource(resource);
+        static_cast<AxSimResourceManager&>(list).addResource(resource.release());
         return true;
     };
     return ops;
@@ -91,11 +92,14 @@ void AxSimResourceManager::addResource(AxSimResource* resource)
     {
         resource->setName(word.string());
     }
-    if (!resource->resourceName().isNull())
+    if (resource->resourceName().isNull())
     {
-        AxSimResourceManager::removeResource(resource->resourceName());
+        AxRwList::addToEnd(resource);
+        return;
     }
-    AxRwList::addToEnd(resource);
+    axAddKeyed(*this, resource,
+               [](AxReaderWriter const& element) -> std::string_view
+               { return static_cast<AxSimResource const&>(element).resourceName().string(); });
 }
 
 AxSimResource* AxSimResourceManager::findResource(AxString const& resourceName) const
@@ -124,10 +128,10 @@ AxlObjPtr AxSimResourceManager::getData(AxlObjPtr const& item, AxFilenameList co
                                         AxBindingsList const& bindings)
 {
     AxlObj const* const head = item->car();
-    if (AxSimResource* const resource = newResource(head->text()))
+    if (std::unique_ptr<AxSimResource> resource(newResource(head->text())); resource)
     {
         resource->getSelf(item, files, bindings);
-        addResource(resource);
+        addResource(resource.release());
         return item;
     }
     std::list<AxString> const names = factory()->typeNames();

@@ -4,6 +4,7 @@
 #include "AxUnknownType.h"
 #include "AxZedObjectParameterFactoryEntry.h"
 
+#include <unordered_set>
 #include <vector>
 
 namespace
@@ -49,10 +50,15 @@ void AxZedObjectParameterFactory::addEntriesOf(AxZedObjectParameterFactory const
 
 void AxZedObjectParameterFactory::deleteEntries()
 {
-    while (AxListItem const* item = first())
+    // An entry's type may have been changed since it was added, so that it tells nothing of its key.
+    std::unordered_set<AxZedObjectParameterFactoryEntry const*> entries;
+    for (AxListItem const* item = first(); item; item = item->next())
     {
-        AxZedObjectParameterFactoryEntry const* const entry = entryOf(item);
-        AxHashlist::remove(AxStringHashKey(entry->typeToCreate()));
+        entries.insert(entryOf(item));
+    }
+    AxHashlist::clear();
+    for (AxZedObjectParameterFactoryEntry const* entry : entries)
+    {
         delete entry;
     }
 }

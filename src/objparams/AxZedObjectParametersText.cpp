@@ -13,6 +13,7 @@
 #include "AxlPrint.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <vector>
 
 namespace
@@ -79,6 +80,7 @@ struct AxZedObjectParameters::Entry : AxTypeEntry<AxZedObjectParameters>
     static AxTypeOps ops()
     {
         AxTypeOps ops = AxTypeOps::withCreator<AxZedObjectParameters>();
+        ops.leadHead = theTypeHead;
         ops.ownItem = [](AxReaderWriter& rw, AxlObj const* item, std::size_t, AxBindingsList& bindings)
         {
             auto& record = static_cast<AxZedObjectParameters&>(rw);
@@ -291,10 +293,15 @@ bool AxZedObjectParameters::createStateRepositoryUserExtension(AxlObjPtr const& 
 
 void AxZedObjectParameters::reportDuplicateData() const
 {
+    std::unordered_set<AxSymbolString> stateNames;
+    for (AxRwProperty const* property : myStateData)
+    {
+        stateNames.insert(property->AxReaderWriter::name());
+    }
     for (AxRwProperty const* property : myParameterData)
     {
         AxString const& name = property->AxReaderWriter::name().string();
-        if (myStateData.find(name))
+        if (stateNames.contains(property->AxReaderWriter::name()))
         {
             std::string const line = AxReaderWriter::name().string().string() +
                                      " has duplicate parameter and state data named: " + name.string() +

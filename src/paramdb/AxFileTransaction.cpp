@@ -1,16 +1,15 @@
 #include "AxFileTransaction.h"
 
-#include <boost/algorithm/string/case_conv.hpp>
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <set>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace
 {
-AxFileTransaction* theCurrent = nullptr;
-
 std::string directoryOf(std::string const& file)
 {
     std::size_t const slash = file.rfind('/');
@@ -48,16 +47,6 @@ AxFileTransaction::~AxFileTransaction()
     {
         ::unlink(file.temporary.c_str());
     }
-}
-
-AxFileTransaction* AxFileTransaction::current()
-{
-    return theCurrent;
-}
-
-void AxFileTransaction::setCurrent(AxFileTransaction* transaction)
-{
-    theCurrent = transaction;
 }
 
 bool AxFileTransaction::stage(AxFilename const& file, std::string_view text, int& error)
@@ -99,19 +88,15 @@ bool AxFileTransaction::stage(AxFilename const& file, std::string_view text, int
 
 bool AxFileTransaction::commit(int& error)
 {
-    bool areAllRenamed = true;
     std::set<std::string> directories;
-    for (Staged const& file : myStaged)
+    auto file = myStaged.begin();
+    for (; file != myStaged.end() && ::rename(file->temporary.c_str(), file->target.c_str()) == 0; ++file)
     {
-        if (::rename(file.temporary.c_str(), file.target.c_str()) != 0)
-        {
-            error = areAllRenamed ? errno : error;
-            areAllRenamed = false;
-            ::unlink(file.temporary.c_str());
-        }
-        directories.insert(directoryOf(file.target));
+        directories.insert(directoryOf(file->target));
     }
-    myStaged.clear();
+    error = errno;
+    bool const areAllRenamed = file == myStaged.end();
+    myStaged.erase(myStaged.begin(), file);
     for (std::string const& directory : directories)
     {
         flushDirectory(directory);
@@ -119,14 +104,9 @@ bool AxFileTransaction::commit(int& error)
     return areAllRenamed;
 }
 
-AxFilename AxFileTransaction::unusedName(AxFilename const& file)
+bool AxFileTransaction::stages(AxFilename const& file) const
 {
-    std::string const& text = file.string().string();
-    std::size_t const point = text.rfind('.');
-    std::string name = text;
-    for (int copy = 2; !myNames.insert(boost::algorithm::to_lower_copy(name)).second; ++copy)
-    {
-        name = text.substr(0, point) + '-' + std::to_string(copy) + text.substr(point);
-    }
-    return AxFilename(name);
+    std::string const target = file.native();
+    return std::any_of(myStaged.begin(), myStaged.end(),
+                       [&target](Staged const& staged) { return staged.target == target; });
 }

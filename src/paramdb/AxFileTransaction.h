@@ -2,7 +2,6 @@
 
 #include "AxFilename.h"
 
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,16 +18,11 @@ public:
 
     /// False, with `error` an errno value, when the text cannot be written.
     bool stage(AxFilename const& file, std::string_view text, int& error);
-    /// Renames what was staged; false, with the first errno value, when a file could not be replaced.
+    /// Renames what was staged up to the first file that cannot be replaced; false, with its errno value, if there is
+    /// one.
     bool commit(int& error);
-
-    /// A name not given out before in this transaction, upper and lower case alike: `file`, or with "-2", "-3", ...
-    /// before its extension.
-    AxFilename unusedName(AxFilename const& file);
-
-    /// The transaction of the save that is running, null when none is.
-    static AxFileTransaction* current();
-    static void setCurrent(AxFileTransaction* transaction);
+    /// Whether a text for `file` is staged.
+    bool stages(AxFilename const& file) const;
 
 private:
     struct Staged
@@ -37,5 +31,4 @@ private:
         std::string target;
     };
     std::vector<Staged> myStaged;
-    std::set<std::string> myNames;
 };

@@ -13,6 +13,7 @@
 #include "AxZedObjectParameters.h"
 
 #include <boost/filesystem/operations.hpp>
+#include <exception>
 
 namespace fs = boost::filesystem;
 
@@ -248,7 +249,14 @@ bool AxSxpParameterDb::save(AxFilename const& file)
     }
     else
     {
-        isWritten = myWriter->write(this, file, AxFilename(".\\" + base.string().string()));
+        try
+        {
+            isWritten = myWriter->write(this, file, AxFilename(".\\" + base.string().string()));
+        }
+        catch (std::exception const& error)
+        {
+            AxDiagnostics::report(axFault("save-failed", file, error.what()));
+        }
     }
     if (!isWritten)
     {
@@ -413,7 +421,11 @@ void AxSxpParameterDb::keepUnreadItems(AxSxpParameterDbFileData const& data)
     }
     for (auto const& [after, text] : data.keptItems())
     {
-        myUnreadItems->keepItem(after, text);
+        // A save gives the version a value that can be read.
+        if (!text.starts_with("(version "))
+        {
+            myUnreadItems->keepItem(after, text);
+        }
     }
     for (std::string const& text : data.entryList().unreadElements())
     {

@@ -6,6 +6,8 @@
 #include "AxReaderWriterFile.h"
 #include "AxRwVariableBindings.h"
 #include "AxSxpParameterDbFileEntry.h"
+#include "AxTextReader.h"
+#include "AxZedObjectParameterFactory.h"
 #include "AxZedObjectParameters.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
@@ -13,6 +15,7 @@
 #include <cerrno>
 #include <cstring>
 #include <exception>
+#include <typeinfo>
 
 namespace
 {
@@ -203,26 +206,10 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readParameterEntry(std::FILE* file
     }
     try
     {
-        AxlReadOptions options;
-        options.closeOpenLists = true;
-        AxlReadResult const result = AxcRead(stream, AxlEnv(), options);
-        if (result.expr->isEof())
-        {
-            AxDiagnostics::report(axFaultAt("empty-file", 1, 1, "expected a record, found an empty file"));
-            return nullptr;
-        }
-        if (result.unclosed)
-        {
-            AxDiagnostics::report(axFaultAt("unclosed-list", result.line, result.column, "the list is not closed"));
-        }
-        AxZedObjectParameters* const record = loadParameters(result.expr, env, value);
-        if (record != nullptr && result.unclosed)
-        {
-            record->setInvalid(true);
-        }
+        AxZedObjectParameters* const record = readRecord(stream, env, value);
         std::uint32_t line = 0;
         std::uint32_t column = 0;
-        if (axTextFollows(stream, line, column))
+        if (record && axTextFollows(stream, line, column))
         {
             AxDiagnostics::report(
                 axFaultAt("text-follows", line, column, "the text behind the record is not read", AxSeverity::Warning));
@@ -236,6 +223,85 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readParameterEntry(std::FILE* file
     }
 }
 
+/// What a record's text may refer to: files beside it and along the paths, variables of its database.
+struct AxSxpParameterDbEntry::Sources
+{
+    explicit Sources(AxSxpParameterDbEntry const& entry)
+    {
+        if (!entry.myReading.isNull())
+        {
+            files.push_back(entry.myReading.directory());
+        }
+        files.insert(files.end(), entry.mySearchPaths.begin(), entry.mySearchPaths.end());
+        if (!entry.myPath.isNull())
+        {
+            files.push_back(entry.myPath);
+        }
+        if (entry.myVariableBindings)
+        {
+            bindings.push_back(entry.myVariableBindings.get());
+        }
+        if (!entry.myDatabaseDirectory.isNull())
+        {
+            axBindDatabaseDirectory(database, entry.myDatabaseDirectory);
+            bindings.push_back(&database);
+        }
+    }
+    AxFilenameList files;
+    AxRwVariableBindings database{"opd-variables"};
+    AxBindingsList bindings;
+};
+
+AxZedObjectParameters* AxSxpParameterDbEntry::readRecord(AxlInputStream& stream, AxEnvironmentPtr const& env,
+                                                         AxEnvValuePtr* value)
+{
+    auto const reportUnclosed = [](std::uint32_t line, std::uint32_t column)
+    { AxDiagnostics::report(axFaultAt("unclosed-list", line, column, "the list is not closed")); };
+    AxTextReader reader(stream);
+    std::string_view const type = reader.peekType("parameter-type");
+    AxZedObjectParameterFactory const* const records = AxZedObjectParameters::factory();
+    // A derived entry may have a step of its own between the expression and the record.
+    bool const isDirect = typeid(*this) == typeid(AxSxpParameterDbEntry);
+    if (isDirect && records && !type.empty() && records->knows(AxString(type)))
+    {
+        std::unique_ptr<AxZedObjectParameters> record(
+            AxZedObjectParameters::createParameters(AxString(type).c_str(), env, value));
+        if (!record)
+        {
+            return nullptr;
+        }
+        Sources const sources(*this);
+        if (reader.readObject(*record, sources.files, sources.bindings))
+        {
+            reader.finish();
+            if (reader.unclosed())
+            {
+                reportUnclosed(reader.unclosedLine(), reader.unclosedColumn());
+                record->setInvalid(true);
+            }
+            return record.release();
+        }
+    }
+    AxlReadOptions options;
+    options.closeOpenLists = true;
+    AxlReadResult const result = AxcRead(stream, AxlEnv(), options);
+    if (result.expr->isEof())
+    {
+        AxDiagnostics::report(axFaultAt("empty-file", 1, 1, "expected a record, found an empty file"));
+        return nullptr;
+    }
+    if (result.unclosed)
+    {
+        reportUnclosed(result.line, result.column);
+    }
+    AxZedObjectParameters* const record = loadParameters(result.expr, env, value);
+    if (record && result.unclosed)
+    {
+        record->setInvalid(true);
+    }
+    return record;
+}
+
 AxZedObjectParameters* AxSxpParameterDbEntry::loadParameters(AxlObjPtr const& object, AxEnvironmentPtr const&,
                                                              AxEnvValuePtr*)
 {
@@ -247,28 +313,8 @@ AxZedObjectParameters* AxSxpParameterDbEntry::loadParameters(AxlObjPtr const& ob
             axFaultAt("no-parameter-type", place->line(), place->column(), "expected (parameter-type ...)"));
         return nullptr;
     }
-    AxFilenameList files;
-    if (!myReading.isNull())
-    {
-        files.push_back(myReading.directory());
-    }
-    files.insert(files.end(), mySearchPaths.begin(), mySearchPaths.end());
-    if (!myPath.isNull())
-    {
-        files.push_back(myPath);
-    }
-    AxRwVariableBindings database("opd-variables");
-    AxBindingsList bindings;
-    if (myVariableBindings)
-    {
-        bindings.push_back(myVariableBindings.get());
-    }
-    if (!myDatabaseDirectory.isNull())
-    {
-        axBindDatabaseDirectory(database, myDatabaseDirectory);
-        bindings.push_back(&database);
-    }
-    return AxZedObjectParameters::createParameters(object, files, bindings);
+    Sources const sources(*this);
+    return AxZedObjectParameters::createParameters(object, sources.files, sources.bindings);
 }
 
 AxZedObjectParameters* AxSxpParameterDbEntry::hold(AxZedObjectParameters* record)

@@ -3,6 +3,7 @@
 #include "AxDummyParameterDb.h"
 #include "AxExtFileInputStream.h"
 #include "AxParameterDbFiles.h"
+#include "AxReaderWriterFactory.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
@@ -84,6 +85,38 @@ bool readVersion(AxFilename const& file, std::FILE* open, int& version)
     return true;
 }
 } // namespace
+
+/// A database file is read without cells but for its variables, which hold for what stands behind them.
+struct AxSxpParameterDbFileData::Entry : AxTypeEntry<AxSxpParameterDbFileData>
+{
+    Entry() : AxTypeEntry(ops()) {}
+
+    static AxTypeOps ops()
+    {
+        AxTypeOps ops;
+        ops.create = [](AxSymbolString name, AxReaderWriterRegistry* registry) -> AxReaderWriter*
+        { return new AxSxpParameterDbFileData(name, registry); };
+        ops.copy = [](AxReaderWriter& to, AxReaderWriter const& from) { to.assign(from); };
+        ops.equal = [](AxReaderWriter const& a, AxReaderWriter const& b) { return a == b; };
+        ops.ownItem = [](AxReaderWriter& rw, AxlObj const* item, std::size_t, AxBindingsList& bindings)
+        {
+            if (!definesVariables(item))
+            {
+                return false;
+            }
+            AxRwVariableBindings& known = static_cast<AxSxpParameterDbFileData&>(rw).myVariableBindings;
+            AxRwVariableBindings defined;
+            defined.getSelf(AxlObjPtr(item), nullFilenames(), bindings);
+            known.addAllFrom(defined);
+            bindings.remove(&known);
+            bindings.push_front(&known);
+            return true;
+        };
+        return ops;
+    }
+};
+
+AxSxpParameterDbFileData::Entry const AxSxpParameterDbFileData::ourEntry;
 
 AxSxpParameterDbFileData::AxSxpParameterDbFileData() : AxSxpParameterDbFileData("parameter-database", nullptr) {}
 

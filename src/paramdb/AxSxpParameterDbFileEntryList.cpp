@@ -2,10 +2,51 @@
 
 #include "AxDiagnostic.h"
 #include "AxParameterDbFiles.h"
+#include "AxReaderWriterFactory.h"
+#include "AxTextReader.h"
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
 
 #include <memory>
+
+/// The entries of a database are read without cells; only one that cannot be understood is looked at again.
+struct AxSxpParameterDbFileEntryList::Entry : AxTypeEntry<AxSxpParameterDbFileEntryList>
+{
+    Entry() : AxTypeEntry(ops()) {}
+
+    static AxTypeOps ops()
+    {
+        AxTypeOps ops = AxTypeOps::withCreator<AxSxpParameterDbFileEntryList>();
+        ops.readElement =
+            [](AxRwList& rw, AxTextReader& reader, AxFilenameList const& files, AxBindingsList const& bindings)
+        {
+            static AxSymbolString const word("parameter-entry");
+            if (reader.peekHead() != word.view())
+            {
+                return false;
+            }
+            auto& list = static_cast<AxSxpParameterDbFileEntryList&>(rw);
+            char const* const begin = reader.place();
+            auto entry = std::make_unique<AxSxpParameterDbFileEntry>(word, nullptr);
+            reader.read(*entry, files, bindings);
+            if (entry->isReadable())
+            {
+                list.AxRwList::add(entry.release());
+            }
+            else
+            {
+                std::uint32_t line = 0;
+                std::uint32_t column = 0;
+                reader.locate(begin, line, column);
+                list.leaveOut(reader.cellsSince(begin).get(), line, column);
+            }
+            return true;
+        };
+        return ops;
+    }
+};
+
+AxSxpParameterDbFileEntryList::Entry const AxSxpParameterDbFileEntryList::ourEntry;
 
 AxSxpParameterDbFileEntryList::~AxSxpParameterDbFileEntryList() = default;
 
@@ -27,10 +68,15 @@ AxlObjPtr AxSxpParameterDbFileEntryList::getData(AxlObjPtr const& item, AxFilena
         AxRwList::add(entry.release());
         return item;
     }
-    AxDiagnostics::report(axFaultAt("unreadable-entry", item->line(), item->column(),
-                                    "the entry has no readable object type or file name and is left out"));
-    keep(item.get());
+    leaveOut(item.get(), item->line(), item->column());
     return item;
+}
+
+void AxSxpParameterDbFileEntryList::leaveOut(AxlObj const* item, unsigned line, unsigned column)
+{
+    AxDiagnostics::report(axFaultAt("unreadable-entry", line, column,
+                                    "the entry has no readable object type or file name and is left out"));
+    keep(item);
 }
 
 void AxSxpParameterDbFileEntryList::keep(AxlObj const* item)

@@ -8,21 +8,35 @@
 #include "AxSxpParameterDb.h"
 #include "AxSxpParameterDbEntry.h"
 #include "AxSxpParameterDbFileData.h"
+#include "AxTextReader.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedObjectParametersList.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
+#include <boost/filesystem/operations.hpp>
 #include <boost/make_shared.hpp>
 #include <cerrno>
 #include <cstring>
 #include <exception>
+#include <typeinfo>
 
 namespace
 {
 constexpr int theCurrentVersion = 101;
 /// From this version on names are relative to the data root rather than to the application.
 constexpr int theFirstVersionWithDataRoot = 100;
+
+void reportTextBehind(AxlInputStream& stream)
+{
+    std::uint32_t line = 0;
+    std::uint32_t column = 0;
+    if (axTextFollows(stream, line, column))
+    {
+        AxDiagnostics::report(
+            axFaultAt("text-follows", line, column, "the text behind the first list is not read", AxSeverity::Warning));
+    }
+}
 
 /// Reads the first expression of a stream and reports what is wrong with its text. Null at the end of the file; what
 /// was read counts when the text ends too early.
@@ -47,6 +61,29 @@ AxlObjPtr readExpression(AxlInputStream& stream)
             axFaultAt("text-follows", line, column, "the text behind the first list is not read", AxSeverity::Warning));
     }
     return result.expr;
+}
+
+/// Reads the data straight from the text; a derived class may have a hook of its own for its cells.
+void readData(AxlInputStream& stream, AxSxpParameterDbFileData& data, AxFilenameList const& files,
+              AxBindingsList const& bindings)
+{
+    AxTextReader reader(stream);
+    if (typeid(data) != typeid(AxSxpParameterDbFileData) || !reader.readObject(data, files, bindings))
+    {
+        AxlObjPtr const expression = readExpression(stream);
+        if (!expression.nil())
+        {
+            data.getSelf(expression, files, bindings);
+        }
+        return;
+    }
+    reader.finish();
+    if (reader.unclosed())
+    {
+        AxDiagnostics::report(
+            axFaultAt("unclosed-list", reader.unclosedLine(), reader.unclosedColumn(), "the list is not closed"));
+    }
+    reportTextBehind(stream);
 }
 } // namespace
 
@@ -139,11 +176,7 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
     axBindDatabaseDirectory(database, directory);
     try
     {
-        AxlObjPtr const expression = readExpression(input);
-        if (!expression.nil())
-        {
-            data->getSelf(expression, {directory}, {&database});
-        }
+        readData(input, *data, {directory}, {&database});
     }
     catch (AxlSyntaxError const& error)
     {
@@ -162,6 +195,12 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
         std::string const expanded =
             AxRwVariableBindings::expand(root.string(), {&data->variableBindings(), &database});
         dataRoot = directory.combine(AxFilename(expanded));
+        boost::system::error_code ignored;
+        AxFilename const here(boost::filesystem::absolute(AxFilename(expanded).native(), ignored).string());
+        if (!dataRoot.exists() && here.exists())
+        {
+            dataRoot = here;
+        }
         addEntityFiles(dataRoot, *data);
     }
     return true;
@@ -170,9 +209,11 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
 void AxSxpParameterDbReader::addEntityFiles(AxFilename const& dataRoot, AxSxpParameterDbFileData&)
 {
     std::vector<AxFilename> const entities = AxReaderWriterFile::findFilesByExtension(dataRoot, ".entity");
-    for (AxFilename const& entity : entities)
+    if (!entities.empty())
     {
-        AxDiagnostics::report(axFault("entity-file", entity, "entity files cannot be read by this build"));
+        AxDiagnostics::report(axFault("entity-file", entities.front(),
+                                      "entity files cannot be read by this build; " + std::to_string(entities.size()) +
+                                          " below " + dataRoot.native() + " left out"));
     }
 }
 

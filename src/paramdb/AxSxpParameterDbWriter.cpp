@@ -1,9 +1,10 @@
 #include "AxSxpParameterDbWriter.h"
 
-#include "AxFileTransaction.h"
 #include "AxParameterDbFiles.h"
+#include "AxReadWholeFile.h"
 #include "AxReaderWriterFile.h"
 #include "AxRemoteConfigurationList.h"
+#include "AxRunningSave.h"
 #include "AxRwVariableBindings.h"
 #include "AxStreams.h"
 #include "AxSxpParameterDb.h"
@@ -21,32 +22,23 @@ namespace
 {
 constexpr int theSavedVersion = 101;
 
-/// What `write` sets for the whole process, as long as it runs.
-class RunningSave
+/// The callback that `write` sets for the whole process, as long as it runs.
+class CallbackScope
 {
 public:
-    RunningSave(AxReaderWriter::PrePutSelfCallback callback, void* writer)
+    CallbackScope(AxReaderWriter::PrePutSelfCallback callback, void* writer)
     {
-        AxFileTransaction::setCurrent(&myFiles);
         AxReaderWriter::setPrePutSelfCallback(callback, writer);
     }
-    RunningSave(RunningSave const&) = delete;
-    RunningSave& operator=(RunningSave const&) = delete;
-    ~RunningSave()
-    {
-        AxReaderWriter::setPrePutSelfCallback(nullptr, nullptr);
-        AxFileTransaction::setCurrent(nullptr);
-    }
-    AxFileTransaction& files() { return myFiles; }
-
-private:
-    AxFileTransaction myFiles;
+    CallbackScope(CallbackScope const&) = delete;
+    CallbackScope& operator=(CallbackScope const&) = delete;
+    ~CallbackScope() { AxReaderWriter::setPrePutSelfCallback(nullptr, nullptr); }
 };
 
 bool cannotWrite(AxFilename const& file, int error)
 {
     AxDiagnostics::reportStated(axFault("cannot-write", file, std::strerror(error)),
-                                axFormat("Could not open parameter file %s for writing\n", file.c_str()));
+                                axFormat("Could not open parameter file %s for writing\n", file.native().c_str()));
     return false;
 }
 
@@ -54,15 +46,27 @@ bool cannotWrite(AxFilename const& file, int error)
 bool writeText(AxFilename const& file, std::string const& text)
 {
     int error = 0;
-    if (AxFileTransaction* const save = AxFileTransaction::current())
+    if (AxRunningSave* const save = AxRunningSave::current())
     {
-        return save->stage(file, text, error) || cannotWrite(file, error);
+        return save->files().stage(file, text, error) || cannotWrite(file, error);
     }
     AxFileTransaction alone;
     return (alone.stage(file, text, error) && alone.commit(error)) || cannotWrite(file, error);
 }
 
-void copyDependentFiles(AxSxpParameterDb::CopyPairs const& pairs)
+bool copyFile(AxFilename const& from, AxFilename const& to, AxFileTransaction& files)
+{
+    std::string text;
+    int error = 0;
+    boost::system::error_code ignored;
+    if (AxFilename const directory = to.directory(); !directory.isNull())
+    {
+        fs::create_directories(directory.native(), ignored);
+    }
+    return axReadWholeFile(from, text, error) && files.stage(to, text, error);
+}
+
+void copyDependentFiles(AxSxpParameterDb::CopyPairs const& pairs, AxFileTransaction& files)
 {
     if (pairs.empty())
     {
@@ -75,36 +79,97 @@ void copyDependentFiles(AxSxpParameterDb::CopyPairs const& pairs)
         AxFilename const to(toText);
         AxInfo << "From: " << from << " To: " << to << AxEndl;
         boost::system::error_code error;
-        if (fs::equivalent(from.native(), to.native(), error))
-        {
-            continue;
-        }
-        error.clear();
-        if (AxFilename const directory = to.directory(); !directory.isNull())
-        {
-            fs::create_directories(directory.native(), error);
-        }
-        error.clear();
-        fs::copy_file(from.native(), to.native(), fs::copy_option::overwrite_if_exists, error);
-        if (error)
+        if (!fs::equivalent(from.native(), to.native(), error) && !copyFile(from, to, files))
         {
             AxWarn << "Error copying " << from << " to " << to << AxEndl;
         }
     }
 }
 
-/// The variables of all loaded files in one set, the first of a name. "data-root" is left out once a record that came
-/// from an entity file is written as parameter text, which a scan at the next load would hide again.
-void collectVariables(AxSxpParameterDb const& db, AxRwVariableBindings& all)
+template <class Visit>
+void forEachSavedEntry(AxSxpParameterDb const& db, Visit const& visit)
+{
+    for (AxListItem const* item = db.parameterList().first(); item; item = item->next())
+    {
+        auto const* const entry =
+            dynamic_cast<AxSxpParameterDbEntry const*>(static_cast<AxZedParameterDbEntry const*>(item->data()));
+        if (entry && !entry->temporary())
+        {
+            visit(*entry);
+        }
+    }
+}
+
+/// The variables of all loaded files in one set, the first of a name. "opd-dir" is bound by each load itself;
+/// "data-root" is left out once a record that came from an entity file is written as parameter text, because the scan
+/// at the next load would put the entity file's record over it.
+void collectVariables(AxSxpParameterDb const& db, AxFilename const& file, AxRwVariableBindings& all)
 {
     for (AxSxpParameterDb::VariableBindingsPtr const& set : db.variableBindings())
     {
         for (AxSymbolString const name : set->names())
         {
-            if (!all.find(name))
+            if (!all.find(name) && !(name == "opd-dir"))
             {
                 all.set(name, *set->find(name));
             }
+        }
+    }
+    bool isEntityRewritten = false;
+    forEachSavedEntry(
+        db, [&isEntityRewritten](AxSxpParameterDbEntry const& entry)
+        { isEntityRewritten = isEntityRewritten || (entry.parameters() && entry.filename().extension() == "entity"); });
+    if (isEntityRewritten && all.remove("data-root"))
+    {
+        AxDiagnostics::report(axFault(
+            "data-root-dropped", file,
+            "\"data-root\" is left out, records of entity files are written as parameter files", AxSeverity::Info));
+    }
+}
+
+/// Says when the record of an entry that was not loaded will not be found, or not be read alike, from the new file.
+void reportIfLost(AxSxpParameterDbEntry const& entry, AxRunningSave& save)
+{
+    AxFilename const name = entry.filename();
+    if (name.isNull())
+    {
+        return;
+    }
+    if (entry.version() < theSavedVersion)
+    {
+        AxDiagnostics::report(axFault("older-version", name,
+                                      "the record was not loaded; its names, of version " +
+                                          std::to_string(entry.version()) + ", will be read as of version 101",
+                                      AxSeverity::Warning));
+        return;
+    }
+    std::vector<AxFilename> directories = entry.searchPaths();
+    if (!entry.path().isNull())
+    {
+        directories.push_back(entry.path());
+    }
+    directories.push_back(save.directory());
+    AxFilename found;
+    AxFilePtr const open(AxReaderWriterFile::loadHighestPriorityFile(name, directories, found, true));
+    if (!open && !save.files().stages(save.directory().combine(name)))
+    {
+        AxDiagnostics::report(axFault("dangling-name", name,
+                                      "the record was not loaded and its file is not found from the saved database",
+                                      AxSeverity::Warning));
+    }
+}
+
+void addUnreadItems(AxSxpParameterDbFileData const* unread, AxSxpParameterDbFileData& data)
+{
+    if (unread)
+    {
+        for (auto const& [after, text] : unread->keptItems())
+        {
+            data.keepItem(after, text);
+        }
+        for (std::string const& text : unread->entryList().unreadElements())
+        {
+            data.entryList().keepUnread(text);
         }
     }
 }
@@ -158,34 +223,26 @@ AxFilename AxSxpParameterDbWriter::generateFilename(AxString const& recordName, 
 
 bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file, AxFilename const& parameterDir)
 {
-    if (!db || AxFileTransaction::current())
+    if (!db || AxRunningSave::current())
     {
         AxDiagnostics::report(axFault(
             "save-running", file, db ? "a save is running already; one at a time" : "there is no database to save"));
         return false;
     }
     db->setVersionNumber(theSavedVersion);
-    RunningSave save(&prePutSelfCb, this);
+    CallbackScope const callback(&prePutSelfCb, this);
+    AxRunningSave save(*db, file);
     AxFilename const dir = getPath(file);
-    AxFilename const opeDirectory = generateOpeDirectory(dir, parameterDir);
-    boost::system::error_code error;
-    fs::create_directories(opeDirectory.native(), error);
-    AxInfo("Creating parameter file directory %s\n", opeDirectory.native().c_str());
-    if (error)
-    {
-        AxDiagnostics::report(axFault("cannot-create", opeDirectory, error.message()));
-    }
-    copyDependentFiles(db->dependentParameterFileToCopyPairs());
+    save.startDirectory(generateOpeDirectory(dir, parameterDir));
+    copyDependentFiles(db->dependentParameterFileToCopyPairs(), save.files());
     std::unique_ptr<AxSxpParameterDbFileData> const data(createParameterDbFileData());
     data->setVersion(theSavedVersion);
-    collectVariables(*db, data->variableBindings());
+    collectVariables(*db, file, data->variableBindings());
     AxList const& list = db->parameterList();
     std::uint32_t const changes = list.changeCount();
-    bool isUnchanged = true;
-    for (AxListItem const* item = list.first(); item && isUnchanged; item = item->next())
+    for (AxListItem const* item = list.first(); item; item = item->next())
     {
-        auto* const any = static_cast<AxZedParameterDbEntry*>(item->data());
-        auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(any);
+        auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));
         if (!entry)
         {
             AxWarn("Entry in parameter database is NULL or not a AxSxpParameterDbFileEntry\n");
@@ -194,44 +251,26 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
         {
             writeEntry(data.get(), entry, parameterDir, dir);
         }
-        isUnchanged = list.changeCount() == changes;
-    }
-    if (!isUnchanged)
-    {
-        AxDiagnostics::report(
-            axFault("list-changed", file, "entries came or went during the save; nothing is written"));
-        return false;
-    }
-    if (AxSxpParameterDbFileData const* const unread = db->unreadItems())
-    {
-        for (auto const& [after, text] : unread->keptItems())
+        if (list.changeCount() != changes)
         {
-            data->keepItem(after, text);
-        }
-        for (std::string const& text : unread->entryList().unreadElements())
-        {
-            data->entryList().keepUnread(text);
+            AxDiagnostics::report(
+                axFault("list-changed", file, "entries came or went during the save; nothing is written"));
+            return false;
         }
     }
+    addUnreadItems(db->unreadItems(), *data);
     std::unique_ptr<AxRemoteConfigurationList> configurations;
-    if (db->remoteConfigurationList() && db->remoteConfigurationList()->count() != 0)
+    if (db->remoteConfigurationList() && db->remoteConfigurationListCreatorFcn())
     {
         configurations.reset(db->remoteConfigurationListCreatorFcn()("remote-configurations", data->registry()));
         *configurations = *db->remoteConfigurationList();
-        configurations->setValueSpecified(true, true);
         data->setRemoteConfigurationList(configurations.get());
     }
-    int failure = 0;
-    bool isWritten = writeTopLevelParameterDbFile(*data, file);
-    if (isWritten && !save.files().commit(failure))
-    {
-        AxDiagnostics::report(axFault("cannot-write", file, std::strerror(failure)));
-        isWritten = false;
-    }
+    bool const isWritten = writeTopLevelParameterDbFile(*data, file) && save.finish(file);
     data->setRemoteConfigurationList(nullptr);
     if (!isWritten)
     {
-        AxWarn("Can't write top-level parameter database file %s\n", file.c_str());
+        AxWarn("Can't write top-level parameter database file %s\n", file.native().c_str());
     }
     return isWritten;
 }
@@ -240,35 +279,46 @@ void AxSxpParameterDbWriter::writeEntry(AxSxpParameterDbFileData* data, AxSxpPar
                                         AxFilename const& parameterDir, AxFilename const& fileDir)
 {
     AxZedObjectParameters* const record = entry->parameters();
+    AxRunningSave* const save = AxRunningSave::current();
     AxFilename const before = entry->filename();
     if (record)
     {
-        AxFilename name = generateFilename(record->AxReaderWriter::name().string(), record->objectType());
-        if (AxFileTransaction* const save = AxFileTransaction::current())
+        AxFilename const name = generateFilename(record->AxReaderWriter::name().string(), record->objectType());
+        if (save)
         {
-            name = save->unusedName(name);
+            save->rename(*entry, parameterDir.combine(save->unusedName(name)));
         }
-        entry->setFilename(parameterDir.combine(name));
+        else
+        {
+            entry->setFilename(parameterDir.combine(name));
+        }
     }
     AxSxpParameterDbFileEntry* const fileEntry =
         data->addEntry(entry->objectType(), entry->filename(), record != nullptr, record);
+    if (AxSxpParameterDbFileEntry const* const asRead = entry->fileEntry())
+    {
+        fileEntry->assign(*asRead);
+        if (!(fileEntry->objectType() == entry->objectType()))
+        {
+            fileEntry->setObjectType(entry->objectType());
+        }
+        if (!(fileEntry->filename() == entry->filename()))
+        {
+            fileEntry->setFilename(entry->filename());
+        }
+        if (save)
+        {
+            fileEntry->settleFilename({&data->variableBindings(), &save->databaseVariables()});
+        }
+    }
     if (!record)
     {
-        if (entry->fileEntry())
+        if (save)
         {
-            fileEntry->assign(*entry->fileEntry());
-            fileEntry->settleFilename({&data->variableBindings()});
+            reportIfLost(*entry, *save);
         }
-        bool const isRelative = !entry->filename().isNull() && entry->filename().isRelative();
-        if (isRelative && !fileDir.combine(entry->filename()).exists())
-        {
-            AxDiagnostics::report(axFault("dangling-name", entry->filename(),
-                                          "the record was not loaded and its file is not found from the saved database",
-                                          AxSeverity::Warning));
-        }
-        return;
     }
-    if (!writeParameterFile(fileDir.combine(entry->filename()), record) && !before.isNull())
+    else if (!writeParameterFile(fileDir.combine(entry->filename()), record) && !before.isNull())
     {
         entry->setFilename(before);
         fileEntry->setFilename(before);
@@ -282,7 +332,7 @@ bool AxSxpParameterDbWriter::writeParameterFile(AxFilename const& file, AxZedObj
         AxWarn("AxSxpParameterDbWriter::writeParameterFile() : NULL AxZedObjectParameters object specified\n");
         return false;
     }
-    AxInfo("Writing parameter file %s\n", file.c_str());
+    AxInfo("Writing parameter file %s\n", file.native().c_str());
     std::string text;
     record->putSelf(text, 0, true, file);
     text += '\n';
@@ -292,7 +342,7 @@ bool AxSxpParameterDbWriter::writeParameterFile(AxFilename const& file, AxZedObj
 bool AxSxpParameterDbWriter::writeTopLevelParameterDbFile(AxSxpParameterDbFileData const& data,
                                                           AxFilename const& file) const
 {
-    AxInfo("Writing parameter database file %s\n", file.c_str());
+    AxInfo("Writing parameter database file %s\n", file.native().c_str());
     // The steps around the text are no part of the writing of the data, which is not changed by them.
     auto& self = const_cast<AxSxpParameterDbWriter&>(*this);
     std::string text;

@@ -22,6 +22,8 @@ public:
     AxTypeIndex(AxList& list, TypeOf ofData) : myList(list), myTypeOf(ofData) {}
 
     AxListItem* bestMatch(AxObjectType const& type);
+    /// The same by the walk itself, for lists whose types may have been changed without a word.
+    AxListItem* walk(AxObjectType const& type) const;
     /// The first item of exactly this type, null when there is none.
     AxListItem* firstOf(AxObjectType const& type);
     /// Puts `data` in front of the first item above its type, or at the end when the last item is below it. Null when
@@ -46,7 +48,6 @@ private:
     void countShape(unsigned shape, int change);
     void enter(AxListItem* item, AxObjectType const& type);
     bool leave(AxListItem const* item);
-    AxListItem* walk(AxObjectType const& type) const;
     AxListItem* bestOfUnusual(AxObjectType const& type);
     AxListItem* greatestBelow(AxObjectType const& type);
     AxListItem* insertByWalk(void* data, AxObjectType const& type);

@@ -93,6 +93,7 @@ void AxZedObjectParametersList::addParameters(AxZedObjectParameters* record)
         return;
     }
     AxObjectType const type = record->objectType();
+    forgetUnknownTypes();
     AxListItem const* const best = lookupParameters(type);
     if (best && recordOf(best)->objectType() == type)
     {
@@ -107,9 +108,7 @@ void AxZedObjectParametersList::addParameters(AxZedObjectParameters* record)
 
 AxListItem* AxZedObjectParametersList::lookupParameters(AxObjectType const& type) const
 {
-    // Records belong to the caller as well and may have been given another type.
-    myIndex->invalidate();
-    return myIndex->bestMatch(type);
+    return myTypesAreKnown ? myIndex->bestMatch(type) : myIndex->walk(type);
 }
 
 AxZedObjectParameters* AxZedObjectParametersList::lookupParameters(AxObjectType const& type,
@@ -134,9 +133,19 @@ void AxZedObjectParametersList::removeParameters(AxObjectType const& type)
     if (item && recordOf(item)->objectType() == type)
     {
         AxZedObjectParameters* const record = recordOf(item);
+        forgetUnknownTypes();
         myIndex->remove(item);
         delete record;
         valueAssigned();
+    }
+}
+
+/// A caller may have given a record another type since the index was built.
+void AxZedObjectParametersList::forgetUnknownTypes()
+{
+    if (!myTypesAreKnown)
+    {
+        myIndex->invalidate();
     }
 }
 
@@ -160,7 +169,18 @@ void AxZedObjectParametersList::getSelf(AxlObjPtr const& expression, AxFilenameL
     {
         myCurrentElementType = head->pname();
     }
-    AxRwList::getSelf(expression, files, bindings);
+    myIndex->invalidate();
+    myTypesAreKnown = true;
+    try
+    {
+        AxRwList::getSelf(expression, files, bindings);
+    }
+    catch (...)
+    {
+        myTypesAreKnown = false;
+        throw;
+    }
+    myTypesAreKnown = false;
 }
 
 AxlObjPtr AxZedObjectParametersList::getData(AxlObjPtr const& item, AxFilenameList const& files,

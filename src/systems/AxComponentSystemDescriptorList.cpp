@@ -4,6 +4,8 @@
 #include "AxlObj.h"
 #include "axTryNew.h"
 
+#include <memory>
+
 static AxTypeEntry<AxComponentSystemDescriptorList> const typeEntry;
 
 AxComponentSystemDescriptorList::AxComponentSystemDescriptorList(AxComponentSystemDescriptorList const& other,
@@ -54,9 +56,9 @@ AxListItem* AxComponentSystemDescriptorList::lookupComponentSystemDescriptorItem
 AxlObjPtr AxComponentSystemDescriptorList::getData(AxlObjPtr const& item, AxFilenameList const& files,
                                                    AxBindingsList const& bindings)
 {
-    auto* const descriptor = new AxComponentSystemDescriptor(item->car()->symbol(), nullptr);
+    auto descriptor = std::make_unique<AxComponentSystemDescriptor>(item->car()->symbol(), nullptr);
     descriptor->getSelf(item, files, bindings);
-    addComponentSystemDescriptor(descriptor);
+    addComponentSystemDescriptor(descriptor.release());
     return item;
 }
 

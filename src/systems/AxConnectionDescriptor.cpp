@@ -130,6 +130,11 @@ void AxConnectionDescriptor::getSelf(AxlObjPtr const& expression, AxFilenameList
     setInvalid(false);
     dropKeptItems();
     AxlObjPtr const rest = getData(AxlObjPtr(expression->cdr()), files, bindings);
+    if (mySource.isNull() || myDestination.isNull())
+    {
+        AxDiagnostics::report(axFaultAt(AxSeverity::Warning, "missing-endpoint", expression.get(),
+                                        "a connection expects a source and a destination"));
+    }
     readItems(rest.get(), files, bindings);
     setFlag(Specified, true);
     valueAssigned();
@@ -142,11 +147,6 @@ AxlObjPtr AxConnectionDescriptor::getData(AxlObjPtr const& items, AxFilenameList
     AxlObj const* const destination = source->cdr();
     mySource = source->car()->pname();
     myDestination = destination->car()->pname();
-    if (mySource.isNull() || myDestination.isNull())
-    {
-        AxDiagnostics::report(axFaultAt(AxSeverity::Warning, "missing-endpoint", source,
-                                        "a connection expects a source and a destination"));
-    }
     return AxlObjPtr(destination->cdr());
 }
 

@@ -1,8 +1,12 @@
 #include "AxConnectionDescriptorList.h"
 
+#include "AxFaultAt.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
+#include "AxlObj.h"
 #include "axTryNew.h"
+
+#include <memory>
 
 static AxTypeEntry<AxConnectionDescriptorList> const typeEntry;
 
@@ -35,6 +39,7 @@ AxConnectionDescriptor* AxConnectionDescriptorList::findConnection(AxString cons
     return nullptr;
 }
 
+/// `condition` owns the texts it compares with: those it was made from may be of an element that is deleted here.
 template <class Condition>
 bool AxConnectionDescriptorList::removeIf(Condition const& condition)
 {
@@ -62,18 +67,18 @@ bool AxConnectionDescriptorList::removeConnection(AxConnectionDescriptor* connec
 
 bool AxConnectionDescriptorList::removeConnection(AxString const& source, AxString const& destination)
 {
-    return removeIf([&source, &destination](AxConnectionDescriptor const& candidate)
+    return removeIf([source, destination](AxConnectionDescriptor const& candidate)
                     { return candidate.source() == source && candidate.destination() == destination; });
 }
 
 bool AxConnectionDescriptorList::removeAllConnectionsFrom(AxString const& source)
 {
-    return removeIf([&source](AxConnectionDescriptor const& candidate) { return candidate.source() == source; });
+    return removeIf([source](AxConnectionDescriptor const& candidate) { return candidate.source() == source; });
 }
 
 bool AxConnectionDescriptorList::removeAllConnectionsTo(AxString const& destination)
 {
-    return removeIf([&destination](AxConnectionDescriptor const& candidate)
+    return removeIf([destination](AxConnectionDescriptor const& candidate)
                     { return candidate.destination() == destination; });
 }
 
@@ -122,6 +127,10 @@ AxConnectionDescriptor* AxConnectionDescriptorList::addConnectionDescriptor(AxCo
 
 void AxConnectionDescriptorList::copyList(AxConnectionDescriptorList const& other)
 {
+    if (&other == this)
+    {
+        return;
+    }
     for (AxConnectionDescriptor const* connection : other)
     {
         addConnectionDescriptor(*connection);
@@ -147,14 +156,21 @@ void AxConnectionDescriptorList::removeAll()
 AxlObjPtr AxConnectionDescriptorList::getData(AxlObjPtr const& item, AxFilenameList const& files,
                                               AxBindingsList const& bindings)
 {
-    auto* const connection = axTryNew<AxConnectionDescriptor>(AxSymbolString(), nullptr);
+    if (item->cdr()->car()->isPair() || item->cdr()->cdr()->car()->isPair())
+    {
+        AxDiagnostics::report(axFaultAt(AxSeverity::Warning, "missing-endpoint", item.get(),
+                                        "a connection expects a source and a destination"));
+        keepElement(item.get());
+        return item;
+    }
+    std::unique_ptr<AxConnectionDescriptor> connection(axTryNew<AxConnectionDescriptor>(AxSymbolString(), nullptr));
     if (!connection)
     {
         AxWarn("AxConnectionDescriptor allocation failed\n");
         return item;
     }
     connection->getSelf(item, files, bindings);
-    addConnectionDescriptor(connection);
+    addConnectionDescriptor(connection.release());
     return item;
 }
 

@@ -29,6 +29,10 @@ AxAmmoSelectTable& AxAmmoSelectTable::operator=(AxAmmoSelectTable const& other)
 
 void AxAmmoSelectTable::copyList(AxAmmoSelectTable const& other)
 {
+    if (&other == this)
+    {
+        return;
+    }
     for (AxAmmoSelectEntry const* entry : other)
     {
         addAmmoSelectEntry(*entry);

@@ -9,6 +9,7 @@
 #include "axTryNew.h"
 
 #include <cmath>
+#include <unordered_map>
 
 static AxTypeEntry<AxPrbRangeList> const typeEntry;
 
@@ -16,15 +17,20 @@ static AxTypeEntry<AxPrbRangeList> const typeEntry;
 static void reportReplacedRows(AxlObj const* rows)
 {
     auto const rangeOf = [](AxlObj const* list) { return list->car()->cdr()->car(); };
+    auto const keyOf = [](AxlObj const* range) { return range->flonum() + 0.0; }; // one key for both zeros
+    std::unordered_map<double, AxlObj const*> lastRows;
+    for (AxlObj const* rest = rows; rest->isPair(); rest = rest->cdr())
+    {
+        if (AxlObj const* const range = rangeOf(rest); range->isNumber())
+        {
+            lastRows[keyOf(range)] = rest;
+        }
+    }
     for (; rows->isPair(); rows = rows->cdr())
     {
         AxlObj const* const range = rangeOf(rows);
-        AxlObj const* later = range->isNumber() ? rows->cdr() : AxlObj::nilCell();
-        while (later->isPair() && !(rangeOf(later)->isNumber() && rangeOf(later)->flonum() == range->flonum()))
-        {
-            later = later->cdr();
-        }
-        if (later->isPair())
+        auto const found = range->isNumber() ? lastRows.find(keyOf(range)) : lastRows.end();
+        if (found != lastRows.end() && found->second != rows)
         {
             std::string text = "the row of range ";
             axAppendReal(text, range->flonum());
@@ -58,6 +64,10 @@ AxPrbRangeList& AxPrbRangeList::operator=(AxPrbRangeList const& other)
 
 void AxPrbRangeList::copyList(AxPrbRangeList const& other)
 {
+    if (&other == this)
+    {
+        return;
+    }
     for (AxListItem const* item = other.first(); item; item = item->next())
     {
         if (auto* const copy = axTryNew<AxPrbRangeTableEntry>(*row(item)))

@@ -33,6 +33,10 @@ AxRangeProbabilityTable& AxRangeProbabilityTable::operator=(AxRangeProbabilityTa
 
 void AxRangeProbabilityTable::copyList(AxRangeProbabilityTable const& other)
 {
+    if (&other == this)
+    {
+        return;
+    }
     for (AxListItem const* item = other.first(); item; item = item->next())
     {
         addDetectionProbabilityEntry(*static_cast<AxRangeProbEntry const*>(element(item)));

@@ -29,6 +29,10 @@ AxTargetPriorityList& AxTargetPriorityList::operator=(AxTargetPriorityList const
 
 void AxTargetPriorityList::copyList(AxTargetPriorityList const& other)
 {
+    if (&other == this)
+    {
+        return;
+    }
     for (AxTargetPriorityEntry const* entry : other)
     {
         addTargetPriorityEntry(*entry);

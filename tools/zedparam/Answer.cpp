@@ -35,6 +35,11 @@ int ask(std::string const& databaseFile, std::string const& type, Answer& answer
 void writeAnswer(JsonWriter& json, Answer const& answer)
 {
     json.member("type", answer.type.string().string());
+    if (answer.entry == nullptr)
+    {
+        json.key("entry").null();
+        return;
+    }
     json.member("entry", answer.entry->objectType().string().string());
     json.member("match", answer.exact ? "exact" : "pattern");
     json.member("file", Database::fileOf(*answer.entry));

@@ -24,5 +24,5 @@ struct Answer
 int ask(std::string const& databaseFile, std::string const& type, Answer& answer);
 
 /// The members "type", "entry", "match", "file", and "name", "kind" and "display-name" of a record, into an object
-/// that was begun.
+/// that was begun. When nothing answers: "type", and "entry" as null.
 void writeAnswer(JsonWriter& json, Answer const& answer);

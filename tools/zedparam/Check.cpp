@@ -1,113 +1,19 @@
 #include "Commands.h"
 
 #include <CLI/CLI.hpp>
-#include <cmath>
 #include <cstdio>
 #include <memory>
 #include <string>
 
-#include "AxNumberText.h"
-#include "AxRecursiveReaderWriterIterator.h"
-#include "AxRwInt.h"
-#include "AxRwReal.h"
-#include "AxRwUnsigned.h"
 #include "AxZedObjectParameters.h"
 #include "Database.h"
 #include "Findings.h"
 #include "Json.h"
+#include "RecordCheck.h"
 #include "Tables.h"
 
 namespace
 {
-AxDiagnostic warning(char const* code, std::string file, std::string text)
-{
-    AxDiagnostic finding;
-    finding.severity = AxSeverity::Warning;
-    finding.code = code;
-    finding.file = std::move(file);
-    finding.text = std::move(text);
-    return finding;
-}
-
-/// False for what is no number.
-bool numberIn(AxReaderWriter const& rw, double& value)
-{
-    if (auto const* real = dynamic_cast<AxRwReal const*>(&rw))
-    {
-        value = real->value();
-        return true;
-    }
-    if (auto const* integer = dynamic_cast<AxRwInt const*>(&rw))
-    {
-        value = integer->value();
-        return true;
-    }
-    if (auto const* number = dynamic_cast<AxRwUnsigned const*>(&rw))
-    {
-        value = number->value();
-        return true;
-    }
-    return false;
-}
-
-std::string placeOf(AxReaderWriter const& rw)
-{
-    std::string place = "\"" + rw.name().string().string() + "\"";
-    AxReaderWriterRegistry const* registry = rw.parentRegistry();
-    if (registry != nullptr && registry->owner() != nullptr && !registry->owner()->name().isNull())
-    {
-        place += " of \"" + registry->owner()->name().string().string() + "\"";
-    }
-    return place;
-}
-
-std::string rangeText(AxRange const& range)
-{
-    std::string text;
-    if (range.low != -axUnbounded)
-    {
-        axAppendReal(text, range.low);
-        text += range.high != axUnbounded ? " to " : " or more";
-    }
-    else
-    {
-        text += "at most ";
-    }
-    if (range.high != axUnbounded)
-    {
-        axAppendReal(text, range.high);
-    }
-    return text;
-}
-
-void checkRanges(std::string const& file, AxZedObjectParameters& record, Findings& findings)
-{
-    AxRecursiveReaderWriterIterator all(*record.registry());
-    for (AxReaderWriter const* rw = all.first(); rw != nullptr; rw = all.next())
-    {
-        AxKeyword const* const description = rw->description();
-        double value = 0.0;
-        if (description == nullptr || !rw->valueSpecified() || !numberIn(*rw, value))
-        {
-            continue;
-        }
-        if (std::isnan(value) || (description->range.isBounded() && !description->range.contains(value)))
-        {
-            std::string text = placeOf(*rw) + " is ";
-            axAppendReal(text, value);
-            findings.add(warning("out-of-range", file, text + ", expected " + rangeText(description->range)));
-        }
-    }
-}
-
-void checkVariables(std::string const& file, AxZedObjectParameters const& record, Findings& findings)
-{
-    for (auto const& [name, value] : record.unboundVariables())
-    {
-        findings.add(warning("unbound-variable", file, "nothing binds the variable \"" + name.string() + "\""));
-    }
-}
-
 int check(std::string const& file, bool asJson)
 {
     Findings findings(Findings::Print::Never);
@@ -122,8 +28,7 @@ int check(std::string const& file, bool asJson)
             ++entries;
             if (AxZedObjectParameters* record = entry->parameters())
             {
-                checkRanges(Database::fileOf(*entry), *record, findings);
-                checkVariables(Database::fileOf(*entry), *record, findings);
+                checkRecord(Database::fileOf(*entry), *record, findings);
             }
         }
         tables = checkTables(tableFiles(*database), findings);

@@ -15,6 +15,22 @@ auto key(AxDiagnostic const& finding)
 {
     return std::tie(finding.file, finding.line, finding.column, finding.text, finding.code, finding.hint);
 }
+
+/// Whether the file stands in the line by itself, not as a part of a longer name. Folders may stand in front of it.
+bool names(std::string_view line, std::string_view file)
+{
+    auto const endsName = [](char c) { return std::string_view(" \"',;:()\n").find(c) != std::string_view::npos; };
+    for (std::size_t at = line.find(file); !file.empty() && at != std::string_view::npos; at = line.find(file, at + 1))
+    {
+        std::size_t const end = at + file.size();
+        bool const begins = at == 0 || line[at - 1] == '/' || endsName(line[at - 1]);
+        if (begins && (end == line.size() || endsName(line[end]) || line.substr(end, 2) == ".\n"))
+        {
+            return true;
+        }
+    }
+    return false;
+}
 } // namespace
 
 Findings::Findings(Print print)
@@ -23,6 +39,7 @@ Findings::Findings(Print print)
           [this](AxDiagnostic const& finding)
           {
               add(finding);
+              myConsequenceMayFollow = true;
               myEchoFollows = finding.severity != AxSeverity::Info;
           }))
 {
@@ -46,17 +63,26 @@ void Findings::add(AxDiagnostic diagnostic)
 
 void Findings::takeWarning(std::string const& line)
 {
-    std::string const file = shownPath(AxSourceScope::currentFile().native());
-    bool const restates = !file.empty() && !myFindings.empty() && myFindings.back().file == file;
-    if (std::exchange(myEchoFollows, false) || restates)
+    if (std::exchange(myEchoFollows, false))
+    {
+        return;
+    }
+    if (std::exchange(myConsequenceMayFollow, false) && names(line, myFindings.back().file))
     {
         return;
     }
     AxDiagnostic finding;
     finding.severity = AxSeverity::Warning;
-    finding.file = file;
+    finding.file = AxSourceScope::currentFile().native();
     finding.text = line.substr(0, line.find_last_not_of('\n') + 1);
     add(std::move(finding));
+    myConsequenceMayFollow = false;
+}
+
+bool Findings::has(std::string_view code, std::string const& file) const
+{
+    return std::ranges::any_of(myFindings, [&, shown = shownPath(file)](AxDiagnostic const& finding)
+                               { return finding.code == code && finding.file == shown; });
 }
 
 std::vector<AxDiagnostic> const& Findings::sorted()

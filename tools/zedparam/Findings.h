@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include "AxDiagnostic.h"
@@ -9,7 +11,7 @@
 class JsonWriter;
 
 /// Takes what the library reports for as long as it lives. A warning that comes without a place is a finding as well,
-/// unless it follows a finding in the same file: then it tells the consequence.
+/// unless it is the next after a finding and names the same file: then it tells the consequence.
 class Findings
 {
 public:
@@ -26,6 +28,8 @@ public:
 
     void add(AxDiagnostic diagnostic);
 
+    /// Whether a finding of that kind is about that file.
+    bool has(std::string_view code, std::string const& file) const;
     bool empty() const { return myFindings.empty(); }
     /// By file, line, column and text, each once: what several records share is read, and reported, for each of them.
     std::vector<AxDiagnostic> const& sorted();
@@ -38,6 +42,7 @@ private:
     Print myPrint;
     std::vector<AxDiagnostic> myFindings;
     bool myEchoFollows = false; // the library repeats a finding as a line of text
+    bool myConsequenceMayFollow = false;
     std::optional<AxSinkScope> myWarnings;
     AxDiagnostics::Sink myPreviousSink;
 };

@@ -20,6 +20,7 @@ public:
     JsonWriter& integer(long long value) { return number(std::to_string(value)); }
     /// `spelling` is a number in decimal, with or without fraction and exponent.
     JsonWriter& number(std::string_view spelling);
+    JsonWriter& null() { return number("null"); }
     JsonWriter& boolean(bool value) { return number(value ? "true" : "false"); }
 
     JsonWriter& member(std::string_view name, std::string_view text) { return key(name).string(text); }

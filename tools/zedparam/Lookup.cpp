@@ -46,7 +46,7 @@ void addLookupCommand(CLI::App& app, int& exitCode)
             Findings findings(Findings::Print::AtOnce);
             Answer answer;
             exitCode = ask(options->database, options->type, answer);
-            if (answer.entry == nullptr)
+            if (exitCode == CouldNotRun)
             {
                 return;
             }
@@ -56,6 +56,10 @@ void addLookupCommand(CLI::App& app, int& exitCode)
                 json.beginObject();
                 writeAnswer(json, answer);
                 json.endObject().print();
+            }
+            else if (answer.entry == nullptr)
+            {
+                return;
             }
             else
             {

@@ -1,7 +1,12 @@
 #include "RecordJson.h"
 
+#include <algorithm>
+#include <cctype>
+#include <cmath>
 #include <string>
+#include <string_view>
 
+#include "AxNumberText.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwList.h"
 #include "AxlFunctions.h"
@@ -9,11 +14,38 @@
 
 namespace
 {
+/// Whether a number in this system's spelling is one in JSON as well: no plus sign, no leading zeros, and digits on
+/// both sides of a point.
+bool isJsonNumber(std::string_view spelling)
+{
+    spelling.remove_prefix(spelling.starts_with('-'));
+    std::size_t const whole = std::min(spelling.find_first_not_of("0123456789"), spelling.size());
+    if (whole == 0 || (whole > 1 && spelling.front() == '0'))
+    {
+        return false;
+    }
+    spelling.remove_prefix(whole);
+    return !spelling.starts_with('.') || (spelling.size() > 1 && std::isdigit(static_cast<unsigned char>(spelling[1])));
+}
+
+void writeNumber(JsonWriter& json, AxlObj const& cell)
+{
+    AxString const spelling = cell.pname();
+    if (axIsNumber(spelling.string()) && isJsonNumber(spelling.string()))
+    {
+        json.number(spelling.string());
+        return;
+    }
+    std::string text;
+    axAppendReal(text, cell.flonum());
+    std::isfinite(cell.flonum()) ? json.number(text) : json.string(text);
+}
+
 void writeCell(JsonWriter& json, AxlObj const& cell)
 {
     if (cell.isNumber())
     {
-        json.number(cell.pname().string());
+        writeNumber(json, cell);
     }
     else if (cell.isSymbol() && (cell.text() == "true" || cell.text() == "false"))
     {

@@ -26,12 +26,14 @@ public:
     /// False for a file that does not lie below the database's directory.
     bool add(Database& database, fs::path const& file) const
     {
-        fs::path const relative = fs::weakly_canonical(file).lexically_relative(myFrom);
+        fs::path const source = fs::weakly_canonical(file);
+        fs::path const relative = source.lexically_relative(myFrom);
         if (relative.empty() || *relative.begin() == "..")
         {
             return false;
         }
-        database.addDependentParameterFileToCopyPair(AxFilename(file.string()), AxFilename((myTo / relative).string()));
+        database.addDependentParameterFileToCopyPair(AxFilename(source.string()),
+                                                     AxFilename((myTo / relative).string()));
         return true;
     }
 
@@ -92,18 +94,26 @@ int save(std::string const& from, std::string const& to)
     }
     database->readRecords("reading records");
     fs::path const directory = fs::absolute(to).lexically_normal().parent_path();
+    std::error_code fault;
+    fs::create_directories(directory, fault);
+    if (fault)
+    {
+        std::fprintf(stderr, "zedparam: cannot save to \"%s\": %s\n", to.c_str(), fault.message().c_str());
+        return CouldNotRun;
+    }
     if (fs::weakly_canonical(directory) != fs::weakly_canonical(database->directory()))
     {
         addCompanions(*database, directory, findings);
     }
-    std::size_t records = 0;
-    for (AxSxpParameterDbEntry const* entry : database->entries())
-    {
-        records += entry->parameters() != nullptr;
-    }
     if (!database->save(AxFilename(to)))
     {
         return CouldNotRun;
+    }
+    std::size_t records = 0;
+    for (AxSxpParameterDbEntry const* entry : database->entries())
+    {
+        fs::path const target = directory / entry->filename().native();
+        records += entry->parameters() != nullptr && !findings.has("cannot-write", target.string());
     }
     std::printf("saved %zu of %zu records to %s\n", records, database->entries().size(), to.c_str());
     return findings.empty() ? Fine : HasFindings;

@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -67,11 +68,17 @@ AxReaderWriter* childOf(AxReaderWriter& parent, std::string_view name, std::vect
 AxReaderWriter* find(AxReaderWriter& record, std::string_view path)
 {
     AxReaderWriter* current = &record;
-    while (!path.empty())
+    for (std::size_t begin = 0; begin <= path.size();)
     {
-        std::size_t const end = path.find('/');
-        std::string_view const name = path.substr(0, end);
-        path.remove_prefix(end == std::string_view::npos ? path.size() : end + 1);
+        std::size_t const end = std::min(path.find('/', begin), path.size());
+        std::string_view const name = path.substr(begin, end - begin);
+        begin = end + 1;
+        if (name.empty())
+        {
+            std::fprintf(stderr, "zedparam: \"%s\" is no path of keywords; expected one such as \"max-speed\"\n",
+                         std::string(path).c_str());
+            return nullptr;
+        }
         std::vector<std::string_view> known;
         AxReaderWriter* child = childOf(*current, name, known);
         if (child == nullptr)

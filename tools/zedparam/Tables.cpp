@@ -9,20 +9,24 @@
 #include "AxNumberText.h"
 #include "AxRangeProbabilityTable.h"
 #include "AxReaderWriterFile.h"
+#include "AxSourceScope.h"
 #include "Database.h"
 #include "Findings.h"
 #include "Progress.h"
+#include "Source.h"
 
 namespace
 {
 namespace fs = std::filesystem;
 
-void load(fs::path const& path, AxReaderWriter& table)
+/// False, after findings, when the file cannot be read.
+bool load(fs::path const& path, AxReaderWriter& table)
 {
     AxReaderWriterFile file("table-file", nullptr);
     file.setContent(&table);
     file.setFilename(AxFilename(path.string()));
-    file.load({}, {});
+    AxSourceScope const scope(file.filename());
+    return file.load({}, {});
 }
 
 void checkRow(std::string const& path, AxPrbRangeTableEntry const& row, Findings& findings)
@@ -40,6 +44,7 @@ void checkRow(std::string const& path, AxPrbRangeTableEntry const& row, Findings
             finding.text += " m is ";
             axAppendReal(finding.text, outcome->value());
             finding.text += ", expected 0 to 1";
+            Source::setPlace(finding, Source(path).probability(row.range(), outcome->name().view(), outcome->value()));
             findings.add(std::move(finding));
         }
     }
@@ -92,15 +97,13 @@ std::size_t checkTables(std::vector<fs::path> const& files, Findings& findings)
         if (file.extension() == ".hit" || file.extension() == ".det")
         {
             AxRangeProbabilityTable table("table", nullptr);
-            load(file, table);
+            loaded += load(file, table);
             checkRows(file.string(), table, findings);
-            ++loaded;
         }
         else if (file.extension() == ".asl")
         {
             AxAmmoSelectTable table("table", nullptr);
-            load(file, table);
-            ++loaded;
+            loaded += load(file, table);
         }
         progress.step();
     }

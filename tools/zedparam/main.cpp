@@ -70,7 +70,7 @@ int main(int argc, char** argv)
     try
     {
         int const exitCode = run(argc, argv);
-        if (std::fflush(stdout) != 0)
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
         {
             std::perror("zedparam: standard output");
             return CouldNotRun;

@@ -30,6 +30,9 @@ public:
     /// Takes the key out and answers its data, null when there was none.
     virtual void* remove(AxBaseHashKey const& key);
 
+    /// Takes all keys out; their data stays.
+    void clear();
+
     /// The items in order; each item's data is what was added.
     AxListItem* first() const { return myItems.first(); }
     int count() const { return myItems.count(); }

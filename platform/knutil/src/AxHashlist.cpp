@@ -61,6 +61,18 @@ void* AxHashlist::remove(AxBaseHashKey const& key)
     return data;
 }
 
+void AxHashlist::clear()
+{
+    for (Link& bucket : myBuckets)
+    {
+        while (bucket != nullptr)
+        {
+            bucket = std::exchange(bucket->next, nullptr);
+        }
+    }
+    myItems.removeAll();
+}
+
 /// The link to the node of the key; an empty link when there is none.
 AxHashlist::Link const* AxHashlist::find(AxBaseHashKey const& key) const
 {

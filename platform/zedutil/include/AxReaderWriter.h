@@ -229,7 +229,15 @@ protected:
         }
         stamp();
     }
-    void stamp();
+    void stamp()
+    {
+        if (ourHasTimeSource)
+        {
+            stampFromSource();
+            return;
+        }
+        myStamp = ++ourStamp;
+    }
     /// Takes over the state of a member of the same kind when neither has any but flags; else false.
     bool carryPlainState(AxReaderWriter const& other)
     {
@@ -316,6 +324,11 @@ private:
     void bindAll(AxBindingsList const& bindings, bool onlyUnbound);
     void takeHead(AxlObj const* head);
     void reportUnknown(AxlObj const* item, std::string_view word);
+
+    void stampFromSource();
+
+    static std::uint32_t ourStamp;
+    static bool ourHasTimeSource;
 
     std::uintptr_t myNameOrRest;       // the interned name, or Rest with the lowest bit set
     std::uint16_t myOwnerDistance = 0; // in units of eight bytes; 0 when not a data member of its owner

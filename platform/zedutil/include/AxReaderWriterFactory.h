@@ -22,6 +22,9 @@ struct AxTypeOps
     /// Takes an item that no member takes, the `index`-th of the record; may add to the sets of variables that the
     /// items after it are read with. False leaves the item to the registry.
     bool (*ownItem)(AxReaderWriter& record, AxlObj const* item, std::size_t index, AxBindingsList& bindings) = nullptr;
+    /// Head of a first item that `ownItem` would take without looking at it when it is `(leadHead "word")`; may be
+    /// null.
+    char const* leadHead = nullptr;
     /// What an overridden `getSelf` does after the items were read.
     void (*afterItems)(AxReaderWriter& record, AxFilenameList const& files, AxBindingsList const& bindings) = nullptr;
     /// Reads the list's next element, at its opening parenthesis; false, and nothing taken, when that needs cells.
@@ -78,6 +81,7 @@ struct AxTypeInfo
         Boolean,
         String,
         Vector,
+        ObjectType,
         Record,
         List
     };

@@ -133,14 +133,12 @@ protected:
     {
         markKind();
         myValue = initial;
+        // A null value is noted too: classes that share a slot of their shapes may differ in it.
         if constexpr (std::is_trivially_copyable_v<T>)
         {
-            if (!(initial == T{}))
-            {
-                noteInitialValue(&initial, sizeof initial);
-            }
+            noteInitialValue(&initial, sizeof initial);
         }
-        else if (!initial.isNull())
+        else
         {
             void const* id = AxSymbolString(initial).id();
             noteInitialValue(&id, sizeof id);

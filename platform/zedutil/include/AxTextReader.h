@@ -20,11 +20,21 @@ public:
     /// Reads one object either way.
     void read(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings);
 
+    /// Where reading goes on, for `cellsSince`.
+    char const* place() const { return myAt; }
+    /// Line and column of a place that was read, from 1.
+    void locate(char const* place, std::uint32_t& line, std::uint32_t& column) const;
+    /// What was read since `place`, one list, as cells that know no file place of their own.
+    AxlObjPtr cellsSince(char const* place) const;
+    /// Puts the stream behind what was read.
+    void finish();
+
     /// The head of the list that begins here, when it is a bare word; empty otherwise. Takes nothing.
     std::string_view peekHead();
     /// The text of the second element of the second element of the list that begins here, when it is a plain string
     /// behind a bare word: the type item of a descriptor or record. Empty otherwise. Takes nothing.
-    std::string_view peekType();
+    /// With `head`, only of an item of that head.
+    std::string_view peekType(std::string_view head = {});
 
     /// True when the text ended inside a list; the innermost one that was open began at line and column.
     bool unclosed() const { return myUnclosed; }
@@ -41,6 +51,7 @@ private:
     AxlObjPtr cellsAt(char const* from);
     void skipBlanks();
     bool closes();
+    bool skipLead(char const* head);
     bool scanReal(double& value);
     void noteUnclosed(char const* open);
 

@@ -3,6 +3,7 @@
 #include "AxReaderWriterFactory.h"
 #include "AxRwBoolean.h"
 #include "AxRwInt.h"
+#include "AxRwObjectType.h"
 #include "AxRwReal.h"
 #include "AxRwString.h"
 #include "AxRwUnsigned.h"
@@ -17,7 +18,7 @@ class AxPlainValue
 public:
     using Reading = AxTypeInfo::Reading;
 
-    static bool isPlain(Reading reading) { return reading >= Reading::Real && reading <= Reading::Vector; }
+    static bool isPlain(Reading reading) { return reading >= Reading::Real && reading <= Reading::ObjectType; }
 
     /// Calls `use` with both members as what they are; `reading` must be plain.
     template <class Use>
@@ -35,6 +36,8 @@ public:
             return use(static_cast<AxRwString&>(a), static_cast<AxRwString const&>(b));
         case Reading::Vector:
             return use(static_cast<AxRwVector&>(a), static_cast<AxRwVector const&>(b));
+        case Reading::ObjectType:
+            return use(static_cast<AxRwObjectType&>(a), static_cast<AxRwObjectType const&>(b));
         default:
             return use(static_cast<AxRwReal&>(a), static_cast<AxRwReal const&>(b));
         }

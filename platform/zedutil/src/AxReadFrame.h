@@ -1,9 +1,13 @@
 #pragma once
 
+#include "AxListItem.h"
 #include "AxReaderWriter.h"
 
 #include <array>
 #include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 /// One record that is being read: where messages say what they are in, and what of it was met already.
@@ -26,12 +30,20 @@ struct AxReadFrame
     /// The names of the records from the outermost in, joined by "/".
     static std::string path();
 
+    /// The elements of a long keyed list as they were when it had changed `changeCount` times.
+    struct Index
+    {
+        std::unordered_map<std::string, AxListItem*> items{};
+        std::uint32_t changeCount = 0;
+    };
+
     AxReaderWriter& record;
     AxReadFrame* outer;
     std::size_t next = 0;  ///< the member that the next item is likely to name
     AxSymbolString last{}; ///< the member read last
     std::array<std::uint64_t, 4> few{};
     std::vector<std::uint64_t> many{};
+    std::unique_ptr<Index> index{};
 
     static AxReadFrame* innermost;
 

@@ -11,8 +11,6 @@
 
 namespace
 {
-std::uint32_t ourStamp = 0;
-
 std::function<double()>& timeSource()
 {
     static auto* const source = new std::function<double()>;
@@ -305,19 +303,18 @@ bool AxReaderWriter::initialValue(void* bytes, std::size_t size) const
     return false;
 }
 
-void AxReaderWriter::stamp()
+std::uint32_t AxReaderWriter::ourStamp = 0;
+bool AxReaderWriter::ourHasTimeSource = false;
+
+void AxReaderWriter::stampFromSource()
 {
-    if (timeSource())
-    {
-        rare().stamp = timeSource()();
-        return;
-    }
-    myStamp = ++ourStamp;
+    rare().stamp = timeSource()();
 }
 
 void AxReaderWriter::setTimeSource(std::function<double()> source)
 {
     timeSource() = std::move(source);
+    ourHasTimeSource = static_cast<bool>(timeSource());
 }
 
 double AxReaderWriter::recordUpdateTime() const

@@ -99,10 +99,10 @@ private:
         bool const isValue = rw.isValue();
         using Reading = AxTypeInfo::Reading;
         static std::map<std::type_index, Reading> const values{
-            {typeid(AxRwReal), Reading::Real},          {typeid(AxRwInt), Reading::Int},
-            {typeid(AxRwUnsigned), Reading::Unsigned},  {typeid(AxRwBoolean), Reading::Boolean},
-            {typeid(AxRwString), Reading::String},      {typeid(AxRwVector), Reading::Vector},
-            {typeid(AxRwOffsetVector), Reading::Vector}};
+            {typeid(AxRwReal), Reading::Real},           {typeid(AxRwInt), Reading::Int},
+            {typeid(AxRwUnsigned), Reading::Unsigned},   {typeid(AxRwBoolean), Reading::Boolean},
+            {typeid(AxRwString), Reading::String},       {typeid(AxRwVector), Reading::Vector},
+            {typeid(AxRwOffsetVector), Reading::Vector}, {typeid(AxRwObjectType), Reading::ObjectType}};
         if (auto const found = values.find(typeid(rw)); found != values.end())
         {
             return found->second;

@@ -67,7 +67,7 @@ AxDiagnostic diagnostic(AxSeverity severity, char const* code, AxlObj const* pla
     AxDiagnostic made;
     made.severity = severity;
     made.code = code;
-    made.file = AxSourceScope::currentFile().string().string();
+    made.file = AxSourceScope::currentFile().native();
     made.line = place->line();
     made.column = place->column();
     made.path = AxReadFrame::path();
@@ -260,7 +260,7 @@ void AxReaderWriter::reportUnknown(AxlObj const* head, std::string_view word)
     }
     AxDiagnostic unknown = diagnostic(AxSeverity::Warning, "unknown-keyword", head,
                                       "unknown keyword \"" + std::string(word) + "\" in " + name().string().string() +
-                                          " (" + readerWriterType() + ')');
+                                          (name().isNull() ? "(" : " (") + readerWriterType() + ')');
     std::string_view const nearest = axNearest(word, known);
     if (!nearest.empty())
     {
@@ -311,8 +311,11 @@ bool AxReaderWriter::readText(std::string_view text, AxFilename const& sourceNam
             AxlObjPtr const expression = AxcRead(stream);
             if (expression->tag() == AxlObj::Tag::Eof)
             {
-                AxDiagnostics::report(diagnostic(AxSeverity::Error, "empty-text", expression.get(),
-                                                 "expected a list (name item...), found the end of the text"));
+                AxDiagnostic empty = diagnostic(AxSeverity::Error, "empty-text", expression.get(),
+                                                "expected a list (name item...), found the end of the text");
+                empty.line = 1;
+                empty.column = 1;
+                AxDiagnostics::report(std::move(empty));
                 return false;
             }
             getSelf(expression, files, bindings);

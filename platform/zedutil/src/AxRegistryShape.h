@@ -17,7 +17,7 @@ struct AxRegistryShape
     AxSymbolString keyword;
     AxKeyword description{};
     std::ptrdiff_t distance = 0;
-    unsigned char initial[24] = {};
+    unsigned char initial[32] = {};
     std::size_t initialSize = 0;
     AxRegistryShape* firstChild = nullptr;
     std::vector<std::unique_ptr<AxRegistryShape>> children;

@@ -1,5 +1,7 @@
 #include "AxRwProperties.h"
 
+#include "axAddKeyed.h"
+
 #include <memory>
 
 AxRwProperties::~AxRwProperties() = default;
@@ -53,8 +55,7 @@ AxlObjPtr AxRwProperties::getData(AxlObjPtr const& item, AxFilenameList const& f
         keepElement(item.get());
         return item;
     }
-    remove(property->AxReaderWriter::name().string());
-    AxRwList::add(property.release());
+    axAddKeyed(*this, property.release(), &axNameKey);
     return item;
 }
 

@@ -40,10 +40,7 @@ AxRwString::~AxRwString() = default;
 
 void AxRwString::start(char const* initial)
 {
-    if (initial && *initial)
-    {
-        start(AxString(initial));
-    }
+    start(AxString(initial));
 }
 
 AxRwString& AxRwString::operator=(AxSymbolString value)

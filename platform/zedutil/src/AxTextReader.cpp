@@ -8,6 +8,7 @@
 #include "AxRwBoolean.h"
 #include "AxRwInt.h"
 #include "AxRwList.h"
+#include "AxRwObjectType.h"
 #include "AxRwReal.h"
 #include "AxRwString.h"
 #include "AxRwUnsigned.h"
@@ -15,6 +16,7 @@
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstring>
@@ -98,8 +100,8 @@ void AxTextReader::skipBlanks()
     myAt = pastBlanks(myAt);
     while (*myAt == ';')
     {
-        myAt += std::strcspn(myAt, "\n");
-        myAt = pastBlanks(myAt);
+        auto const* const newline = std::memchr(myAt, '\n', static_cast<std::size_t>(myEnd - myAt));
+        myAt = newline ? pastBlanks(static_cast<char const*>(newline)) : myEnd;
     }
 }
 
@@ -111,6 +113,41 @@ bool AxTextReader::closes()
         return false;
     }
     myAt = at + 1;
+    return true;
+}
+
+void AxTextReader::finish()
+{
+    myStream.moveTo(static_cast<std::size_t>(myAt - myBegin));
+}
+
+AxlObjPtr AxTextReader::cellsSince(char const* place) const
+{
+    AxlInputStream text(std::string(place, myAt));
+    AxlReadOptions options;
+    options.closeOpenLists = true;
+    return AxcRead(text, AxlEnv(), options).expr;
+}
+
+bool AxTextReader::skipLead(char const* head)
+{
+    std::size_t const length = std::strlen(head);
+    char const* at = *myAt == '(' ? pastBlanks(myAt + 1) : myAt;
+    if (std::strncmp(at, head, length) != 0 || kindOf(at[length]) != Blank)
+    {
+        return false;
+    }
+    at = pastBlanks(at + length);
+    if (*at != '"')
+    {
+        return false;
+    }
+    char const* const end = endOfWord(at + 1);
+    if (*end != '"' || *pastBlanks(end + 1) != ')')
+    {
+        return false;
+    }
+    myAt = pastBlanks(end + 1) + 1;
     return true;
 }
 
@@ -130,15 +167,24 @@ AxlObjPtr AxTextReader::cellsAt(char const* from)
     return result.expr;
 }
 
+void AxTextReader::locate(char const* place, std::uint32_t& line, std::uint32_t& column) const
+{
+    auto const newlines = std::count(static_cast<char const*>(myBegin), place, '\n');
+    char const* start = place;
+    while (start != myBegin && start[-1] != '\n')
+    {
+        --start;
+    }
+    line = static_cast<std::uint32_t>(newlines) + 1;
+    column = static_cast<std::uint32_t>(place - start) + 1;
+}
+
 void AxTextReader::noteUnclosed(char const* open)
 {
     if (!myUnclosed)
     {
-        AxlInputStream place(std::string(myBegin, open));
-        place.moveTo(place.text().size());
         myUnclosed = true;
-        myLine = static_cast<std::uint32_t>(place.lineCount());
-        myColumn = place.column();
+        locate(open, myLine, myColumn);
     }
 }
 
@@ -154,7 +200,7 @@ std::string_view AxTextReader::peekHead()
     return isPlainName(word) ? word : std::string_view();
 }
 
-std::string_view AxTextReader::peekType()
+std::string_view AxTextReader::peekType(std::string_view wanted)
 {
     std::string_view const head = peekHead();
     if (head.empty())
@@ -169,7 +215,8 @@ std::string_view AxTextReader::peekType()
     at = pastBlanks(at + 1);
     char const* const word = at;
     at = endOfWord(at);
-    if (!isPlainName({word, static_cast<std::size_t>(at - word)}))
+    std::string_view const itemHead(word, static_cast<std::size_t>(at - word));
+    if (!isPlainName(itemHead) || (!wanted.empty() && itemHead != wanted))
     {
         return {};
     }
@@ -283,8 +330,12 @@ void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameLis
             noteUnclosed(open);
             return;
         }
+        if (index == 0 && ownItem && info.ops->leadHead && skipLead(info.ops->leadHead))
+        {
+            continue;
+        }
         char const* const item = myAt;
-        if (*item == '(' && (!ownItem || index != 0))
+        if (*item == '(' && (!ownItem || !info.ops->leadHead || index != 0))
         {
             char const* const head = pastBlanks(item + 1);
             std::size_t place = frame.next;
@@ -448,6 +499,32 @@ bool AxTextReader::readMember(AxReaderWriter& member, AxTypeInfo::Reading readin
             return true;
         }
         return false;
+    }
+    case Reading::ObjectType:
+    {
+        AxObjectType::Fields fields{};
+        std::size_t count = 0;
+        for (; count < fields.size() && kindOf(*myAt) == Word; ++count, myAt = pastBlanks(myAt))
+        {
+            char const* const end = endOfWord(myAt);
+            auto const [last, error] = std::from_chars(myAt, end, fields[count]);
+            if (error != std::errc() || last != end)
+            {
+                return false;
+            }
+            myAt = end;
+        }
+        if (count + 1 < fields.size() || !closes())
+        {
+            return false;
+        }
+        if (count + 1 == fields.size())
+        {
+            std::move_backward(fields.begin(), fields.end() - 1, fields.end());
+            fields[0] = 0;
+        }
+        static_cast<AxRwObjectType&>(member).takeRead(AxObjectType(fields));
+        return true;
     }
     case Reading::Record:
     case Reading::List:

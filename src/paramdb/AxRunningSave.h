@@ -1,0 +1,50 @@
+#pragma once
+
+#include "AxFileTransaction.h"
+#include "AxRwVariableBindings.h"
+
+#include <map>
+#include <set>
+
+class AxSxpParameterDb;
+class AxSxpParameterDbEntry;
+
+/// What one save of a database needs from its first to its last step, and what it takes back when it fails.
+class AxRunningSave
+{
+public:
+    /// `file` is the database file; one save runs at a time.
+    AxRunningSave(AxSxpParameterDb& db, AxFilename const& file);
+    AxRunningSave(AxRunningSave const&) = delete;
+    AxRunningSave& operator=(AxRunningSave const&) = delete;
+    /// Unless it was finished, gives the entries their former file names back.
+    ~AxRunningSave();
+
+    /// Null when none runs.
+    static AxRunningSave* current();
+
+    AxFileTransaction& files() { return myFiles; }
+    /// The absolute directory of the database file.
+    AxFilename const& directory() const { return myDirectory; }
+    /// "opd-dir" as it will be when the saved file is loaded.
+    AxRwVariableBindings const& databaseVariables() const { return myDatabaseVariables; }
+
+    /// Makes the directory of the record files; names of files there that are still in use are not given out.
+    void startDirectory(AxFilename const& directory);
+    /// A name not given out before, upper and lower case alike: `file`, or with "-2", "-3", ... before its extension.
+    AxFilename unusedName(AxFilename const& file);
+    /// Gives `entry` another file for as long as the save does not fail.
+    void rename(AxSxpParameterDbEntry& entry, AxFilename const& file);
+    /// Replaces the files. False, after a report, when that fails.
+    bool finish(AxFilename const& file);
+
+private:
+    AxSxpParameterDb& myDb;
+    AxFilename myDirectory;
+    AxRwVariableBindings myDatabaseVariables{"opd-variables"};
+    AxFileTransaction myFiles;
+    std::set<std::string> myNames;
+    std::map<AxSxpParameterDbEntry*, AxFilename> myFormerNames;
+    AxFilename myMadeDirectory;
+    bool myIsFinished = false;
+};

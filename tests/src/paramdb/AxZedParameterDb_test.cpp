@@ -1,0 +1,362 @@
+#include "AxZedParameterDb.h"
+
+#include "AxReaderWriterFileExtensible.h"
+#include "AxZedParameterDbEntry.h"
+#include "src/objparams/RecordFixture.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <random>
+
+namespace
+{
+struct Database : AxZedParameterDb
+{
+    using AxZedParameterDb::addParameterDbEntry;
+    using AxZedParameterDb::lookupParameters;
+
+    /// What answers for a type, by the list's item.
+    AxZedParameterDbEntry const* found(AxObjectType const& type) const
+    {
+        AxListItem const* const item = lookupParameters(type);
+        return item ? static_cast<AxZedParameterDbEntry const*>(item->data()) : nullptr;
+    }
+    std::vector<AxZedParameterDbEntry const*> entries() const
+    {
+        std::vector<AxZedParameterDbEntry const*> all;
+        for (AxListItem const* item = parameterList().first(); item; item = item->next())
+        {
+            all.push_back(static_cast<AxZedParameterDbEntry const*>(item->data()));
+        }
+        return all;
+    }
+};
+
+AxZedParameterDbEntry* newEntry(AxObjectType const& type, bool isMatchType)
+{
+    auto* const entry = new AxZedParameterDbEntry;
+    entry->setObjectType(type);
+    entry->setTypeIsMatchType(isMatchType);
+    return entry;
+}
+
+/// The definition of the best match and of the ordered insertion, step by step.
+class Walk
+{
+public:
+    using Entry = AxZedParameterDbEntry const*;
+
+    Entry found(AxObjectType const& type) const
+    {
+        std::size_t const at = best(type);
+        return at < entries.size() ? entries[at] : nullptr;
+    }
+    void remove(AxObjectType const& type)
+    {
+        std::size_t const at = best(type);
+        if (at < entries.size() && entries[at]->objectType() == type)
+        {
+            entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(at));
+        }
+    }
+    /// To be called before the database deletes what is replaced.
+    void insert(Entry entry)
+    {
+        AxObjectType const& type = entry->objectType();
+        Entry const old = found(type);
+        if (old && old->objectType() == type && (old->typeIsMatchType() || !entry->typeIsMatchType()))
+        {
+            remove(type);
+        }
+        if (entries.empty() || entries.back()->objectType() < type)
+        {
+            entries.push_back(entry);
+            return;
+        }
+        auto const above = std::find_if(entries.begin(), entries.end(),
+                                        [&type](Entry standing) { return type < standing->objectType(); });
+        if (above != entries.end())
+        {
+            entries.insert(above, entry);
+        }
+    }
+
+    std::vector<Entry> entries;
+
+private:
+    std::size_t best(AxObjectType const& type) const
+    {
+        std::size_t best = entries.size();
+        for (std::size_t i = 0; i < entries.size(); ++i)
+        {
+            AxObjectType const& standing = entries[i]->objectType();
+            bool const fits = type.matchPattern(standing);
+            if (!(standing < type))
+            {
+                if (standing == type)
+                {
+                    return i;
+                }
+                if (!fits)
+                {
+                    break;
+                }
+            }
+            best = fits ? i : best;
+        }
+        return best;
+    }
+};
+
+/// Types that collide often: some fields vary, the others are 0 or open.
+class RandomTypes
+{
+public:
+    explicit RandomTypes(unsigned seed) : myEngine(seed) {}
+
+    int number(int from, int to) { return std::uniform_int_distribution<int>(from, to)(myEngine); }
+    AxObjectType type(int lowest)
+    {
+        AxObjectType::Fields fields{};
+        for (std::size_t i : {0, 1, 3})
+        {
+            fields[i] = number(lowest, 1);
+        }
+        int const tail = number(0, 3);
+        fields[7] = tail == 0 ? -1 : tail == 1 ? lowest : 0;
+        return AxObjectType(fields);
+    }
+
+private:
+    std::mt19937 myEngine;
+};
+
+AxObjectType typeOf(char const* text)
+{
+    AxObjectType type;
+    EXPECT_TRUE(AxObjectType::fromString(text, type)) << text;
+    return type;
+}
+
+class AxZedParameterDbTest : public RecordFixture
+{
+protected:
+    AxZedObjectParameters* record() { return made("zed-object-param").release(); }
+
+    Database db;
+    AxObjectType const tank = typeOf("1:1:1:225:1:1:3:0");
+    AxObjectType const tanks = typeOf("1:1:1:225:1:1:-1:-1");
+    AxObjectType const vehicles = typeOf("1:1:1:-1:-1:-1:-1:-1");
+};
+} // namespace
+
+TEST_F(AxZedParameterDbTest, IndexAnswersAsTheWalkDoes)
+{
+    for (unsigned seed = 0; seed < 400; ++seed)
+    {
+        Database random;
+        Walk walk;
+        RandomTypes types(seed);
+        int const lowest = seed % 2 == 0 ? -2 : -1;
+        for (int change = 0; change < 60; ++change)
+        {
+            int const kind = types.number(0, 9);
+            AxObjectType const type = types.type(lowest);
+            if (kind < 7)
+            {
+                AxZedParameterDbEntry* const entry = newEntry(type, types.number(0, 1) == 1);
+                walk.insert(entry);
+                random.addParameterDbEntry(entry);
+            }
+            else if (kind < 9)
+            {
+                walk.remove(type);
+                random.remove(type);
+            }
+            else if (seed % 4 >= 2 && !walk.entries.empty())
+            {
+                // The list is readable by all: a type can be changed behind the database's back.
+                auto const at = static_cast<std::size_t>(types.number(0, static_cast<int>(walk.entries.size()) - 1));
+                const_cast<AxZedParameterDbEntry*>(walk.entries[at])->setObjectType(type);
+            }
+            ASSERT_EQ(random.entries(), walk.entries) << "seed " << seed << ", change " << change;
+            for (int i = 0; i < 12; ++i)
+            {
+                AxObjectType const asked = types.type(lowest);
+                ASSERT_EQ(random.found(asked), walk.found(asked)) << "seed " << seed << ", " << asked.string();
+            }
+        }
+    }
+    EXPECT_EQ(warnings.text(), "");
+}
+
+TEST_F(AxZedParameterDbTest, IndexAnswersAsTheWalkDoesForTheTypesOfAFile)
+{
+    char const* const file = std::getenv("ZEDOBJPARAM_TYPES");
+    if (!file)
+    {
+        GTEST_SKIP() << "ZEDOBJPARAM_TYPES names no file of types";
+    }
+    Walk walk;
+    std::vector<AxObjectType> asked;
+    std::ifstream lines(file);
+    for (std::string line; std::getline(lines, line);)
+    {
+        std::replace(line.begin(), line.end(), '\t', ':');
+        AxObjectType type;
+        if (AxObjectType::fromString(line, type))
+        {
+            AxObjectType::Fields neighbour = type.fields();
+            neighbour[asked.size() % neighbour.size()] += 1;
+            asked.insert(asked.end(), {type, AxObjectType(neighbour)});
+            AxZedParameterDbEntry* const entry = newEntry(type, line.find("-1") != std::string::npos);
+            db.addParameterDbEntry(entry);
+        }
+    }
+    ASSERT_FALSE(asked.empty()) << file;
+    walk.entries = db.entries();
+    std::size_t const step = std::max<std::size_t>(1, asked.size() / 2000);
+    for (std::size_t i = 0; i < asked.size(); i += step)
+    {
+        ASSERT_EQ(db.found(asked[i]), walk.found(asked[i])) << asked[i].string();
+    }
+}
+
+TEST_F(AxZedParameterDbTest, EqualTypesReplaceEachOtherByTheirMarks)
+{
+    struct Case
+    {
+        std::string added;  // e: exact, m: match type, Z: a type above; in this order
+        std::string listed; // what the list holds then
+        int answers;        // which addition answers for the type, counted from 0; -1: none
+    };
+    Case const cases[] = {
+        {"", "", -1},       {"e", "e", 0},       {"m", "m", 0},      {"me", "e", 1}, {"mm", "m", 1},
+        {"ee", "e", 1},     {"Zee", "eZ", 2},    {"Zem", "emZ", 1}, // both stay, the exact one answers
+        {"em", "e", 0}, // nothing sorts above: the match type is not inserted
+        {"emm", "e", 0},    {"Zemm", "emmZ", 1}, {"Zeme", "meZ", 2}, // only one old entry goes
+        {"emZm", "emZ", 0},
+    };
+    for (Case const& row : cases)
+    {
+        Database made;
+        std::vector<AxZedParameterDbEntry const*> added;
+        for (char const mark : row.added)
+        {
+            AxZedParameterDbEntry* const entry = newEntry(mark == 'Z' ? typeOf("2:1:1:1:1:1:1:1") : tank, mark == 'm');
+            added.push_back(entry);
+            made.addParameterDbEntry(entry);
+        }
+        std::string listed;
+        for (AxZedParameterDbEntry const* entry : made.entries())
+        {
+            listed += !(entry->objectType() == tank) ? 'Z' : entry->typeIsMatchType() ? 'm' : 'e';
+        }
+        EXPECT_EQ(listed, row.listed) << row.added;
+        EXPECT_EQ(made.numParameterEntries(), static_cast<int>(row.listed.size())) << row.added;
+        AxZedParameterDbEntry const* const answer = made.lookupParameterDbEntry(tank, nullptr);
+        if (row.added != "Zeme")
+        {
+            EXPECT_EQ(answer, row.answers < 0 ? nullptr : added[static_cast<std::size_t>(row.answers)]) << row.added;
+        }
+        else
+        {
+            EXPECT_TRUE(answer->typeIsMatchType());
+        }
+    }
+}
+
+TEST_F(AxZedParameterDbTest, TypesThatFitGetTheLastOfAnEqualRun)
+{
+    AxZedParameterDbEntry* const exact = newEntry(tanks, false);
+    AxZedParameterDbEntry* const match = newEntry(tanks, true);
+    db.addParameterDbEntry(newEntry(typeOf("2:1:1:1:1:1:1:1"), false));
+    db.addParameterDbEntry(exact);
+    db.addParameterDbEntry(match);
+    EXPECT_EQ(db.found(tanks), exact);
+    EXPECT_EQ(db.found(tank), match);
+    db.remove(tanks);
+    EXPECT_EQ(db.found(tanks), match);
+}
+
+TEST_F(AxZedParameterDbTest, AnEntryOutsideTheListIsUsableAndNeverFound)
+{
+    AxZedObjectParameters* const held = record();
+    db.add(tank, record());
+    AxZedParameterDbEntry* const outside = newEntry(tank, true);
+    outside->setParameters(held);
+    db.addParameterDbEntry(outside);
+    EXPECT_EQ(outside->parameters(), held);
+    EXPECT_NE(db.lookup(tank), held);
+    db.remove(tank);
+    EXPECT_EQ(db.lookup(tank), nullptr);
+    delete outside;
+    EXPECT_EQ(db.numParameterEntries(), 0);
+}
+
+TEST_F(AxZedParameterDbTest, AnswersNothingWhenEmpty)
+{
+    AxObjectType matched = tank;
+    EXPECT_EQ(db.lookup(tank, &matched), nullptr);
+    EXPECT_EQ(matched, tank);
+    EXPECT_EQ(db.numParameterEntries(), 0);
+}
+
+TEST_F(AxZedParameterDbTest, ExactBeatsTheMostSpecificPatternBeatsTheOthers)
+{
+    AxZedObjectParameters* const ofTank = record();
+    AxZedObjectParameters* const ofTanks = record();
+    db.addParameters(vehicles, record());
+    db.addParameters(tank, ofTank);
+    db.addParameters(tanks, ofTanks);
+    AxObjectType matched;
+    EXPECT_EQ(db.lookupParameters(tank, &matched), ofTank);
+    EXPECT_EQ(matched, tank);
+    EXPECT_EQ(db.lookupParameters(typeOf("1:1:1:225:1:1:9:0"), &matched), ofTanks);
+    EXPECT_EQ(matched, tanks);
+    EXPECT_EQ(db.lookupParameters(typeOf("1:2:1:225:1:1:9:0"), &matched), nullptr);
+}
+
+TEST_F(AxZedParameterDbTest, RemovesOnlyTheExactType)
+{
+    db.add(tanks, record());
+    db.remove(tank);
+    EXPECT_EQ(db.numParameterEntries(), 1);
+    db.removeParameters(tanks);
+    EXPECT_EQ(db.numParameterEntries(), 0);
+}
+
+TEST_F(AxZedParameterDbTest, SaysWhatItRefuses)
+{
+    EXPECT_EQ(db.add(tank, nullptr), nullptr);
+    EXPECT_EQ(warnings.text(), "AxZedParameterDb::addParameters() : Attempt to add NULL parameter entry\n");
+    warnings.clear();
+    db.addParameterDbEntry(nullptr);
+    EXPECT_EQ(warnings.text(), "AxZedParameterDb::addParameters : attempting to add NULL entry\n");
+    warnings.clear();
+    Database other;
+    other.addParameterDbEntry(db.add(tank, record()));
+    EXPECT_EQ(findings.back().code, "entry-held");
+    EXPECT_EQ(db.numParameterEntries(), 1);
+    EXPECT_EQ(other.numParameterEntries(), 0);
+}
+
+TEST_F(AxZedParameterDbTest, EntriesAreNamedByTheirType)
+{
+    AxZedParameterDbEntry entry;
+    entry.setObjectType(tank);
+    EXPECT_EQ(entry.uniqueIdentifier(), "1:1:1:225:1:1:3:0");
+    entry.setObjectType(typeOf("1:2:225:1:1:0:0"));
+    EXPECT_EQ(entry.uniqueIdentifier(), "1:2:225:1:1:0:0");
+}
+
+TEST_F(AxZedParameterDbTest, ExtensionsAreSharedWithSystemDefinitions)
+{
+    std::list<AxString>* const extensions = db.getSysDefExtensionList();
+    std::list<AxString> const before = *extensions;
+    db.addExtension("sysdef");
+    EXPECT_EQ(extensions, AxReaderWriterFileExtensible::getExtensionList());
+    EXPECT_EQ(extensions->size(), before.size() + 1);
+    *extensions = before;
+}

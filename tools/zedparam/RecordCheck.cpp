@@ -1,0 +1,211 @@
+#include "RecordCheck.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include "AxNumberText.h"
+#include "AxReaderWriterFile.h"
+#include "AxRwInt.h"
+#include "AxRwList.h"
+#include "AxRwReal.h"
+#include "AxRwUnsigned.h"
+#include "AxZedObjectParameters.h"
+#include "Findings.h"
+#include "Source.h"
+
+namespace
+{
+AxDiagnostic warning(char const* code, std::string file, std::string text)
+{
+    AxDiagnostic finding;
+    finding.severity = AxSeverity::Warning;
+    finding.code = code;
+    finding.file = std::move(file);
+    finding.text = std::move(text);
+    return finding;
+}
+
+/// False for what is no number.
+bool numberIn(AxReaderWriter const& rw, double& value)
+{
+    if (auto const* real = dynamic_cast<AxRwReal const*>(&rw))
+    {
+        value = real->value();
+        return true;
+    }
+    if (auto const* integer = dynamic_cast<AxRwInt const*>(&rw))
+    {
+        value = integer->value();
+        return true;
+    }
+    if (auto const* number = dynamic_cast<AxRwUnsigned const*>(&rw))
+    {
+        value = number->value();
+        return true;
+    }
+    return false;
+}
+
+std::string placeOf(AxReaderWriter const& rw)
+{
+    std::string place = "\"" + rw.name().string().string() + "\"";
+    AxReaderWriterRegistry const* registry = rw.parentRegistry();
+    if (registry != nullptr && registry->owner() != nullptr && !registry->owner()->name().isNull())
+    {
+        place += " of \"" + registry->owner()->name().string().string() + "\"";
+    }
+    return place;
+}
+
+std::string rangeText(AxRange const& range)
+{
+    std::string text;
+    if (range.low != -axUnbounded)
+    {
+        axAppendReal(text, range.low);
+        text += range.high != axUnbounded ? " to " : " or more";
+    }
+    else
+    {
+        text += "at most ";
+    }
+    if (range.high != axUnbounded)
+    {
+        axAppendReal(text, range.high);
+    }
+    return text;
+}
+
+/// Walks a record and the contents of its files, and knows for each member where it is read.
+class RecordCheck
+{
+public:
+    RecordCheck(std::string file, Findings& findings) : myFiles{std::move(file)}, myFindings(findings) {}
+
+    void run(AxZedObjectParameters& record)
+    {
+        visitBelow(record);
+        for (auto const& [name, value] : record.unboundVariables())
+        {
+            reportVariable(name.string());
+        }
+    }
+
+private:
+    using Kind = AxReaderWriterFile::ContentKind;
+
+    void visit(AxSymbolString keyword, AxReaderWriter& rw)
+    {
+        myPath.push_back({keyword, &rw});
+        checkRange(rw);
+        visitBelow(rw);
+        myPath.pop_back();
+    }
+
+    void visitBelow(AxReaderWriter& rw)
+    {
+        if (AxReaderWriterRegistry const* registry = rw.registryIfAny())
+        {
+            visitMembers(*registry);
+        }
+        if (auto const* list = dynamic_cast<AxRwList const*>(&rw))
+        {
+            for (AxListItem const* item = list->first(); item != nullptr; item = item->next())
+            {
+                AxReaderWriter& element = *AxRwList::element(item);
+                visit(element.name(), element);
+            }
+        }
+        auto const* file = dynamic_cast<AxReaderWriterFile const*>(&rw);
+        if (file != nullptr && file->content() != nullptr && file->contentKind() != Kind::Member)
+        {
+            visitContent(*file);
+        }
+    }
+
+    void visitMembers(AxReaderWriterRegistry const& registry)
+    {
+        std::vector<AxReaderWriter const*> contents;
+        for (std::size_t i = 0; i < registry.size(); ++i)
+        {
+            auto const* file = dynamic_cast<AxReaderWriterFile const*>(registry.entry(i).member);
+            if (file != nullptr && file->contentKind() == Kind::Member && !file->foundFilename().isNull())
+            {
+                contents.push_back(file->content());
+                visitContent(*file);
+            }
+        }
+        for (std::size_t i = 0; i < registry.size(); ++i)
+        {
+            AxRegistryEntry const entry = registry.entry(i);
+            if (!entry.content && std::ranges::find(contents, entry.member) == contents.end())
+            {
+                visit(entry.keyword, *entry.member);
+            }
+        }
+    }
+
+    void visitContent(AxReaderWriterFile const& file)
+    {
+        if (file.foundFilename().isNull())
+        {
+            visitBelow(*file.content());
+            return;
+        }
+        std::vector<SourceStep> const outer = std::exchange(myPath, {});
+        std::size_t const outerFile = std::exchange(myFile, myFiles.size());
+        myFiles.push_back(file.foundFilename().native());
+        visitBelow(*file.content());
+        myFile = outerFile;
+        myPath = outer;
+    }
+
+    void checkRange(AxReaderWriter const& rw)
+    {
+        AxKeyword const* const description = rw.description();
+        double value = 0.0;
+        if (description == nullptr || !rw.valueSpecified() || !numberIn(rw, value))
+        {
+            return;
+        }
+        if (std::isnan(value) || (description->range.isBounded() && !description->range.contains(value)))
+        {
+            std::string text = placeOf(rw) + " is ";
+            axAppendReal(text, value);
+            AxDiagnostic finding =
+                warning("out-of-range", myFiles[myFile], text + ", expected " + rangeText(description->range));
+            Source::setPlace(finding, Source(myFiles[myFile]).value(myPath));
+            myFindings.add(std::move(finding));
+        }
+    }
+
+    void reportVariable(std::string const& name)
+    {
+        AxDiagnostic finding =
+            warning("unbound-variable", myFiles.front(), "nothing binds the variable \"" + name + "\"");
+        for (std::string const& file : myFiles)
+        {
+            Source const source(file);
+            if (AxlObj const* cell = source.reference(name))
+            {
+                finding.file = file;
+                Source::setPlace(finding, cell);
+                break;
+            }
+        }
+        myFindings.add(std::move(finding));
+    }
+
+    std::vector<std::string> myFiles; // the record's own first
+    std::size_t myFile = 0;           // the one that is walked
+    std::vector<SourceStep> myPath;   // from its first expression inwards
+    Findings& myFindings;
+};
+} // namespace
+
+void checkRecord(std::string const& file, AxZedObjectParameters& record, Findings& findings)
+{
+    RecordCheck(file, findings).run(record);
+}

@@ -1,0 +1,119 @@
+#include "Source.h"
+
+#include <exception>
+#include <span>
+
+#include "AxDiagnostic.h"
+#include "AxFilename.h"
+#include "AxReadWholeFile.h"
+#include "AxReaderWriter.h"
+#include "AxlFunctions.h"
+
+namespace
+{
+bool matches(SourceStep const& step, AxlObj const& item)
+{
+    AxlObj const& head = *item.car();
+    return item.isPair() &&
+           (step.keyword.isNull() || head.text() == step.keyword.view() || step.rw->hasAlias(head.symbol()));
+}
+
+AxlObj const* valueBelow(AxlObj const* items, std::span<SourceStep const> path)
+{
+    AxlObj const* found = nullptr;
+    for (; items->isPair(); items = items->cdr())
+    {
+        AxlObj const& item = *items->car();
+        if (!matches(path.front(), item))
+        {
+            continue;
+        }
+        AxlObj const* const value = path.size() > 1        ? valueBelow(item.cdr(), path.subspan(1))
+                                    : item.cdr()->isPair() ? item.cdr()->car()
+                                                           : &item;
+        found = value != nullptr ? value : found;
+    }
+    return found;
+}
+
+/// The first cell, each before what is in it, for which `accept` answers a cell: that cell.
+template <class Accept>
+AxlObj const* firstOf(AxlObj const& cell, Accept const& accept)
+{
+    AxlObj const* found = accept(cell);
+    for (AxlObj const* rest = &cell; found == nullptr && rest->isPair(); rest = rest->cdr())
+    {
+        found = firstOf(*rest->car(), accept);
+    }
+    return found;
+}
+} // namespace
+
+Source::Source(std::string const& file)
+{
+    std::string text;
+    int error = 0;
+    if (!axReadWholeFile(AxFilename(file), text, error))
+    {
+        return;
+    }
+    AxlInputStream stream(std::move(text));
+    try
+    {
+        myExpression = AxcRead(stream, {}, {.closeOpenLists = true}).expr;
+    }
+    catch (std::exception const&) // told when the record was read
+    {
+        myExpression = {};
+    }
+}
+
+AxlObj const* Source::value(std::vector<SourceStep> const& path) const
+{
+    return path.empty() ? nullptr : valueBelow(myExpression->cdr(), path);
+}
+
+AxlObj const* Source::reference(std::string_view variable) const
+{
+    std::string const symbol = "$" + std::string(variable);
+    std::string const embedded = "$(" + std::string(variable) + ")";
+    return firstOf(*myExpression,
+                   [&](AxlObj const& cell) -> AxlObj const*
+                   {
+                       bool const isMeant =
+                           (cell.isSymbol() && cell.text() == symbol) ||
+                           (cell.hasEmbeddedReference() && cell.text().find(embedded) != std::string_view::npos);
+                       return isMeant ? &cell : nullptr;
+                   });
+}
+
+AxlObj const* Source::probability(double range, std::string_view outcome, double value) const
+{
+    auto const inRow = [&](AxlObj const& row) -> AxlObj const*
+    {
+        AxlObj const* items = row.cdr();
+        if (!items->car()->isNumber() || items->car()->flonum() != range)
+        {
+            return nullptr;
+        }
+        for (items = items->cdr(); items->isPair(); items = items->cdr())
+        {
+            AxlObj const& item = *items->car();
+            if (item.car()->text() == outcome && item.cdr()->car()->isNumber() && item.cdr()->car()->flonum() == value)
+            {
+                return item.cdr()->car();
+            }
+        }
+        return nullptr;
+    };
+    return firstOf(*myExpression, inRow);
+}
+
+void Source::setPlace(AxDiagnostic& finding, AxlObj const* cell)
+{
+    if (cell != nullptr)
+    {
+        finding.line = cell->line();
+        finding.column = cell->column();
+    }
+}
