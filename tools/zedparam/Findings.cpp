@@ -67,13 +67,18 @@ void Findings::takeWarning(std::string const& line)
     {
         return;
     }
-    if (std::exchange(myConsequenceMayFollow, false) && names(line, myFindings.back().file))
+    std::string const file = shownPath(AxSourceScope::currentFile().native());
+    if (std::exchange(myConsequenceMayFollow, false))
     {
-        return;
+        std::string const& last = myFindings.back().file;
+        if (!last.empty() && (last == file || names(line, last)))
+        {
+            return;
+        }
     }
     AxDiagnostic finding;
     finding.severity = AxSeverity::Warning;
-    finding.file = AxSourceScope::currentFile().native();
+    finding.file = file;
     finding.text = line.substr(0, line.find_last_not_of('\n') + 1);
     add(std::move(finding));
     myConsequenceMayFollow = false;

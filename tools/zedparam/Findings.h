@@ -11,7 +11,7 @@
 class JsonWriter;
 
 /// Takes what the library reports for as long as it lives. A warning that comes without a place is a finding as well,
-/// unless it is the next after a finding and names the same file: then it tells the consequence.
+/// unless it is the next after a finding and about the same file: then it tells the consequence.
 class Findings
 {
 public:

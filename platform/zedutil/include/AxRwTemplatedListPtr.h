@@ -4,6 +4,8 @@
 #include "AxRwList.h"
 #include "AxTextReader.h"
 
+#include <memory>
+
 /// A list of `T`. With `owns` 1 it deletes its elements and copies them deeply; with 0 it borrows them.
 ///
 /// An element is read as a new `T` named by its head. Needs `T(AxSymbolString, AxReaderWriterRegistry*)` and
@@ -108,9 +110,9 @@ public:
     }
     AxlObjPtr getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings) override
     {
-        auto* element = new T(headName(item), nullptr);
+        auto element = std::make_unique<T>(headName(item), nullptr);
         element->getSelf(item, files, bindings);
-        AxRwList::add(element);
+        AxRwList::add(element.release());
         return item;
     }
     /// The tag of an element with an "s" behind it; that of any list when elements have the tag of any record.
@@ -141,9 +143,9 @@ private:
                 {
                     return false;
                 }
-                auto* element = new T(AxSymbolString(head), nullptr);
+                auto element = std::make_unique<T>(AxSymbolString(head), nullptr);
                 reader.read(*element, files, bindings);
-                list.add(element);
+                list.add(element.release());
                 return true;
             };
         }

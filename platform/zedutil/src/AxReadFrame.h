@@ -43,7 +43,7 @@ struct AxReadFrame
     AxSymbolString last{}; ///< the member read last
     std::array<std::uint64_t, 4> few{};
     std::vector<std::uint64_t> many{};
-    std::unique_ptr<Index> index{};
+    std::unique_ptr<Index> keyed{};
 
     static AxReadFrame* innermost;
 

@@ -24,11 +24,11 @@ AxReadFrame::Index* indexOf(AxRwList const& list, AxElementKey keyOf)
     {
         return nullptr;
     }
-    if (!frame->index)
+    if (!frame->keyed)
     {
-        frame->index = std::make_unique<AxReadFrame::Index>();
+        frame->keyed = std::make_unique<AxReadFrame::Index>();
     }
-    AxReadFrame::Index& index = *frame->index;
+    AxReadFrame::Index& index = *frame->keyed;
     if (index.items.empty() || index.changeCount != list.changeCount())
     {
         index.items.clear();

@@ -61,3 +61,21 @@ TEST(AxRwProperty, IsTheOnlyReaderWriterThatAnswersItself)
     EXPECT_FALSE(property.setType("NoSuchType"));
     EXPECT_EQ(property.type(), "AxRwInt");
 }
+
+TEST(AxRwProperties, ReplaceInALongTextAsInAShortOne)
+{
+    std::string text = "(p";
+    for (int i = 0; i < 400; ++i)
+    {
+        text += " (n" + std::to_string(i % 150) + " AxRwInt " + std::to_string(i) + ')';
+    }
+    AxRwProperties properties("p", nullptr);
+    readFrom(properties, text + ")");
+    EXPECT_EQ(properties.count(), 150);
+    int expected = 250;
+    for (AxRwProperty const* property : properties)
+    {
+        EXPECT_EQ(property->AxReaderWriter::name(), "n" + std::to_string(expected % 150));
+        ++expected;
+    }
+}

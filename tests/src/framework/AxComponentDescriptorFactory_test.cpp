@@ -4,6 +4,7 @@
 #include "DescriptorFixture.h"
 
 #include <memory>
+#include <stdexcept>
 
 namespace
 {
@@ -53,4 +54,28 @@ TEST_F(AxComponentDescriptorFactoryTest, TakesATypeWithoutACreatorForUnknown)
     factory.addCreatorFcn("empty", nullptr);
     EXPECT_EQ(factory.createComponentDescriptor("empty"), nullptr);
     EXPECT_EQ(warnings.text(), "Can't create component descriptor of type empty.  No creator found.\n");
+}
+
+TEST_F(AxComponentDescriptorFactoryTest, DeletesAnEntryWhoseTypeWasChanged)
+{
+    AxComponentDescriptorFactory own;
+    own.addCreatorFcn("a", &makeNamed);
+    own.addCreatorFcn("b", &makeNamed);
+    static_cast<AxComponentDescriptorFactoryEntry*>(own.first()->data())->setTypeToCreate("b");
+    own = factory;
+    EXPECT_EQ(own.count(), factory.count());
+    EXPECT_EQ(own.lookup(AxStringHashKey("a")), nullptr);
+}
+
+TEST_F(AxComponentDescriptorFactoryTest, ReportsACreatorThatThrows)
+{
+    factory.addCreatorFcn("bad",
+                          []() -> AxComponentDescriptor* { throw std::runtime_error("no memory on the device"); });
+    EXPECT_EQ(AxComponentDescriptor::createComponentDescriptor("bad"), nullptr);
+    EXPECT_EQ(create("(x (component-descriptor-type \"bad\"))"), nullptr);
+    ASSERT_EQ(findings.size(), 2U);
+    EXPECT_EQ(findings[1].code, "creation-failed");
+    EXPECT_EQ(findings[1].line, 1U);
+    EXPECT_EQ(create("(x)"), nullptr);
+    EXPECT_EQ(findings.back().line, 1U);
 }

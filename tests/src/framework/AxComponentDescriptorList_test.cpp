@@ -110,3 +110,29 @@ TEST_F(AxComponentDescriptorListTest, AnswersTheCopyItAdds)
     EXPECT_EQ(list.lookupComponentDescriptor("eye"), added);
     EXPECT_TRUE(list.valueSpecified());
 }
+
+TEST_F(AxComponentDescriptorListTest, IgnoresItselfAsASource)
+{
+    AxComponentDescriptorList list("sensors", nullptr);
+    list.addComponentDescriptor(AxComponentDescriptor("eye", nullptr));
+    list.copyList(list);
+    EXPECT_EQ(names(list), "eye ");
+}
+
+TEST_F(AxComponentDescriptorListTest, KeepsTheLaterOfTwoNamesInALongListToo)
+{
+    std::string text = "(sensors ";
+    std::string expected;
+    for (int round = 0; round < 2; ++round)
+    {
+        for (int i = 0; i < 200; ++i)
+        {
+            std::string const name = "s" + std::to_string(round == 0 ? i : 199 - i);
+            text += element(name);
+            expected += round == 0 ? "" : name + ' ';
+        }
+    }
+    AxComponentDescriptorList list("sensors", nullptr);
+    readInto(list, text + ")");
+    EXPECT_EQ(names(list), expected);
+}

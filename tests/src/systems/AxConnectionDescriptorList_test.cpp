@@ -138,3 +138,27 @@ TEST(AxConnectionDescriptor, AssignmentTakesTheNameEqualityIgnoresIt)
     EXPECT_TRUE(made == other);
     EXPECT_EQ(made.name(), AxString("connect"));
 }
+
+TEST(AxConnectionDescriptorList, RemovesByTextsOfItsOwnElements)
+{
+    AxConnectionDescriptorList list("connections", nullptr);
+    std::string const shared(40, 'a');
+    list.addConnection(shared.c_str(), "b");
+    list.addConnection(shared.c_str(), "c");
+    EXPECT_TRUE(list.removeAllConnectionsFrom((*list.begin())->source()));
+    EXPECT_TRUE(list.isEmpty());
+    list.addConnection("a", "b");
+    list.copyList(list);
+    EXPECT_EQ(list.count(), 1);
+}
+
+TEST(AxConnectionDescriptorList, KeepsAnElementWhoseEndpointIsAList)
+{
+    AxSinkScope warnings(AxWarn);
+    AxConnectionDescriptorList list("connections", nullptr);
+    read(list, "(connections (connect (a) b) (connect) (connect c d))");
+    EXPECT_NE(warnings.text().find("test:1:14: "), std::string::npos);
+    EXPECT_NE(warnings.text().find("test:1:30: "), std::string::npos);
+    EXPECT_NE(list.writtenText().find("(connect (a) b)"), std::string::npos);
+    EXPECT_NE(list.findConnection("c", "d"), nullptr);
+}

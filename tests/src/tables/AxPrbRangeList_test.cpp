@@ -118,3 +118,13 @@ TEST(AxPrbRangeList, CopiesRowsDeeply)
     copy = *&copy;
     EXPECT_EQ(copy.count(), 2);
 }
+
+TEST(AxPrbRangeList, TakesBothZerosForOneRangeAndItselfForNothing)
+{
+    AxSinkScope notes(AxInfo);
+    AxPrbRangeList list;
+    read(list, "(range-list (r -0.0 (hit 0.9)) (r 0.0 (hit 0.1)))");
+    EXPECT_NE(notes.text().find("is replaced by a later one"), std::string::npos);
+    list.copyList(list);
+    EXPECT_EQ(list.count(), 1);
+}
