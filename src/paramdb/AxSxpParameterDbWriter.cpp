@@ -332,17 +332,20 @@ bool AxSxpParameterDbWriter::writeParameterFile(AxFilename const& file, AxZedObj
         AxWarn("AxSxpParameterDbWriter::writeParameterFile() : NULL AxZedObjectParameters object specified\n");
         return false;
     }
-    AxInfo("Writing parameter file %s\n", file.native().c_str());
     std::string text;
     record->putSelf(text, 0, true, file);
     text += '\n';
-    return writeText(file, text);
+    if (!writeText(file, text))
+    {
+        return false;
+    }
+    AxInfo("Writing parameter file %s\n", file.native().c_str());
+    return true;
 }
 
 bool AxSxpParameterDbWriter::writeTopLevelParameterDbFile(AxSxpParameterDbFileData const& data,
                                                           AxFilename const& file) const
 {
-    AxInfo("Writing parameter database file %s\n", file.native().c_str());
     // The steps around the text are no part of the writing of the data, which is not changed by them.
     auto& self = const_cast<AxSxpParameterDbWriter&>(*this);
     std::string text;
@@ -350,5 +353,10 @@ bool AxSxpParameterDbWriter::writeTopLevelParameterDbFile(AxSxpParameterDbFileDa
     const_cast<AxSxpParameterDbFileData&>(data).putSelf(text, 0, false, file);
     text += '\n';
     self.postWrite(data, file, text);
-    return writeText(file, text);
+    if (!writeText(file, text))
+    {
+        return false;
+    }
+    AxInfo("Writing parameter database file %s\n", file.native().c_str());
+    return true;
 }
