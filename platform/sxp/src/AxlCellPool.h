@@ -53,7 +53,7 @@ public:
         if (text.size() <= sizeof(cell->myPayload.inlined))
         {
             cell->myLength = static_cast<std::uint8_t>(text.size());
-            std::memcpy(cell->myPayload.inlined, text.data(), text.size());
+            text.copy(cell->myPayload.inlined, text.size());
         }
         else
         {
