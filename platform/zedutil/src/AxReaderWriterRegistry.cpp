@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
 
 namespace
 {
@@ -106,11 +105,6 @@ AxRegistryTable const& AxReaderWriterRegistry::table() const
     return *myShape->table;
 }
 
-AxReaderWriter* AxReaderWriterRegistry::at(std::ptrdiff_t distance) const
-{
-    return reinterpret_cast<AxReaderWriter*>(reinterpret_cast<char*>(myOwner) + distance);
-}
-
 AxReaderWriterRegistry::Own& AxReaderWriterRegistry::own()
 {
     if (!myOwn)
@@ -118,27 +112,6 @@ AxReaderWriterRegistry::Own& AxReaderWriterRegistry::own()
         myOwn = std::make_unique<Own>();
     }
     return *myOwn;
-}
-
-void AxReaderWriterRegistry::bind(AxReaderWriter& member, AxKeyword const& keyword)
-{
-    constexpr std::ptrdiff_t farthest = std::numeric_limits<std::uint16_t>::max() * 8;
-    std::ptrdiff_t const distance = reinterpret_cast<char*>(&member) - reinterpret_cast<char*>(myOwner);
-    if (myOwner && distance > 0 && distance <= farthest && distance % 8 == 0 && (!myOwn || myOwn->entries.empty()))
-    {
-        AxRegistryShape* next = myShape ? myShape->firstChild : nullptr;
-        if (!next || next->description.text != keyword.text || next->distance != distance)
-        {
-            next = shapeAfter(keyword, distance);
-        }
-        myShape = next;
-        member.myNameOrRest = reinterpret_cast<std::uintptr_t>(next->keyword.id());
-        member.myOwnerDistance = static_cast<std::uint16_t>(distance / 8);
-        return;
-    }
-    AxSymbolString const name(keyword.text);
-    member.myNameOrRest = reinterpret_cast<std::uintptr_t>(name.id());
-    addEntry(name, &member);
 }
 
 AxRegistryShape* AxReaderWriterRegistry::shapeAfter(AxKeyword const& keyword, std::ptrdiff_t distance)
@@ -205,16 +178,6 @@ void AxReaderWriterRegistry::leaveShape()
     Own& mine = own();
     mine.entries.insert(mine.entries.begin(), entries.begin(), entries.end());
     myShape = nullptr;
-}
-
-void AxReaderWriterRegistry::leave(AxReaderWriter const* member)
-{
-    if (myShape && myShape->parent && at(myShape->distance) == member)
-    {
-        myShape = myShape->parent;
-        return;
-    }
-    removeEntry(member);
 }
 
 AxRegistryEntry* AxReaderWriterRegistry::ownEntry(AxReaderWriter const* member) const

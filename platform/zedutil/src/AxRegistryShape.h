@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -140,3 +141,41 @@ struct AxReaderWriter::Rare
     std::vector<unsigned char> initial;
     double stamp = 0.0;
 };
+
+inline AxReaderWriter* AxReaderWriterRegistry::at(std::ptrdiff_t distance) const
+{
+    return reinterpret_cast<AxReaderWriter*>(reinterpret_cast<char*>(myOwner) + distance);
+}
+
+/// Members leave in the reverse order of their binding, one for each member of an object that is destroyed.
+inline void AxReaderWriterRegistry::leave(AxReaderWriter const* member)
+{
+    if (myShape && myShape->parent && at(myShape->distance) == member)
+    {
+        myShape = myShape->parent;
+        return;
+    }
+    removeEntry(member);
+}
+
+/// One for each member of an object that is made.
+inline void AxReaderWriterRegistry::bind(AxReaderWriter& member, AxKeyword const& keyword)
+{
+    constexpr std::ptrdiff_t farthest = std::numeric_limits<std::uint16_t>::max() * 8;
+    std::ptrdiff_t const distance = reinterpret_cast<char*>(&member) - reinterpret_cast<char*>(myOwner);
+    if (myOwner && distance > 0 && distance <= farthest && distance % 8 == 0 && (!myOwn || myOwn->entries.empty()))
+    {
+        AxRegistryShape* next = myShape ? myShape->firstChild : nullptr;
+        if (!next || next->description.text != keyword.text || next->distance != distance)
+        {
+            next = shapeAfter(keyword, distance);
+        }
+        myShape = next;
+        member.myNameOrRest = reinterpret_cast<std::uintptr_t>(next->keyword.id());
+        member.myOwnerDistance = static_cast<std::uint16_t>(distance / 8);
+        return;
+    }
+    AxSymbolString const name(keyword.text);
+    member.myNameOrRest = reinterpret_cast<std::uintptr_t>(name.id());
+    addEntry(name, &member);
+}
