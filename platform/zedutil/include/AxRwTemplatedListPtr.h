@@ -38,7 +38,7 @@ public:
         {
             clear();
             copyFrom(other);
-            carryState(other);
+            assign(other);
         }
         return *this;
     }
