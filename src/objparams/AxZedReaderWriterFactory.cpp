@@ -1,6 +1,7 @@
 #include "AxZedReaderWriterFactory.h"
 
 #include "AxEmbarkationSlotEntry.h"
+#include "AxFormationTable.h"
 #include "AxIntegerResource.h"
 #include "AxLoadPoint.h"
 #include "AxMunitionResource.h"
@@ -98,6 +99,8 @@ void AxZedReaderWriterFactory::addDefaultRwCreators()
     row("AxZedSubObjectParameterEntry", opsOf<AxZedSubObjectParameterEntry>(),
         xmlTypeOf<AxZedSubObjectParameterEntry>());
     row("AxZedSubObjectParameterList", opsOf<AxZedSubObjectParameterList>(), xmlTypeOf<AxZedSubObjectParameterList>());
+    row("AxFormationTableEntry", opsOf<AxFormationTableEntry>(), xmlTypeOf<AxFormationTableEntry>());
+    row("AxFormationTable", opsOf<AxFormationTable>(), xmlTypeOf<AxFormationTable>());
     row(pluralOf<AxSlotExclusion>(), opsOf<ListOf<AxSlotExclusion>>(), none);
     row("AxSlotExclusion", opsOf<AxSlotExclusion>(), xmlTypeOf<AxSlotExclusion>());
     row("target-selection-criteria", opsOf<AxTargetSelectionCriteria>(), record);
