@@ -59,7 +59,8 @@ public:
     virtual int weatherAreaRecalcTime() const { return myWeatherAreaRecalcTime; }
     virtual void setWeatherAreaRecalcTime(int seconds) { assignSpecified(myWeatherAreaRecalcTime, seconds); }
 
-private:
+protected:
+    // Derived kinds change the defaults of these by `assignDefault`.
     AxRwBoolean myCanPivot{{"can-pivot", "", "Whether the object turns on the spot."}, registry()};
     AxRwReal myMaxPivotSpeed{{"max-pivot-speed", "rad/s", "Largest rate of turning on the spot.", {0.0, axUnbounded}},
                              registry()};

@@ -222,7 +222,15 @@ protected:
     /// For classes that copy themselves in a constructor: takes over what this class holds.
     AxZedObjectParameters(AxZedObjectParameters const& other, AxSymbolString name, AxReaderWriterRegistry* parent);
     /// For classes whose objects have another default.
+    AxRwDeadReckonTypes& defaultDeadReckoningAlgorithm() { return myDrAlgorithm; }
     AxRwDeadReckonThresholds& defaultDeadReckoningThresholds() { return myDrThresholds; }
+    /// Gives an inherited member the default of this class: the value counts as not specified.
+    template <class Member, class Value>
+    static void assignDefault(Member& member, Value const& value)
+    {
+        member = value;
+        member.setValueSpecified(false, false);
+    }
     /// Prints that the class could not be cloned.
     static void reportCloneFailure(std::type_info const& type);
 

@@ -1,6 +1,16 @@
 #include "AxDefaultParameterFactory.h"
 
-#include "AxMovingObjectParameters.h"
+#include "AxAggregateObjectParameters.h"
+#include "AxBombParameters.h"
+#include "AxCulturalFeatureParameters.h"
+#include "AxFixedWingEntityParameters.h"
+#include "AxGlobalEnvironmentParameters.h"
+#include "AxHumanParameters.h"
+#include "AxIndividualLifeFormParameters.h"
+#include "AxMissileParameters.h"
+#include "AxRotaryWingEntityParameters.h"
+#include "AxSubSurfaceEntityParameters.h"
+#include "AxTacticalSmokeParameters.h"
 
 namespace
 {
@@ -13,6 +23,19 @@ struct Row
 constexpr Row theRows[] = {
     {"zed-object-param", &AxZedObjectParameters::creator},
     {"moving-object-param", &AxMovingObjectParameters::creator},
+    {"ground-vehicle-param", &AxGroundVehicleParameters::creator},
+    {"cultural-feature-param", &AxCulturalFeatureParameters::creator},
+    {"fixed-wing-entity-param", &AxFixedWingEntityParameters::creator},
+    {"rotary-wing-entity-param", &AxRotaryWingEntityParameters::creator},
+    {"missile-param", &AxMissileParameters::creator},
+    {"bomb-param", &AxBombParameters::creator},
+    {"surface-entity-param", &AxSurfaceEntityParameters::creator},
+    {"individual-lifeform-param", &AxIndividualLifeFormParameters::creator},
+    {"human-param", &AxHumanParameters::creator},
+    {"aggregate-object-param", &AxAggregateObjectParameters::creator},
+    {"tactical-smoke-param", &AxTacticalSmokeParameters::creator},
+    {"global-environment-param", &AxGlobalEnvironmentParameters::creator},
+    {"subsurface-entity-param", &AxSubSurfaceEntityParameters::creator},
     // Plain records; `parameterType` tells what they were created as.
     {"zed-base-object-param", &AxZedObjectParameters::creator},
     {"scripted-movement-object-param", &AxZedObjectParameters::creator},

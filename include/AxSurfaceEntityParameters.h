@@ -1,0 +1,16 @@
+#pragma once
+
+#include "AxMovingObjectParameters.h"
+
+/// A ship or boat. `draft` tells how deep its bounding volume reaches below the waterline.
+class ZEDOBJPARAM_API AxSurfaceEntityParameters
+    : public AxObjectRecordOf<AxSurfaceEntityParameters, AxMovingObjectParameters, "surface-entity-param">
+{
+public:
+    AxSurfaceEntityParameters(AxSymbolString name, AxReaderWriterRegistry* parent, AxEnvironmentPtr const& env = {},
+                              AxEnvValuePtr const* node = nullptr);
+    ~AxSurfaceEntityParameters() override;
+
+    /// The defaults of ships for what all moving objects have. The constructor calls it.
+    virtual void setDefaults();
+};

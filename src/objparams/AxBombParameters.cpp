@@ -1,0 +1,3 @@
+#include "AxBombParameters.h"
+
+AxBombParameters::~AxBombParameters() = default;

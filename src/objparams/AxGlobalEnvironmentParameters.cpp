@@ -1,0 +1,3 @@
+#include "AxGlobalEnvironmentParameters.h"
+
+AxGlobalEnvironmentParameters::~AxGlobalEnvironmentParameters() = default;

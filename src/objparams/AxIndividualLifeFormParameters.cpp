@@ -1,0 +1,3 @@
+#include "AxIndividualLifeFormParameters.h"
+
+AxIndividualLifeFormParameters::~AxIndividualLifeFormParameters() = default;

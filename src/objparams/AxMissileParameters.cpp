@@ -1,0 +1,3 @@
+#include "AxMissileParameters.h"
+
+AxMissileParameters::~AxMissileParameters() = default;

@@ -1,0 +1,3 @@
+#include "AxPhysicalWorldParams.h"
+
+AxPhysicalWorldParams::~AxPhysicalWorldParams() = default;

@@ -1,0 +1,3 @@
+#include "AxSubSurfaceEntityParameters.h"
+
+AxSubSurfaceEntityParameters::~AxSubSurfaceEntityParameters() = default;

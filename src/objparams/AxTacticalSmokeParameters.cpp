@@ -1,0 +1,3 @@
+#include "AxTacticalSmokeParameters.h"
+
+AxTacticalSmokeParameters::~AxTacticalSmokeParameters() = default;
