@@ -39,6 +39,9 @@ TEST_F(AxFormationTableTest, TextComesBackAsItWas)
     readCellsInto(byCells, theText);
     EXPECT_EQ(byCells.writtenText(), theText);
     EXPECT_TRUE(byCells == table);
+    AxFormationTable byTree("formation-list", nullptr);
+    EXPECT_TRUE(byTree.fromXml(table.toXml()));
+    EXPECT_EQ(byTree.writtenText(), theText);
     EXPECT_TRUE(findings.empty());
 }
 
