@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AxReaderWriter.h"
+#include "AxRecord.h"
 #include "AxRwBoolean.h"
 #include "AxRwReal.h"
 #include "AxRwString.h"
@@ -12,7 +12,7 @@ class AxComponentDescriptorFactory;
 ///
 /// Its text starts, right after the name, with `(component-descriptor-type "...")`, from which a list makes the right
 /// class again. A descriptor is owned by the list that holds it, else by its caller.
-class ZEDOBJPARAM_API AxComponentDescriptor : public AxReaderWriter
+class ZEDOBJPARAM_API AxComponentDescriptor : public AxRecord
 {
 public:
     using CreatorFcn = AxComponentDescriptor* (*)();

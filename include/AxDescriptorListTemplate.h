@@ -4,6 +4,8 @@
 #include "AxTypedListIterator.h"
 #include "axAddKeyed.h"
 
+#include <typeinfo>
+
 /// An owning list of records, each name once: what the descriptor lists have in common. `T` offers
 /// `clone(AxReaderWriterRegistry*) const` and `operator==`.
 ///
@@ -99,9 +101,17 @@ protected:
         {
             return;
         }
+        bool const wasEmpty = isEmpty();
         for (T const* element : other)
         {
-            addCopy(*element);
+            if (wasEmpty)
+            {
+                AxRwList::add(static_cast<T*>(element->clone(nullptr))); // their names differ already
+            }
+            else
+            {
+                addCopy(*element);
+            }
         }
     }
     /// Deletes the elements and clears the flag.
@@ -133,7 +143,7 @@ private:
         }
         if constexpr (requires { a.type(); })
         {
-            if (!(a.type() == b.type()))
+            if (typeid(a) != typeid(b) && !(a.type() == b.type()))
             {
                 return false;
             }

@@ -36,7 +36,7 @@ class AxZedObjectParameterFactory;
 ///
 /// Its text starts, right after the name, with `(parameter-type "...")`, from which the right class is made again. A
 /// record is complete after `init`, which every entry point that creates one by type name calls.
-class ZEDOBJPARAM_API AxZedObjectParameters : public AxReaderWriter
+class ZEDOBJPARAM_API AxZedObjectParameters : public AxRecord
 {
 public:
     using CreatorFcn = AxZedObjectParameters* (*)(AxEnvironmentPtr env, AxEnvValuePtr* node);

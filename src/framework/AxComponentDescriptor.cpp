@@ -38,7 +38,7 @@ AxTypeEntry<AxComponentDescriptor> const theEntry(typeOps());
 } // namespace
 
 AxComponentDescriptor::AxComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* parent)
-    : AxReaderWriter(name, parent, false)
+    : AxRecord(name, parent, false)
 {
     registry()->setLocalData();
     myIsEnabled.setValueSpecified(true, false);

@@ -5,6 +5,7 @@
 #include "AxStreams.h"
 #include "AxTextReader.h"
 
+#include <exception>
 #include <memory>
 
 /// Elements of known types are read without cells.
@@ -21,13 +22,25 @@ struct AxComponentDescriptorList::Entry : AxTypeEntry<AxComponentDescriptorList>
     static bool readElement(AxRwList& list, AxTextReader& reader, AxFilenameList const& files,
                             AxBindingsList const& bindings)
     {
-        AxComponentDescriptorFactory const* const factory = AxComponentDescriptor::factory();
-        AxString const type(reader.peekType());
-        if (type.isNull() || !factory || !factory->lookup(AxStringHashKey(type)))
+        AxComponentDescriptorFactory* const factory = AxComponentDescriptor::factory();
+        AxStringHashKey const type{AxString(reader.peekType())};
+        if (type.string().isNull() || !factory || !factory->lookup(type))
         {
             return false;
         }
-        std::unique_ptr<AxComponentDescriptor> made(AxComponentDescriptor::createComponentDescriptor(type.c_str()));
+        std::unique_ptr<AxComponentDescriptor> made;
+        try
+        {
+            made.reset(factory->createComponentDescriptor(type.string()));
+            if (made)
+            {
+                made->init();
+            }
+        }
+        catch (std::exception const&)
+        {
+            return false; // the way by cells tries again, and reports at the place of the type
+        }
         if (!made)
         {
             return false;

@@ -27,7 +27,7 @@ void adopt(std::unique_ptr<T>& member, T* made, AxReaderWriterRegistry& registry
 
 AxZedObjectParameters::AxZedObjectParameters(AxSymbolString name, AxReaderWriterRegistry* parent,
                                              AxEnvironmentPtr const& env, AxEnvValuePtr const* node)
-    : AxReaderWriter(name, parent, false),
+    : AxRecord(name, parent, false),
       myTaskExecutionRules("task-execution-rules-data", nullptr),
       myEnvironment(env),
       myObjectNode(node ? *node : AxEnvValuePtr())

@@ -45,7 +45,10 @@ public:
     AxReaderWriter(AxString const& name, AxReaderWriterRegistry* registry, bool specified = false);
     AxReaderWriter(char const* name, AxReaderWriterRegistry* registry, bool specified = false);
     /// Binds a data member of the class that owns `registry`. The texts of `keyword` must live for ever.
-    AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, bool specified = false);
+    AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, bool specified = false)
+        : AxReaderWriter(keyword, registry, specified ? Specified : Flag{})
+    {
+    }
     /// Takes the flag, the variable reference and the kept items of `other`; bound members are the caller's business.
     AxReaderWriter(AxSymbolString name, AxReaderWriter const& other, AxReaderWriterRegistry* registry);
     AxReaderWriter(AxReaderWriter const& other);
@@ -210,6 +213,9 @@ protected:
         FileBacked = 2048  ///< content of a file member that names a file: never written inline
     };
 
+    /// For kinds that begin with other flags.
+    AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, Flag flags);
+
     bool flag(Flag f) const { return (myFlags & f) != 0; }
     void setFlag(Flag f, bool on) { myFlags = static_cast<std::uint16_t>(on ? (myFlags | f) : (myFlags & ~f)); }
 
@@ -283,6 +289,7 @@ private:
     friend class AxReaderWriterRegistry;
     friend class AxReaderWriterFactory;
     friend class AxReaderWriterFile;
+    friend class AxRecord;
     friend class AxRwList;
     friend class AxTextReader;
     friend class AxPlainValue;
@@ -290,7 +297,7 @@ private:
     friend class ::AxTreeForm;
 
     struct Rare;
-    /// What a record has and a value has not.
+    /// What a record has and a value mostly has not.
     struct Rest
     {
         Rest(AxReaderWriter* owner, AxSymbolString itsName);
@@ -305,9 +312,17 @@ private:
     Rest* restOrNull() const { return hasRest() ? reinterpret_cast<Rest*>(myNameOrRest - 1U) : nullptr; }
     Rest& rest() { return hasRest() ? *reinterpret_cast<Rest*>(myNameOrRest - 1U) : makeRest(); }
     Rest& makeRest();
+    void useRest(Rest& rest) { myNameOrRest = reinterpret_cast<std::uintptr_t>(&rest) | 1U; }
+    void dropRest() { myNameOrRest = reinterpret_cast<std::uintptr_t>(restOrNull()->name.id()); }
+    void leaveOtherwise();
+    /// Leaves the registry that this was entered in by pointer; there must be a `Rest`.
+    void leaveParent();
+    void nameAlone(AxKeyword const& keyword);
+    void noteInitialValueOtherwise(void const* bytes, std::size_t size);
     Rare& rare();
     Rare const* rareOrNull() const;
-    AxReaderWriter* inPlaceOwner() const;
+    /// The registry of the object that this is a data member of.
+    AxReaderWriterRegistry& ownersRegistry() const;
     void dropReference();
     void enter(AxReaderWriterRegistry* registry);
     void adoptKeptItems(AxReaderWriter const& other);
@@ -330,8 +345,8 @@ private:
     static std::uint32_t ourStamp;
     static bool ourHasTimeSource;
 
-    std::uintptr_t myNameOrRest;       // the interned name, or Rest with the lowest bit set
-    std::uint16_t myOwnerDistance = 0; // in units of eight bytes; 0 when not a data member of its owner
+    std::uintptr_t myNameOrRest; // the interned name, or Rest with the lowest bit set
+    std::uint16_t myPlace = 0;   // in its owner, in units of eight bytes; 0 when not bound as a data member
     std::uint16_t myFlags = 0;
     std::uint32_t myStamp = 0;
 };

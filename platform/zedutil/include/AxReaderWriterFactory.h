@@ -143,6 +143,8 @@ public:
     static bool copyByType(AxReaderWriter& to, AxReaderWriter const& from);
     static bool equalByType(AxReaderWriter const& a, AxReaderWriter const& b);
     static AxTypeInfo const& typeInfo(AxReaderWriter const& rw);
+    /// The table of virtual functions of the object's class, by which walks know objects of one class.
+    static void const* functionsOf(AxReaderWriter const& rw) { return *reinterpret_cast<void const* const*>(&rw); }
 
 private:
     AxTypeOps const* find(AxString const& type) const;

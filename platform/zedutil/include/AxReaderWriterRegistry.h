@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <typeinfo>
 #include <vector>
 
 class AxReaderWriter;
@@ -24,7 +25,7 @@ struct AxRegistryEntry
 
 /// The ordered members of one record, in the order in which they were bound.
 ///
-/// All objects of one class bind the same keywords at the same distances from the object, so they share one chain of
+/// All objects of one class bind the same keywords at the same distances from the object, so they share one run of
 /// shapes and a registry holds little more than a pointer into it. Members that were bound by pointer (those made at
 /// run time, and those of classes that bind by bare keyword) stand in a list of the object's own after the shared ones.
 class ZEDOBJPARAM_API AxReaderWriterRegistry
@@ -72,6 +73,9 @@ public:
     /// The unit, help and range that `member` was bound with; null for one bound by a bare keyword.
     AxKeyword const* description(AxReaderWriter const* member) const;
 
+    /// The class that declares `member` as its data member; null for one bound at run time.
+    std::type_info const* declaringClass(AxReaderWriter const* member) const;
+
     AxReaderWriter* owner() const { return myOwner; }
 
     /// Same number of compared members, and each equal to its namesake on the other side.
@@ -85,16 +89,20 @@ private:
     struct Own;
 
     void bind(AxReaderWriter& member, AxKeyword const& keyword);
-    AxRegistryShape* shapeAfter(AxKeyword const& keyword, std::ptrdiff_t distance);
-    void leave(AxReaderWriter const* member);
+    void bindTo(AxRegistryShape& shape, AxReaderWriter& member);
+    void bindOtherwise(AxReaderWriter& member, AxKeyword const& keyword, std::size_t distance);
+    bool leave(AxReaderWriter const& member);
+    void removeMember(AxReaderWriter const& member);
     void leaveShape();
+    std::size_t assignShared(AxReaderWriterRegistry const& other);
     AxRegistryTable const& table() const;
-    AxReaderWriter* at(std::ptrdiff_t distance) const;
+    AxRegistryShape const* shapeOf(AxReaderWriter const* member) const;
+    AxReaderWriter* at(std::size_t distance) const;
     AxRegistryEntry* ownEntry(AxReaderWriter const* member) const;
     Own& own();
 
     AxReaderWriter* myOwner = nullptr;
-    AxRegistryShape* myShape = nullptr;
+    AxRegistryShape* myShape;
     std::unique_ptr<Own> myOwn;
     bool myLocalData = false;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AxReaderWriter.h"
+#include "AxRecord.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -19,7 +19,7 @@ struct AxFixedText
 /// `using AxRecordOf::AxRecordOf;`, and binds its members by in-class initialisers. Classes that are copied by value
 /// add `AxLoadPoint(AxLoadPoint const& other, AxReaderWriterRegistry* registry = nullptr)` and `operator=`, each
 /// calling `assign(other)`.
-template <class Derived, AxFixedText typeName, class Base = AxReaderWriter>
+template <class Derived, AxFixedText typeName, class Base = AxRecord>
 class AxRecordOf : public Base
 {
 public:

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "AxRwValueOf.h"
+#include "AxSharedText.h"
 
 /// A text, always written in quotes. References "$(name)" inside it are expanded while reading and kept for writing.
-class ZEDOBJPARAM_API AxRwString : public AxRwValueOf<AxRwString, AxString, true>
+class ZEDOBJPARAM_API AxRwString : public AxRwValueOf<AxRwString, AxString, true, AxSharedText>
 {
 public:
     using AxRwValueOf::AxRwValueOf;
@@ -25,11 +26,11 @@ public:
     AxRwString& operator=(AxSymbolString value);
     AxRwString& operator=(AxString const& value);
     AxRwString& operator=(char const* value);
-    operator AxString const&() const { return myValue; }
-    char const* c_str() const { return myValue.c_str(); }
+    operator AxString const&() const { return value(); }
+    char const* c_str() const { return value().c_str(); }
     bool operator==(AxRwString const& other) const { return myValue == other.myValue; }
-    bool operator==(AxString const& other) const { return myValue == other; }
-    bool operator==(char const* other) const { return myValue == other; }
+    bool operator==(AxString const& other) const { return value() == other; }
+    bool operator==(char const* other) const { return value() == other; }
 
     using AxRwValueOf::getData;
     using AxRwValueOf::putData;
@@ -41,7 +42,7 @@ public:
     static void writeValue(std::string& out, AxString const& value);
     static char const* typeName() { return "AxRwString"; }
     static char const* expected() { return "a text"; }
-    static bool same(AxString const& a, AxString const& b) { return a == b; }
+    static bool same(AxSharedText const& a, AxSharedText const& b) { return a == b; }
 
 private:
     using AxRwValueOf::start;

@@ -11,8 +11,10 @@
 ///  - `static char const* typeName()`, `static char const* expected()`: for type tables and messages;
 ///  - `static bool same(T const& a, T const& b)`: equality as records compare their members.
 ///
+/// A `Held` other than `T` is how a member keeps its value: it converts to `T const&`, and `T` is assigned to it.
+///
 /// Assigning a plain value leaves the value-specified flag alone; assigning another member takes over its flag.
-template <class Derived, class T, bool isScalar>
+template <class Derived, class T, bool isScalar, class Held = T>
 class AxRwValueOf : public AxReaderWriter
 {
 public:
@@ -28,18 +30,18 @@ public:
     {
         markKind();
     }
-    AxRwValueOf(AxKeyword const& keyword, AxReaderWriterRegistry* registry) : AxReaderWriter(keyword, registry)
+    AxRwValueOf(AxKeyword const& keyword, AxReaderWriterRegistry* registry) : AxReaderWriter(keyword, registry, theKind)
     {
-        markKind();
     }
     AxRwValueOf(AxKeyword const& keyword, T const& initial, AxReaderWriterRegistry* registry)
-        : AxReaderWriter(keyword, registry)
+        : AxReaderWriter(keyword, registry, theKind)
     {
         start(initial);
     }
     AxRwValueOf(AxSymbolString keyword, T const& initial, AxReaderWriterRegistry* registry)
         : AxReaderWriter(keyword, registry)
     {
+        markKind();
         start(initial);
     }
     AxRwValueOf(AxSymbolString name, AxRwValueOf const& other, AxReaderWriterRegistry* registry)
@@ -78,7 +80,7 @@ public:
         valueAssigned();
     }
     /// Takes a value that was read, and marks it specified.
-    void takeRead(T&& value)
+    void takeRead(Held value)
     {
         myValue = std::move(value);
         valueRead();
@@ -131,9 +133,8 @@ public:
 protected:
     void start(T const& initial)
     {
-        markKind();
         myValue = initial;
-        // A null value is noted too: classes that share a slot of their shapes may differ in it.
+        // A null value is noted too: objects of one class may differ in it.
         if constexpr (std::is_trivially_copyable_v<T>)
         {
             noteInitialValue(&initial, sizeof initial);
@@ -145,12 +146,11 @@ protected:
         }
     }
 
-    T myValue{};
+    Held myValue{};
 
 private:
-    void markKind()
-    {
-        setFlag(Value, true);
-        setFlag(Scalar, isScalar);
-    }
+    friend class AxPlainValue;
+
+    static constexpr Flag theKind = static_cast<Flag>(isScalar ? Value | Scalar : Value);
+    void markKind() { setFlag(theKind, true); }
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AxReaderWriterFactory.h"
+#include "AxRegistryShape.h"
 #include "AxRwBoolean.h"
 #include "AxRwInt.h"
 #include "AxRwObjectType.h"
@@ -42,12 +43,36 @@ public:
             return use(static_cast<AxRwReal&>(a), static_cast<AxRwReal const&>(b));
         }
     }
-    static void copy(Reading reading, AxReaderWriter& to, AxReaderWriter const& from)
+    /// For all members that are copied at once; 0 when stamps come from a source of the host's.
+    static std::uint32_t nextStamp() { return AxReaderWriter::ourHasTimeSource ? 0 : ++AxReaderWriter::ourStamp; }
+    /// Assigns one member of two different objects that share `slot`; false when that takes the general way.
+    static bool copy(AxRegistryTable::Slot const& slot, AxReaderWriter& to, AxReaderWriter const& from,
+                     std::uint32_t stamp)
     {
-        visit(reading, to, from, [](auto& target, auto const& source) { target = source; });
+        Reading const reading = slot.readingOf(from);
+        if (!isPlain(reading) || !sameClass(to, from))
+        {
+            return false;
+        }
+        constexpr auto special =
+            static_cast<std::uint16_t>(AxReaderWriter::VariableReference | AxReaderWriter::KeepsItems);
+        constexpr auto carried = static_cast<std::uint16_t>(AxReaderWriter::Specified | AxReaderWriter::Inherited);
+        if (((to.myFlags | from.myFlags) & special) != 0) [[unlikely]]
+        {
+            return false;
+        }
+        visit(reading, to, from, [](auto& target, auto const& source) { target.myValue = source.myValue; });
+        to.myFlags = static_cast<std::uint16_t>((to.myFlags & ~carried) | (from.myFlags & carried));
+        to.myStamp = stamp;
+        return true;
     }
-    static bool equal(Reading reading, AxReaderWriter const& a, AxReaderWriter const& b)
+    static bool equal(AxRegistryTable::Slot const& slot, AxReaderWriter const& a, AxReaderWriter const& b)
     {
+        Reading const reading = slot.readingOf(a);
+        if (!isPlain(reading) || !sameClass(a, b))
+        {
+            return AxReaderWriterFactory::equalByType(a, b);
+        }
         return visit(reading, const_cast<AxReaderWriter&>(a), b,
                      [](auto const& left, auto const& right) { return left.equals(right); });
     }
@@ -73,5 +98,11 @@ public:
         visit(reading, member, member, [&out](auto& value, auto const&) { value.writeValue(out, value.value()); });
         out += ')';
         return true;
+    }
+
+private:
+    static bool sameClass(AxReaderWriter const& a, AxReaderWriter const& b)
+    {
+        return AxReaderWriterFactory::functionsOf(a) == AxReaderWriterFactory::functionsOf(b);
     }
 };

@@ -45,17 +45,19 @@ AxReaderWriter::AxReaderWriter(char const* name, AxReaderWriterRegistry* registr
 {
 }
 
-AxReaderWriter::AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, bool specified)
-    : myNameOrRest(0), myFlags(specified ? static_cast<std::uint16_t>(Specified) : std::uint16_t{0})
+AxReaderWriter::AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, Flag flags) : myFlags(flags)
 {
-    if (registry)
+    if (registry) [[likely]]
     {
         registry->bind(*this, keyword);
+        return;
     }
-    else
-    {
-        myNameOrRest = reinterpret_cast<std::uintptr_t>(AxSymbolString(keyword.text).id());
-    }
+    nameAlone(keyword);
+}
+
+[[gnu::noinline]] void AxReaderWriter::nameAlone(AxKeyword const& keyword)
+{
+    myNameOrRest = reinterpret_cast<std::uintptr_t>(AxSymbolString(keyword.text).id());
 }
 
 AxReaderWriter::AxReaderWriter(AxSymbolString name, AxReaderWriter const& other, AxReaderWriterRegistry* registry)
@@ -69,32 +71,46 @@ AxReaderWriter::AxReaderWriter(AxReaderWriter const& other) : AxReaderWriter(oth
     carryState(other);
 }
 
+inline AxReaderWriterRegistry& AxReaderWriter::ownersRegistry() const
+{
+    auto const* const owner = reinterpret_cast<AxReaderWriter const*>(reinterpret_cast<std::uintptr_t>(this) -
+                                                                      myPlace * AxRegistryShape::theUnit);
+    return reinterpret_cast<Rest*>(owner->myNameOrRest - 1U)->registry;
+}
+
 AxReaderWriter::~AxReaderWriter()
 {
-    if (myOwnerDistance != 0)
+    if (myPlace == 0 || hasRest() || !ownersRegistry().leave(*this)) [[unlikely]]
     {
-        inPlaceOwner()->restOrNull()->registry.leave(this);
-    }
-    if (Rest* const mine = restOrNull())
-    {
-        if (mine->parent)
-        {
-            mine->parent->removeEntry(this);
-        }
-        delete mine;
+        leaveOtherwise();
     }
 }
 
-AxReaderWriter* AxReaderWriter::inPlaceOwner() const
+[[gnu::noinline]] void AxReaderWriter::leaveOtherwise()
 {
-    return reinterpret_cast<AxReaderWriter*>(reinterpret_cast<std::uintptr_t>(this) -
-                                             myOwnerDistance * std::uintptr_t{8});
+    if (myPlace != 0)
+    {
+        ownersRegistry().removeMember(*this);
+    }
+    if (hasRest())
+    {
+        leaveParent();
+        delete restOrNull();
+    }
+}
+
+void AxReaderWriter::leaveParent()
+{
+    if (AxReaderWriterRegistry* const parent = restOrNull()->parent)
+    {
+        parent->removeEntry(this);
+    }
 }
 
 AxReaderWriter::Rest& AxReaderWriter::makeRest()
 {
     auto* const made = new Rest(this, AxSymbolString::fromId(reinterpret_cast<void const*>(myNameOrRest)));
-    myNameOrRest = reinterpret_cast<std::uintptr_t>(made) | 1U;
+    useRest(*made);
     return *made;
 }
 
@@ -124,9 +140,9 @@ void AxReaderWriter::enter(AxReaderWriterRegistry* registry)
 
 AxReaderWriterRegistry* AxReaderWriter::parentRegistry() const
 {
-    if (myOwnerDistance != 0)
+    if (myPlace != 0)
     {
-        return &inPlaceOwner()->restOrNull()->registry;
+        return &ownersRegistry();
     }
     Rest const* const mine = restOrNull();
     return mine ? mine->parent : nullptr;
@@ -151,7 +167,7 @@ void AxReaderWriter::setName(AxString const& name)
     if (registry)
     {
         registry->removeEntry(this);
-        myOwnerDistance = 0;
+        myPlace = 0;
     }
     if (Rest* const mine = restOrNull())
     {
@@ -261,17 +277,49 @@ AxReaderWriter const* AxReaderWriter::defaultRWValue() const
     return mine ? mine->defaultValue.get() : nullptr;
 }
 
+namespace
+{
+/// False for other sizes than those of nearly all values.
+bool areSameFewBytes(void const* a, void const* b, std::size_t size)
+{
+    switch (size)
+    {
+    case 1:
+        return std::memcmp(a, b, 1) == 0;
+    case 4:
+        return std::memcmp(a, b, 4) == 0;
+    case 8:
+        return std::memcmp(a, b, 8) == 0;
+    default:
+        return false;
+    }
+}
+} // namespace
+
 void AxReaderWriter::noteInitialValue(void const* bytes, std::size_t size)
 {
-    if (myOwnerDistance != 0)
+    if (myPlace != 0) [[likely]]
     {
-        AxRegistryShape& shape = *inPlaceOwner()->restOrNull()->registry.myShape;
-        if (shape.initialSize == 0 && size <= sizeof shape.initial)
+        AxRegistryShape::Details const& shared = *ownersRegistry().myShape->details;
+        if (shared.initialSize == size && areSameFewBytes(shared.initial, bytes, size)) [[likely]]
         {
-            std::memcpy(shape.initial, bytes, size);
-            shape.initialSize = size;
+            return;
         }
-        if (shape.initialSize == size && std::memcmp(shape.initial, bytes, size) == 0)
+    }
+    noteInitialValueOtherwise(bytes, size);
+}
+
+[[gnu::noinline]] void AxReaderWriter::noteInitialValueOtherwise(void const* bytes, std::size_t size)
+{
+    if (myPlace != 0)
+    {
+        AxRegistryShape::Details& shared = *ownersRegistry().myShape->details;
+        if (shared.initialSize == 0 && size <= sizeof shared.initial)
+        {
+            std::memcpy(shared.initial, bytes, size);
+            shared.initialSize = size;
+        }
+        if (shared.initialSize == size && std::memcmp(shared.initial, bytes, size) == 0)
         {
             return;
         }
@@ -287,20 +335,17 @@ bool AxReaderWriter::initialValue(void* bytes, std::size_t size) const
         std::memcpy(bytes, mine->initial.data(), size);
         return true;
     }
-    if (myOwnerDistance == 0)
+    if (myPlace == 0)
     {
         return false;
     }
-    AxReaderWriterRegistry const& registry = inPlaceOwner()->restOrNull()->registry;
-    for (AxRegistryTable::Slot const& slot : registry.table().slots)
+    AxRegistryShape const* const shape = ownersRegistry().shapeOf(this);
+    if (!shape || shape->details->initialSize != size)
     {
-        if (registry.at(slot.distance) == this && slot.shape->initialSize == size)
-        {
-            std::memcpy(bytes, slot.shape->initial, size);
-            return true;
-        }
+        return false;
     }
-    return false;
+    std::memcpy(bytes, shape->details->initial, size);
+    return true;
 }
 
 std::uint32_t AxReaderWriter::ourStamp = 0;
@@ -423,24 +468,7 @@ void AxReaderWriter::assign(AxReaderWriter const& other)
     AxReaderWriterRegistry const* const theirs = other.registryIfAny();
     if (mine && theirs)
     {
-        if (mine->myShape == theirs->myShape)
-        {
-            for (AxRegistryTable::Slot const& slot : mine->table().slots)
-            {
-                AxReaderWriter& to = *mine->at(slot.distance);
-                AxReaderWriter const& from = *theirs->at(slot.distance);
-                AxTypeInfo::Reading const reading = slot.infoOf(from).reading;
-                if (AxPlainValue::isPlain(reading))
-                {
-                    AxPlainValue::copy(reading, to, from);
-                }
-                else
-                {
-                    AxReaderWriterFactory::copyByType(to, from);
-                }
-            }
-        }
-        std::size_t const shared = mine->myShape == theirs->myShape ? mine->table().slots.size() : 0;
+        std::size_t const shared = mine->myShape == theirs->myShape ? mine->assignShared(*theirs) : 0;
         for (std::size_t i = shared; i < mine->size(); ++i)
         {
             AxRegistryEntry const entry = mine->entry(i);

@@ -5,76 +5,13 @@
 #include "AxRegistryShape.h"
 
 #include <algorithm>
-#include <cstring>
+#include <limits>
 
-namespace
+AxReaderWriterRegistry::AxReaderWriterRegistry() : AxReaderWriterRegistry(nullptr) {}
+
+AxReaderWriterRegistry::AxReaderWriterRegistry(AxReaderWriter* owner) : myOwner(owner), myShape(AxRegistryShape::root())
 {
-AxRegistryShape& rootShape()
-{
-    static auto* const root = new AxRegistryShape; // shapes outlive every object
-    return *root;
 }
-
-std::size_t hashOf(AxSymbolString keyword)
-{
-    return (reinterpret_cast<std::uintptr_t>(keyword.id()) >> 4) * 0x9E3779B97F4A7C15ULL >> 32;
-}
-
-AxRegistryTable const& emptyTable()
-{
-    static AxRegistryTable const table(nullptr);
-    return table;
-}
-} // namespace
-
-AxRegistryTable::AxRegistryTable(AxRegistryShape const* last)
-{
-    for (AxRegistryShape const* shape = last; shape && shape->parent; shape = shape->parent)
-    {
-        // A keyword that is bound again supersedes the earlier binding.
-        bool const superseded = !shape->keyword.isNull() &&
-                                std::any_of(slots.begin(), slots.end(),
-                                            [shape](Slot const& later) { return later.keyword == shape->keyword; });
-        if (!superseded)
-        {
-            slots.push_back({shape->keyword, shape->distance, shape});
-        }
-    }
-    std::reverse(slots.begin(), slots.end());
-    std::size_t size = 4;
-    while (size < slots.size() * 2)
-    {
-        size *= 2;
-    }
-    myMask = size - 1;
-    myBuckets.assign(size, 0);
-    for (std::size_t i = 0; i < slots.size(); ++i)
-    {
-        std::size_t bucket = hashOf(slots[i].keyword) & myMask;
-        while (myBuckets[bucket] != 0)
-        {
-            bucket = (bucket + 1) & myMask;
-        }
-        myBuckets[bucket] = static_cast<std::uint16_t>(i + 1);
-    }
-}
-
-std::size_t AxRegistryTable::find(AxSymbolString keyword) const
-{
-    for (std::size_t bucket = hashOf(keyword) & myMask; myBuckets[bucket] != 0; bucket = (bucket + 1) & myMask)
-    {
-        std::size_t const slot = myBuckets[bucket] - 1U;
-        if (slots[slot].keyword == keyword)
-        {
-            return slot;
-        }
-    }
-    return none;
-}
-
-AxReaderWriterRegistry::AxReaderWriterRegistry() = default;
-
-AxReaderWriterRegistry::AxReaderWriterRegistry(AxReaderWriter* owner) : myOwner(owner) {}
 
 AxReaderWriterRegistry::~AxReaderWriterRegistry()
 {
@@ -92,19 +29,6 @@ AxReaderWriterRegistry::~AxReaderWriterRegistry()
     }
 }
 
-AxRegistryTable const& AxReaderWriterRegistry::table() const
-{
-    if (!myShape || !myShape->parent)
-    {
-        return emptyTable();
-    }
-    if (!myShape->table)
-    {
-        myShape->table = std::make_unique<AxRegistryTable>(myShape);
-    }
-    return *myShape->table;
-}
-
 AxReaderWriterRegistry::Own& AxReaderWriterRegistry::own()
 {
     if (!myOwn)
@@ -114,31 +38,29 @@ AxReaderWriterRegistry::Own& AxReaderWriterRegistry::own()
     return *myOwn;
 }
 
-AxRegistryShape* AxReaderWriterRegistry::shapeAfter(AxKeyword const& keyword, std::ptrdiff_t distance)
+void AxReaderWriterRegistry::bindOtherwise(AxReaderWriter& member, AxKeyword const& keyword, std::size_t distance)
 {
-    AxRegistryShape& last = myShape ? *myShape : rootShape();
-    if (AxRegistryShape* const known = last.child(keyword.text, distance))
+    constexpr std::size_t farthest = std::numeric_limits<std::uint16_t>::max() * AxRegistryShape::theUnit;
+    bool const isInOwner = myOwner && distance != 0 && distance <= farthest && distance % AxRegistryShape::theUnit == 0;
+    if (isInOwner && (!myOwn || myOwn->entries.empty()))
     {
-        return known;
+        auto const place = static_cast<std::uint16_t>(distance / AxRegistryShape::theUnit);
+        bindTo(*myShape->child(*myOwner, keyword, place), member);
+        return;
     }
     AxSymbolString const name(keyword.text);
-    for (std::unique_ptr<AxRegistryShape> const& child : last.children)
+    member.myNameOrRest = reinterpret_cast<std::uintptr_t>(name.id());
+    addEntry(name, &member);
+}
+
+void AxReaderWriterRegistry::removeMember(AxReaderWriter const& member)
+{
+    if (myShape->place == member.myPlace)
     {
-        if (child->keyword == name && child->distance == distance)
-        {
-            last.enterChild(keyword.text, child.get());
-            return child.get();
-        }
+        myShape = myShape->parent();
+        return;
     }
-    auto made = std::make_unique<AxRegistryShape>();
-    made->parent = &last;
-    made->keyword = name;
-    made->description = keyword;
-    made->distance = distance;
-    last.children.push_back(std::move(made));
-    last.firstChild = last.children.front().get();
-    last.enterChild(keyword.text, last.children.back().get());
-    return last.children.back().get();
+    removeEntry(&member);
 }
 
 void AxReaderWriterRegistry::addEntry(AxSymbolString keyword, AxReaderWriter* member)
@@ -177,7 +99,7 @@ void AxReaderWriterRegistry::leaveShape()
     }
     Own& mine = own();
     mine.entries.insert(mine.entries.begin(), entries.begin(), entries.end());
-    myShape = nullptr;
+    myShape = AxRegistryShape::root();
 }
 
 AxRegistryEntry* AxReaderWriterRegistry::ownEntry(AxReaderWriter const* member) const
@@ -329,16 +251,45 @@ void AxReaderWriterRegistry::setCompared(AxReaderWriter const* member, bool comp
     }
 }
 
-AxKeyword const* AxReaderWriterRegistry::description(AxReaderWriter const* member) const
+AxRegistryShape const* AxReaderWriterRegistry::shapeOf(AxReaderWriter const* member) const
 {
     for (AxRegistryTable::Slot const& slot : table().slots)
     {
         if (at(slot.distance) == member)
         {
-            return &slot.shape->description;
+            return slot.shape;
         }
     }
     return nullptr;
+}
+
+AxKeyword const* AxReaderWriterRegistry::description(AxReaderWriter const* member) const
+{
+    AxRegistryShape const* const shape = shapeOf(member);
+    return shape ? &shape->details->description : nullptr;
+}
+
+std::type_info const* AxReaderWriterRegistry::declaringClass(AxReaderWriter const* member) const
+{
+    AxRegistryShape const* const shape = shapeOf(member);
+    return shape ? shape->details->declaringClass : nullptr;
+}
+
+/// Assigns the members that stand in the shape, which is that of `other`; answers how many.
+std::size_t AxReaderWriterRegistry::assignShared(AxReaderWriterRegistry const& other)
+{
+    std::vector<AxRegistryTable::Slot> const& slots = table().slots;
+    std::uint32_t const stamp = AxPlainValue::nextStamp();
+    for (AxRegistryTable::Slot const& slot : slots)
+    {
+        AxReaderWriter& to = *at(slot.distance);
+        AxReaderWriter const& from = *other.at(slot.distance);
+        if (stamp == 0 || !AxPlainValue::copy(slot, to, from, stamp)) [[unlikely]]
+        {
+            AxReaderWriterFactory::copyByType(to, from);
+        }
+    }
+    return slots.size();
 }
 
 bool AxReaderWriterRegistry::operator==(AxReaderWriterRegistry const& other) const
@@ -349,13 +300,7 @@ bool AxReaderWriterRegistry::operator==(AxReaderWriterRegistry const& other) con
     {
         return std::all_of(shared.slots.begin(), shared.slots.end(),
                            [this, &other](AxRegistryTable::Slot const& slot)
-                           {
-                               AxReaderWriter const& left = *at(slot.distance);
-                               AxReaderWriter const& right = *other.at(slot.distance);
-                               AxTypeInfo::Reading const reading = slot.infoOf(left).reading;
-                               return AxPlainValue::isPlain(reading) ? AxPlainValue::equal(reading, left, right)
-                                                                     : AxReaderWriterFactory::equalByType(left, right);
-                           });
+                           { return AxPlainValue::equal(slot, *at(slot.distance), *other.at(slot.distance)); });
     }
     if (comparedCount() != other.comparedCount())
     {

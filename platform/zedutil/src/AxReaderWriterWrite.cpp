@@ -170,7 +170,7 @@ void AxReaderWriter::writeMembers(std::string& out, int indent, bool all, AxFile
     for (AxRegistryTable::Slot const& slot : members.table().slots)
     {
         AxReaderWriter& member = *members.at(slot.distance);
-        if (isPlain && AxPlainValue::write(slot.infoOf(member).reading, member, slot.keyword, out, indent + 1, all))
+        if (isPlain && AxPlainValue::write(slot.readingOf(member), member, slot.keyword, out, indent + 1, all))
         {
             continue;
         }

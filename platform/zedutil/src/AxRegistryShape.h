@@ -6,104 +6,74 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <memory>
+#include <typeinfo>
 #include <vector>
 
-/// One member bound at a fixed distance from its owner, after the members of `parent`. Objects that bind the same
-/// keywords at the same distances share the chain. Shapes live as long as the process.
+/// One member that the objects of a class bind, after those bound before it. Shapes stand in runs: what an object under
+/// construction binds next mostly stands right behind what it bound last, and before what leaves stands what leaves
+/// next. Classes share what they inherit. Shapes live as long as the process.
 struct AxRegistryShape
 {
-    AxRegistryShape* parent = nullptr;
-    AxSymbolString keyword;
-    AxKeyword description{};
-    std::ptrdiff_t distance = 0;
-    unsigned char initial[32] = {};
-    std::size_t initialSize = 0;
-    AxRegistryShape* firstChild = nullptr;
-    std::vector<std::unique_ptr<AxRegistryShape>> children;
-    std::unique_ptr<AxRegistryTable> table;
+    struct Details;
 
-    /// The child for a keyword's text, known by its address, and a distance; null when it was not entered yet.
-    AxRegistryShape* child(char const* text, std::ptrdiff_t childDistance) const
-    {
-        if (myPlaces.empty())
-        {
-            return nullptr;
-        }
-        for (std::size_t place = placeOf(text, childDistance);; place = (place + 1) & (myPlaces.size() - 1))
-        {
-            Place const& entry = myPlaces[place];
-            if (!entry.shape || (entry.text == text && entry.shape->distance == childDistance))
-            {
-                return entry.shape;
-            }
-        }
-    }
-    void enterChild(char const* text, AxRegistryShape* shape)
-    {
-        if (2 * (myEntered + 1) > myPlaces.size())
-        {
-            std::vector<Place> const old = std::move(myPlaces);
-            myPlaces.assign(old.empty() ? 4 : old.size() * 2, Place{});
-            myEntered = 0;
-            for (Place const& entry : old)
-            {
-                if (entry.shape)
-                {
-                    enterChild(entry.text, entry.shape);
-                }
-            }
-        }
-        std::size_t place = placeOf(text, shape->distance);
-        while (myPlaces[place].shape)
-        {
-            place = (place + 1) & (myPlaces.size() - 1);
-        }
-        myPlaces[place] = {text, shape};
-        ++myEntered;
-    }
+    char const* text = nullptr; ///< of the keyword, known by its address; null behind the last shape of a run
+    void const* name = nullptr; ///< of the keyword
+    /// The owner's table of virtual functions while the member was bound: that of the class that declares the member,
+    /// so that members of two classes stay apart even if keyword and place are the same.
+    void const* functions = nullptr;
+    Details* details = nullptr;
+    std::size_t distance = 0; ///< of the member from its owner
+    std::uint16_t place = 0;  ///< the same in units of eight bytes; 0 for the root
+    bool leadsRun = false;    ///< its parent stands in another run
+
+    static constexpr std::size_t theUnit = 8;
+
+    /// The shape of an object without members; nothing stands behind it in its run.
+    static AxRegistryShape* root() { return theRoot; }
+
+    bool isRoot() const { return place == 0; }
+    inline AxRegistryShape* parent();
+    AxRegistryShape const* parent() const { return const_cast<AxRegistryShape*>(this)->parent(); }
+    /// Of this shape and its parents; made at the first call.
+    AxRegistryTable const& table() { return myTable ? *myTable : makeTable(); }
+
+    /// What is bound next when that is `keyword` at `itsPlace` of `owner`, which is under construction.
+    AxRegistryShape* child(AxReaderWriter const& owner, AxKeyword const& keyword, std::uint16_t itsPlace);
 
 private:
-    struct Place
-    {
-        char const* text = nullptr;
-        AxRegistryShape* shape = nullptr;
-    };
-    std::size_t placeOf(char const* text, std::ptrdiff_t childDistance) const
-    {
-        std::uint64_t const key = reinterpret_cast<std::uintptr_t>(text) + static_cast<std::uint64_t>(childDistance);
-        return (key * 0x9E3779B97F4A7C15U >> 32) & (myPlaces.size() - 1);
-    }
-    std::vector<Place> myPlaces;
-    std::size_t myEntered = 0;
+    constexpr AxRegistryShape() = default;
+    AxRegistryTable const& makeTable();
+    AxRegistryShape* addChild(AxReaderWriter const& owner, AxKeyword const& keyword, std::uint16_t itsPlace);
+
+    AxRegistryTable const* myTable = nullptr;
+    static AxRegistryShape theRoot[2];
 };
 
-/// The members of a shape's chain in binding order, each keyword once, with an index by keyword.
+/// The members of a shape and its parents in binding order, each keyword once, with an index by keyword.
 struct AxRegistryTable
 {
     struct Slot
     {
         AxSymbolString keyword;
-        std::ptrdiff_t distance;
+        std::size_t distance;
         AxRegistryShape const* shape;
-        mutable void const* functions = nullptr; ///< table of virtual functions that `info` was found for
-        mutable AxTypeInfo const* info = nullptr;
+        mutable void const* functions = nullptr; ///< table of virtual functions that `reading` was found for
+        mutable AxTypeInfo::Reading reading = AxTypeInfo::Reading::Cells;
 
         /// How the member that stands in this slot of some object is read; members of one class share the answer.
-        AxTypeInfo const& infoOf(AxReaderWriter const& member) const
+        AxTypeInfo::Reading readingOf(AxReaderWriter const& member) const
         {
-            void const* const its = *reinterpret_cast<void const* const*>(&member);
-            if (functions != its)
+            if (void const* const its = AxReaderWriterFactory::functionsOf(member); functions != its)
             {
-                info = &AxReaderWriterFactory::typeInfo(member);
+                reading = AxReaderWriterFactory::typeInfo(member).reading;
                 functions = its;
             }
-            return *info;
+            return reading;
         }
     };
 
-    explicit AxRegistryTable(AxRegistryShape const* last);
+    explicit AxRegistryTable(AxRegistryShape const& last);
     /// The place of `keyword`, or `none`.
     std::size_t find(AxSymbolString keyword) const;
 
@@ -114,6 +84,34 @@ private:
     std::vector<std::uint16_t> myBuckets; // slot + 1, 0 for free
     std::size_t myMask = 0;
 };
+
+/// What binding and leaving need seldom.
+struct AxRegistryShape::Details
+{
+    struct Known
+    {
+        char const* text = nullptr;
+        AxRegistryShape* shape = nullptr;
+    };
+
+    AxRegistryShape* parent = nullptr;
+    AxRegistryShape const* runEnd = nullptr;
+    std::type_info const* declaringClass = nullptr;
+    AxKeyword description{};
+    unsigned char initial[32] = {};
+    std::size_t initialSize = 0;
+    std::vector<AxRegistryShape*> children{};
+    std::vector<Known> known{}; ///< children by the addresses of keywords: a hash table, at most half full
+    std::size_t knownCount = 0;
+
+    AxRegistryShape* find(char const* keyword, std::uint16_t place, void const* functions) const;
+    void enter(char const* keyword, AxRegistryShape* shape);
+};
+
+inline AxRegistryShape* AxRegistryShape::parent()
+{
+    return leadsRun ? details->parent : this - 1;
+}
 
 struct AxReaderWriterRegistry::Own
 {
@@ -142,40 +140,46 @@ struct AxReaderWriter::Rare
     double stamp = 0.0;
 };
 
-inline AxReaderWriter* AxReaderWriterRegistry::at(std::ptrdiff_t distance) const
+inline AxReaderWriter* AxReaderWriterRegistry::at(std::size_t distance) const
 {
     return reinterpret_cast<AxReaderWriter*>(reinterpret_cast<char*>(myOwner) + distance);
 }
 
-/// Members leave in the reverse order of their binding, one for each member of an object that is destroyed.
-inline void AxReaderWriterRegistry::leave(AxReaderWriter const* member)
+inline AxRegistryTable const& AxReaderWriterRegistry::table() const
 {
-    if (myShape && myShape->parent && at(myShape->distance) == member)
-    {
-        myShape = myShape->parent;
-        return;
-    }
-    removeEntry(member);
+    return myShape->table();
 }
 
-/// One for each member of an object that is made.
+/// Members leave in the reverse order of their binding, one for each member of an object that is destroyed. False, and
+/// nothing done, where that takes more than a step.
+inline bool AxReaderWriterRegistry::leave(AxReaderWriter const& member)
+{
+    if (myShape->place != member.myPlace || myShape->leadsRun) [[unlikely]]
+    {
+        return false;
+    }
+    --myShape;
+    return true;
+}
+
+/// One for each member of an object that is made. What is called in the other case is a function of its own, so that
+/// this needs no room on the stack.
 inline void AxReaderWriterRegistry::bind(AxReaderWriter& member, AxKeyword const& keyword)
 {
-    constexpr std::ptrdiff_t farthest = std::numeric_limits<std::uint16_t>::max() * 8;
-    std::ptrdiff_t const distance = reinterpret_cast<char*>(&member) - reinterpret_cast<char*>(myOwner);
-    if (myOwner && distance > 0 && distance <= farthest && distance % 8 == 0 && (!myOwn || myOwn->entries.empty()))
+    std::size_t const distance = reinterpret_cast<std::uintptr_t>(&member) - reinterpret_cast<std::uintptr_t>(myOwner);
+    AxRegistryShape* const next = myShape + 1;
+    if (next->text != keyword.text || next->distance != distance ||
+        next->functions != AxReaderWriterFactory::functionsOf(*myOwner) || myOwn) [[unlikely]]
     {
-        AxRegistryShape* next = myShape ? myShape->firstChild : nullptr;
-        if (!next || next->description.text != keyword.text || next->distance != distance)
-        {
-            next = shapeAfter(keyword, distance);
-        }
-        myShape = next;
-        member.myNameOrRest = reinterpret_cast<std::uintptr_t>(next->keyword.id());
-        member.myOwnerDistance = static_cast<std::uint16_t>(distance / 8);
+        bindOtherwise(member, keyword, distance);
         return;
     }
-    AxSymbolString const name(keyword.text);
-    member.myNameOrRest = reinterpret_cast<std::uintptr_t>(name.id());
-    addEntry(name, &member);
+    bindTo(*next, member);
+}
+
+inline void AxReaderWriterRegistry::bindTo(AxRegistryShape& shape, AxReaderWriter& member)
+{
+    myShape = &shape;
+    member.myNameOrRest = reinterpret_cast<std::uintptr_t>(shape.name);
+    member.myPlace = shape.place;
 }

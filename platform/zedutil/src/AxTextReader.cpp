@@ -75,6 +75,17 @@ char const* pastBlanks(char const* at)
     return at;
 }
 
+/// The same between items, where lines begin with many spaces.
+char const* pastIndentation(char const* at, char const* end)
+{
+    at += kindOf(*at) == Blank ? 1 : 0;
+    while (end - at >= 4 && std::memcmp(at, "    ", 4) == 0)
+    {
+        at += 4;
+    }
+    return pastBlanks(at);
+}
+
 bool isDigit(char byte)
 {
     return static_cast<unsigned char>(byte - '0') < 10;
@@ -97,7 +108,7 @@ AxTextReader::AxTextReader(AxlInputStream& stream)
 
 void AxTextReader::skipBlanks()
 {
-    myAt = pastBlanks(myAt);
+    myAt = pastIndentation(myAt, myEnd);
     while (*myAt == ';')
     {
         auto const* const newline = std::memchr(myAt, '\n', static_cast<std::size_t>(myEnd - myAt));
@@ -366,7 +377,7 @@ void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameLis
             {
                 AxRegistryTable::Slot const& slot = table.slots[place];
                 AxReaderWriter& member = *registry.at(slot.distance);
-                Reading const reading = slot.infoOf(member).reading;
+                Reading const reading = slot.readingOf(member);
                 bool const wasSeen = (place < 256 && (frame.few[place / 64] >> (place % 64) & 1U) != 0);
                 myAt = reading >= Reading::Record ? item : pastBlanks(end);
                 if (!wasSeen && place < 256 && readMember(member, reading, files, *current))
@@ -477,7 +488,7 @@ bool AxTextReader::readMember(AxReaderWriter& member, AxTypeInfo::Reading readin
         if (closes())
         {
             static_cast<AxRwString&>(member).takeRead(
-                AxString(std::string_view(begin, static_cast<std::size_t>(at - begin))));
+                AxSharedText(std::string_view(begin, static_cast<std::size_t>(at - begin))));
             return true;
         }
         return false;
@@ -567,6 +578,15 @@ bool AxTextReader::scanReal(double& value)
         value = isNegative ? -magnitude : magnitude;
         myAt = at;
         return true;
+    }
+    if (kindOf(*at) != Word && count > 0)
+    {
+        auto const [end, error] = std::from_chars(myAt, at, value);
+        if (error == std::errc() && end == at && value != 0.0)
+        {
+            myAt = at;
+            return true;
+        }
     }
     char const* const end = endOfWord(at);
     if (!axParseReal({myAt, static_cast<std::size_t>(end - myAt)}, value))

@@ -43,12 +43,12 @@ AxReadFrame::Index* indexOf(AxRwList const& list, AxElementKey keyOf)
 
 void axAddKeyed(AxRwList& list, AxReaderWriter* element, AxElementKey keyOf)
 {
-    std::string const key(keyOf(*element));
+    std::string_view const key = keyOf(*element);
     AxReadFrame::Index* const index = indexOf(list, keyOf);
     AxListItem* older = nullptr;
     if (index)
     {
-        auto const found = index->items.find(key);
+        auto const found = index->items.find(std::string(key));
         older = found != index->items.end() ? found->second : nullptr;
     }
     else
@@ -64,7 +64,7 @@ void axAddKeyed(AxRwList& list, AxReaderWriter* element, AxElementKey keyOf)
     list.AxRwList::add(element);
     if (index)
     {
-        index->items.insert_or_assign(key, list.last());
+        index->items.insert_or_assign(std::string(key), list.last());
         index->changeCount = list.changeCount();
     }
 }
