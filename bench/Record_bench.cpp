@@ -1,3 +1,6 @@
+#include "Record_bench.h"
+
+#include "AxComponentDescriptorFactory.h"
 #include "BenchRecord.h"
 #include "HeapUse.h"
 #include "PlainJson.h"
@@ -107,6 +110,27 @@ void ReadJson(benchmark::State& state)
 }
 BENCHMARK(ReadJson)->Name("read/json");
 
+void ReadShuffledOurs(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        BenchRecord record(AxSymbolString("record"), nullptr);
+        benchmark::DoNotOptimize(readOurs(ourShuffled, record));
+    }
+}
+BENCHMARK(ReadShuffledOurs)->Name("read-shuffled/ours");
+
+void ReadShuffledProtobuf(benchmark::State& state)
+{
+    std::string const text = messageShuffled;
+    for (auto _ : state)
+    {
+        peer::Record record;
+        benchmark::DoNotOptimize(TextFormat::ParseFromString(text, &record));
+    }
+}
+BENCHMARK(ReadShuffledProtobuf)->Name("read-shuffled/protobuf");
+
 void WriteOurs(benchmark::State& state)
 {
     for (auto _ : state)
@@ -208,6 +232,19 @@ void CompareProtobuf(benchmark::State& state)
 }
 BENCHMARK(CompareProtobuf)->Name("compare/protobuf");
 
+void CompareSerialised(benchmark::State& state)
+{
+    peer::Record const copy(forms().message);
+    for (auto _ : state)
+    {
+        if (forms().message.SerializeAsString() != copy.SerializeAsString())
+        {
+            state.SkipWithError("the copy differs");
+        }
+    }
+}
+BENCHMARK(CompareSerialised)->Name("compare/serialised");
+
 void ConstructOurs(benchmark::State& state)
 {
     std::vector<AxSymbolString> names;
@@ -259,4 +296,38 @@ void MemoryProtobuf(benchmark::State& state)
     state.counters["bytes"] = static_cast<double>(used);
 }
 BENCHMARK(MemoryProtobuf)->Name("memory/protobuf")->Iterations(2);
+
+/// The second record, so that what all records share is there already.
+void AllocationsOurs(benchmark::State& state)
+{
+    std::size_t count = 0;
+    for (auto _ : state)
+    {
+        auto const first = std::make_unique<BenchRecord>(AxSymbolString("record"), nullptr);
+        readOurs(forms().ourText, *first);
+        std::size_t const before = allocationCount();
+        auto const second = std::make_unique<BenchRecord>(AxSymbolString("record"), nullptr);
+        readOurs(forms().ourText, *second);
+        count = allocationCount() - before;
+    }
+    state.counters["count"] = static_cast<double>(count);
+}
+BENCHMARK(AllocationsOurs)->Name("allocations/ours")->Iterations(2);
+
+void ConstructDescriptor(benchmark::State& state, char const* type)
+{
+    for (auto _ : state)
+    {
+        delete AxComponentDescriptor::createComponentDescriptor(type);
+    }
+}
 } // namespace
+
+void registerLargestDescriptor()
+{
+    constexpr char const* type = "iff-controller-descriptor";
+    if (AxComponentDescriptor::factory()->lookup(AxStringHashKey(type)))
+    {
+        benchmark::RegisterBenchmark("construct-largest/ours", &ConstructDescriptor, type);
+    }
+}

@@ -6,7 +6,7 @@
 The record has 100 members (60 reals, 15 integers, 10 booleans, 10 strings, 5 vectors) and 12 descriptors of 20 members,
 11 of which are those of every component descriptor. All members have values; the values are the same in each form:
 BenchFields.h (our classes), PlainRecord.h (a struct, its reader and writer for JSON), record.proto, and RecordTexts.h with
-the three texts. Numbers have the digits that parameter files have: most a few, one in six all that a double can hold.
+the three texts, two of them also with their members in another order. Numbers have the digits that parameter files have: most a few, one in six all that a double can hold.
 """
 
 import json
@@ -192,10 +192,19 @@ def main():
     descriptor = BASE + OWN
     record = values(members, source)
     descriptors = [(f"component-{number}", values(descriptor, source)) for number in range(1, DESCRIPTORS + 1)]
-    texts = {"our": our_text, "message": proto_text, "json": json_text}
-    literals = "".join(
-        f'inline constexpr char {name}Source[] = R"~({text(record, descriptors)})~";\n' for name, text in texts.items()
+    shuffled = random.Random(2)
+    disordered = (
+        shuffled.sample(record, len(record)),
+        [(name, shuffled.sample(members, len(members))) for name, members in descriptors],
     )
+    texts = {
+        "ourSource": our_text(record, descriptors),
+        "ourShuffled": our_text(*disordered),
+        "messageSource": proto_text(record, descriptors),
+        "messageShuffled": proto_text(*disordered),
+        "jsonSource": json_text(record, descriptors),
+    }
+    literals = "".join(f'inline constexpr char {name}[] = R"~({text})~";\n' for name, text in texts.items())
     files = {
         "record.proto": proto_file(members, descriptor),
         "BenchFields.h": our_header(members),

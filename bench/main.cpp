@@ -1,5 +1,6 @@
 #include "BenchRecord.h"
 #include "Lookup_bench.h"
+#include "Record_bench.h"
 
 #include <benchmark/benchmark.h>
 
@@ -31,6 +32,7 @@ int main(int argc, char** argv)
     try
     {
         setUpFactories();
+        registerLargestDescriptor();
         registerLookups(typesFile);
         benchmark::RunSpecifiedBenchmarks();
         benchmark::Shutdown();
