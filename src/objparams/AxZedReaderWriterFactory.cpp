@@ -1,5 +1,6 @@
 #include "AxZedReaderWriterFactory.h"
 
+#include "AxAggregatedMovementDescriptor.h"
 #include "AxEmbarkationSlotEntry.h"
 #include "AxFormationTable.h"
 #include "AxIntegerResource.h"
@@ -105,4 +106,7 @@ void AxZedReaderWriterFactory::addDefaultRwCreators()
     row("AxSlotExclusion", opsOf<AxSlotExclusion>(), xmlTypeOf<AxSlotExclusion>());
     row("target-selection-criteria", opsOf<AxTargetSelectionCriteria>(), record);
     row(pluralOf<AxReaderWriter>(), opsOf<ReaderWriters>(), none);
+    using Mobility = AxAggregatedMovementDescriptor::MobilityEntry;
+    row(pluralOf<Mobility>(), opsOf<ListOf<Mobility>>(), none);
+    row(Mobility().readerWriterType(), opsOf<Mobility>(), xmlTypeOf<Mobility>());
 }

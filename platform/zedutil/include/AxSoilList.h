@@ -14,6 +14,8 @@ public:
 
     /// The first factors for that soil, null when there are none.
     AxSoilFactors* lookupSoil(AxString const& soilType) const;
+    /// The factors of that soil, else those of "default", else factors of 1.0. A speed factor of 0 is impassable.
+    AxSoilFactors const& factors(AxString const& soilType) const;
 
     char const* readerWriterType() const override;
 };

@@ -38,6 +38,17 @@ AxSoilFactors* AxSoilList::lookupSoil(AxString const& soilType) const
     return nullptr;
 }
 
+AxSoilFactors const& AxSoilList::factors(AxString const& soilType) const
+{
+    static AxSoilFactors const neutral;
+    if (AxSoilFactors const* const own = lookupSoil(soilType))
+    {
+        return *own;
+    }
+    AxSoilFactors const* const standard = lookupSoil("default");
+    return standard ? *standard : neutral;
+}
+
 char const* AxSoilList::readerWriterType() const
 {
     return "AxSoilList";

@@ -322,6 +322,11 @@ TEST(AxSoilList, FindsTheFactorsOfASoil)
     EXPECT_EQ(soils.lookupSoil("mud")->maxSpeedFactor(), 0.5);
     EXPECT_EQ(soils.lookupSoil("mud")->maxDecelerationFactor(), 1.0);
     EXPECT_FALSE(soils.lookupSoil("sand"));
+    EXPECT_EQ(soils.factors("sand").maxSpeedFactor(), 1.0);
+    readFrom(soils, "(soils (soil-factors (soil-type mud) (max-speed-factor 0.5)) (soil-factors (soil-type default)"
+                    " (max-speed-factor 0.8)))");
+    EXPECT_EQ(soils.factors("mud").maxSpeedFactor(), 0.5);
+    EXPECT_EQ(soils.factors("sand").maxSpeedFactor(), 0.8);
 }
 
 TEST(AxRemoteConfigurationList, AppendsCopiesThatShareTheVariables)

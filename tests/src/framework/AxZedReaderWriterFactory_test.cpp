@@ -34,8 +34,8 @@ constexpr Row theRows[] = {
     {"AxSlotExclusion", "slotExclusion", true},
     {"target-selection-criteria", "readerWriter", true},
     {"readerWriters", "", true},
-    {"AxAggregatedMovementDescriptor_MobilityEntrys", "", false},
-    {"AxAggregatedMovementDescriptor_MobilityEntry", "AxAggregatedMovementDescriptor_MobilityEntry", false},
+    {"AxAggregatedMovementDescriptor_MobilityEntrys", "", true},
+    {"AxAggregatedMovementDescriptor_MobilityEntry", "AxAggregatedMovementDescriptor_MobilityEntry", true},
 };
 } // namespace
 

@@ -1,0 +1,3 @@
+#include "AxActiveSonarBeamEntry.h"
+
+AxActiveSonarBeamEntry::~AxActiveSonarBeamEntry() = default;

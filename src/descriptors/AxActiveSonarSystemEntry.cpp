@@ -1,0 +1,3 @@
+#include "AxActiveSonarSystemEntry.h"
+
+AxActiveSonarSystemEntry::~AxActiveSonarSystemEntry() = default;

@@ -1,0 +1,3 @@
+#include "AxEmitterBeamEntry.h"
+
+AxEmitterBeamEntry::~AxEmitterBeamEntry() = default;

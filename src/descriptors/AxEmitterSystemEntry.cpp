@@ -1,0 +1,3 @@
+#include "AxEmitterSystemEntry.h"
+
+AxEmitterSystemEntry::~AxEmitterSystemEntry() = default;

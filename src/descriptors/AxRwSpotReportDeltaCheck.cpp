@@ -1,0 +1,3 @@
+#include "AxRwSpotReportDeltaCheck.h"
+
+AxRwSpotReportDeltaCheck::~AxRwSpotReportDeltaCheck() = default;

@@ -1,0 +1,3 @@
+#include "AxSensorFieldOfViewEntry.h"
+
+AxSensorFieldOfViewEntry::~AxSensorFieldOfViewEntry() = default;
