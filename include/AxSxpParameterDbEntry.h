@@ -10,6 +10,7 @@
 
 class AxSxpParameterDbFileEntry;
 class AxlInputStream;
+struct AxDiagnostic;
 
 /// An entry that knows the file of its record and reads it when the record is first asked for.
 class ZEDOBJPARAM_API AxSxpParameterDbEntry : public AxZedParameterDbEntry
@@ -51,6 +52,8 @@ public:
     /// The directory of that file, null for an entry that was not loaded from one.
     AxFilename const& databaseDirectory() const { return myDatabaseDirectory; }
     void setDatabaseDirectory(AxFilename const& directory) { myDatabaseDirectory = directory; }
+    /// Where the entry stands in that file, for what is wrong with the file that it names.
+    void setPlace(boost::shared_ptr<AxFilename const> const& databaseFile, unsigned line, unsigned column);
     /// Where the record's file is found now: along the search paths, the path, the database's directory, as named.
     /// Null when it is nowhere.
     AxFilename foundFilename() const;
@@ -61,12 +64,15 @@ public:
 
 private:
     struct Sources;
+    struct Reading;
 
     AxZedObjectParameters* readRecord(AxlInputStream& stream, AxEnvironmentPtr const& env, AxEnvValuePtr* value);
     std::vector<AxFilename> directories() const;
     AxZedObjectParameters* readTextFile(AxFilename const& file);
     AxZedObjectParameters* readEntityFile(AxFilename const& file);
     AxZedObjectParameters* hold(AxZedObjectParameters* record);
+    /// What is wrong with the file that the entry names, at the place of the entry.
+    AxDiagnostic faultOfFile(char const* code, AxFilename const& file, std::string const& text) const;
 
     AxFilename myFilename;
     AxFilename myPath;
@@ -74,7 +80,9 @@ private:
     boost::shared_ptr<AxRwVariableBindings> myVariableBindings;
     std::vector<AxFilename> mySearchPaths;
     AxFilename myDatabaseDirectory;
-    AxFilename myReading; // the file found, while it is read
+    boost::shared_ptr<AxFilename const> myDatabaseFile;
+    unsigned myLine = 0;
+    unsigned myColumn = 0;
+    Reading* myReading = nullptr; // while the record is read
     std::unique_ptr<AxSxpParameterDbFileEntry> myFileEntry;
-    bool myIsLoading = false;
 };

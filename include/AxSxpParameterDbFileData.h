@@ -32,6 +32,9 @@ public:
     /// The variables that the file defines; they hold for everything else in it.
     AxRwVariableBindings& variableBindings() { return myVariableBindings; }
     AxRwVariableBindings const& variableBindings() const { return myVariableBindings; }
+    /// Where the text that was read binds "data-root"; zeros when it does not.
+    unsigned dataRootLine() const { return myDataRootLine; }
+    unsigned dataRootColumn() const { return myDataRootColumn; }
 
     /// Reads the version alone, 0 when the file has none. False, after a warning, when the file cannot be read so far.
     static bool getVersion(AxFilename const& file, int& version);
@@ -45,9 +48,13 @@ private:
     struct Entry;
     static Entry const ourEntry;
 
+    void takeVariables(AxlObj const* item, AxFilenameList const& files, AxBindingsList const& bindings);
+
     AxRwInt myVersion{{"version", "", "Version of the file's form."}, 101, registry()};
     AxSxpParameterDbFileEntryList myEntries{{"parameter-files", "", "Types and the files of their records."},
                                             registry()};
     AxRwVariableBindings myVariableBindings;
     AxRemoteConfigurationList* myRemoteConfigurationList = nullptr;
+    unsigned myDataRootLine = 0;
+    unsigned myDataRootColumn = 0;
 };

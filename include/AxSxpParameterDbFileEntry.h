@@ -26,6 +26,11 @@ public:
     AxZedObjectParameters* parameters() const { return myParameters; }
     void setParameters(AxZedObjectParameters* parameters) { myParameters = parameters; }
 
+    /// Where the entry begins in the text it was read from; zeros for one that was made otherwise.
+    unsigned line() const { return myLine; }
+    unsigned column() const { return myColumn; }
+    void setPlace(unsigned line, unsigned column);
+
     /// Whether the text gave a type and, if it gave a file name, one that can be read.
     bool isReadable() const;
     /// Drops the variables of the file name when, with these sets, they would not give the name that it has.
@@ -38,4 +43,6 @@ private:
     AxRwString myFilename{{"filename", "", "The file that holds the record."}, registry()};
     bool myTypeIsMatchType = false;
     AxZedObjectParameters* myParameters = nullptr;
+    unsigned myLine = 0;
+    unsigned myColumn = 0;
 };

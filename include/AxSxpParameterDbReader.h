@@ -3,6 +3,7 @@
 #include "AxExport.h"
 #include "AxFilename.h"
 
+#include <boost/shared_ptr.hpp>
 #include <cstdio>
 
 class AxSxpParameterDb;
@@ -46,5 +47,7 @@ private:
     bool loadData(AxFilename const& file, int version, AxSxpParameterDbFileData& data, AxSxpParameterDb& db);
     void addEntityFiles(AxFilename const& dataRoot, AxSxpParameterDbFileData& data);
 
-    AxFilename myDatabaseDirectory; // of the file being loaded
+    // The file being loaded, and its directory.
+    boost::shared_ptr<AxFilename const> myDatabaseFile;
+    AxFilename myDatabaseDirectory;
 };

@@ -21,19 +21,6 @@ namespace
 {
 constexpr int theCurrentVersion = 101;
 
-/// Holds a flag for as long as it lives.
-class Marked
-{
-public:
-    explicit Marked(bool& flag) : myFlag(flag) { myFlag = true; }
-    Marked(Marked const&) = delete;
-    Marked& operator=(Marked const&) = delete;
-    ~Marked() { myFlag = false; }
-
-private:
-    bool& myFlag;
-};
-
 /// Whether a record's text names its type: in the second element, or in a later item of that head.
 bool namesType(AxlObj const* object)
 {
@@ -54,6 +41,22 @@ bool namesType(AxlObj const* object)
     return false;
 }
 } // namespace
+
+/// One reading of the record: the file found and where the record begins in it.
+struct AxSxpParameterDbEntry::Reading
+{
+    explicit Reading(Reading*& current) : myCurrent(current) { myCurrent = this; }
+    Reading(Reading const&) = delete;
+    Reading& operator=(Reading const&) = delete;
+    ~Reading() { myCurrent = nullptr; }
+
+    AxFilename file{};
+    std::uint32_t line = 1;
+    std::uint32_t column = 1;
+
+private:
+    Reading*& myCurrent;
+};
 
 AxSxpParameterDbEntry::AxSxpParameterDbEntry() : myVersion(theCurrentVersion) {}
 
@@ -119,6 +122,22 @@ void AxSxpParameterDbEntry::setFileEntry(AxSxpParameterDbFileEntry const& entry)
     myFileEntry.reset(entry.copy());
 }
 
+void AxSxpParameterDbEntry::setPlace(boost::shared_ptr<AxFilename const> const& databaseFile, unsigned line,
+                                     unsigned column)
+{
+    myDatabaseFile = databaseFile;
+    myLine = line;
+    myColumn = column;
+}
+
+AxDiagnostic AxSxpParameterDbEntry::faultOfFile(char const* code, AxFilename const& file, std::string const& text) const
+{
+    AxDiagnostic fault = axFault(code, myDatabaseFile ? *myDatabaseFile : file, text);
+    fault.line = myLine;
+    fault.column = myColumn;
+    return fault;
+}
+
 std::vector<AxFilename> AxSxpParameterDbEntry::directories() const
 {
     std::vector<AxFilename> directories = mySearchPaths;
@@ -141,12 +160,12 @@ AxFilename AxSxpParameterDbEntry::foundFilename() const
 
 AxZedObjectParameters* AxSxpParameterDbEntry::loadFromFile(AxFilename const& file)
 {
-    if (myIsLoading)
+    if (myReading != nullptr)
     {
         AxDiagnostics::report(axFault("record-loading", file, "the record was asked for while it is being read"));
         return nullptr;
     }
-    Marked const loading(myIsLoading);
+    Reading reading(myReading);
     try
     {
         AxZedObjectParameters* const record = file.extension() == "entity" ? readEntityFile(file) : readTextFile(file);
@@ -161,7 +180,8 @@ AxZedObjectParameters* AxSxpParameterDbEntry::loadFromFile(AxFilename const& fil
 
 AxZedObjectParameters* AxSxpParameterDbEntry::readEntityFile(AxFilename const& file)
 {
-    AxDiagnostics::report(axFault("entity-file", myPath.combine(file), "entity files cannot be read by this build"));
+    AxDiagnostics::report(faultOfFile(
+        "entity-file", file, "entity files cannot be read by this build: \"" + myPath.combine(file).native() + '"'));
     return nullptr;
 }
 
@@ -173,7 +193,7 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& fil
     if (!open)
     {
         char const* const reason = std::strerror(errno);
-        AxDiagnostic fault = axFault("cannot-open", file, reason);
+        AxDiagnostic fault = faultOfFile("cannot-open", file, "cannot open \"" + file.native() + "\": " + reason);
         for (AxFilename const& directory : searched)
         {
             fault.hint += (fault.hint.empty() ? "searched " : ", ") + directory.native();
@@ -182,13 +202,15 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& fil
                                     axFormat("Could not open parameter file %s: %s\n", file.c_str(), reason));
         return nullptr;
     }
-    myReading = found;
+    myReading->file = found;
     AxSourceScope const scope(found);
     AxZedObjectParameters* const record = readParameterEntry(open.get(), AxEnvironmentPtr(), nullptr);
     if (record != nullptr && record->invalid())
     {
-        AxDiagnostics::reportStated(axFault("invalid-record", found, "the record is not complete"),
-                                    axFormat("Parameters are invalid for %s\n", file.c_str()));
+        // Dropped where the text's end cut the record off, which was told.
+        AxDiagnostics::reportStated(
+            axFaultAt("invalid-record", myReading->line, myReading->column, "the record is not complete"),
+            axFormat("Parameters are invalid for %s\n", file.c_str()));
     }
     return record;
 }
@@ -196,7 +218,7 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& fil
 AxZedObjectParameters* AxSxpParameterDbEntry::readParameterEntry(std::FILE* file, AxEnvironmentPtr const& env,
                                                                  AxEnvValuePtr* value)
 {
-    AxFilename const& name = myReading.isNull() ? myFilename : myReading;
+    AxFilename const& name = myReading != nullptr ? myReading->file : myFilename;
     AxExtFileInputStream stream(file, name);
     if (!stream.isValid())
     {
@@ -206,9 +228,14 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readParameterEntry(std::FILE* file
     }
     try
     {
-        AxZedObjectParameters* const record = readRecord(stream, env, value);
         std::uint32_t line = 0;
         std::uint32_t column = 0;
+        if (myReading != nullptr && axTextFollows(stream, line, column))
+        {
+            myReading->line = line;
+            myReading->column = column;
+        }
+        AxZedObjectParameters* const record = readRecord(stream, env, value);
         if (record && axTextFollows(stream, line, column))
         {
             AxDiagnostics::report(
@@ -228,9 +255,9 @@ struct AxSxpParameterDbEntry::Sources
 {
     explicit Sources(AxSxpParameterDbEntry const& entry)
     {
-        if (!entry.myReading.isNull())
+        if (entry.myReading != nullptr)
         {
-            files.push_back(entry.myReading.directory());
+            files.push_back(entry.myReading->file.directory());
         }
         files.insert(files.end(), entry.mySearchPaths.begin(), entry.mySearchPaths.end());
         if (!entry.myPath.isNull())
@@ -255,8 +282,6 @@ struct AxSxpParameterDbEntry::Sources
 AxZedObjectParameters* AxSxpParameterDbEntry::readRecord(AxlInputStream& stream, AxEnvironmentPtr const& env,
                                                          AxEnvValuePtr* value)
 {
-    auto const reportUnclosed = [](std::uint32_t line, std::uint32_t column)
-    { AxDiagnostics::report(axFaultAt("unclosed-list", line, column, "the list is not closed")); };
     AxTextReader reader(stream);
     std::string_view const type = reader.peekType("parameter-type");
     AxZedObjectParameterFactory const* const records = AxZedObjectParameters::factory();
@@ -274,11 +299,7 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readRecord(AxlInputStream& stream,
         if (reader.readObject(*record, sources.files, sources.bindings))
         {
             reader.finish();
-            if (reader.unclosed())
-            {
-                reportUnclosed(reader.unclosedLine(), reader.unclosedColumn());
-                record->setInvalid(true);
-            }
+            record->setInvalid(record->invalid() || reader.unclosed());
             return record.release();
         }
     }
@@ -290,10 +311,7 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readRecord(AxlInputStream& stream,
         AxDiagnostics::report(axFaultAt("empty-file", 1, 1, "expected a record, found an empty file"));
         return nullptr;
     }
-    if (result.unclosed)
-    {
-        reportUnclosed(result.line, result.column);
-    }
+    result.reportUnclosed();
     AxZedObjectParameters* const record = loadParameters(result.expr, env, value);
     if (record && result.unclosed)
     {
@@ -331,7 +349,8 @@ AxZedObjectParameters* AxSxpParameterDbEntry::hold(AxZedObjectParameters* record
     if (!(freshType == heldType))
     {
         AxDiagnostics::reportStated(
-            axFault("other-type", myReading, "the record is a " + freshType.string()),
+            axFault("other-type", myReading->file,
+                    "expected a record of type " + heldType.string() + ", found " + freshType.string()),
             axFormat("Cannot load different parameter %s type from file into existing type %s\n", freshType.c_str(),
                      heldType.c_str()));
         return nullptr;

@@ -13,6 +13,8 @@
 
 namespace
 {
+constexpr int theNewestVersion = 101;
+
 AxSymbolString bindingsWord()
 {
     static AxSymbolString const word("variable-bindings");
@@ -24,13 +26,14 @@ bool definesVariables(AxlObj const* item)
     return item->car()->text() == bindingsWord().view();
 }
 
-/// Reads the file's items one by one up to the version, so that what is wrong behind it is said once, by the load.
-void readVersion(AxlInputStream& stream, AxDummyParameterDb& db)
+/// Reads the file's items one by one up to the version, so that what is wrong behind it is said once, by the load. The
+/// stream stands at line and column, which are settled when it was told there, or at the version, that there is none.
+void readVersion(AxlInputStream& stream, AxDummyParameterDb& db, std::uint32_t line, std::uint32_t column)
 {
-    std::uint32_t const line = static_cast<std::uint32_t>(stream.lineCount());
-    std::uint32_t const column = stream.column();
     if (stream.peekc() != '(')
     {
+        db.getSelf(AxcRead(stream), AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
+        AxSourceScope::settle(line, column);
         return;
     }
     stream.fgetc();
@@ -43,15 +46,29 @@ void readVersion(AxlInputStream& stream, AxDummyParameterDb& db)
             return;
         }
         AxlObjPtr const item = AxcRead(stream);
-        bool const isVersion = item->car()->text() == "version" && item->cdr()->car()->isInteger();
-        if (isVersion)
+        AxlObj const* const value = item->cdr()->car();
+        if (item->car()->text() != "version" || value->isReference())
         {
-            db.getSelf(AxcCons(AxcSymbol("parameter-database"), AxcCons(item, axcNil())),
-                       AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
-            return;
+            continue;
         }
+        db.getSelf(AxcCons(AxcSymbol("parameter-database"), AxcCons(item, axcNil())), AxReaderWriter::nullFilenames(),
+                   AxReaderWriter::nullVariableReference());
+        if (!db.versionSpecified())
+        {
+            AxSourceScope::settle(value->line() != 0 ? value->line() : item->line(),
+                                  value->line() != 0 ? value->column() : item->column());
+            AxSourceScope::settle(line, column);
+        }
+        else if (db.version() > theNewestVersion)
+        {
+            AxDiagnostics::report(axFaultAt("newer-version", value->line(), value->column(),
+                                            "version " + std::to_string(db.version()) + " is newer than " +
+                                                std::to_string(theNewestVersion),
+                                            AxSeverity::Warning));
+        }
+        return;
     }
-    throw AxlSyntaxError("unclosed-list", "the list is not closed", line, column);
+    throw AxlSyntaxError::unclosedList(line, column);
 }
 
 bool readVersion(AxFilename const& file, std::FILE* open, int& version)
@@ -69,12 +86,13 @@ bool readVersion(AxFilename const& file, std::FILE* open, int& version)
     std::uint32_t column = 0;
     if (!axTextFollows(stream, line, column))
     {
-        AxDiagnostics::reportStated(axFaultAt("empty-file", 1, 1, "the file is empty"),
-                                    "AxSxpParameterDbFileData::isSxpParameterDbData() : empty parameter file\n");
+        AxDiagnostics::reportStated(
+            axFaultAt("empty-file", 1, 1, "expected (parameter-database ...), found an empty file"),
+            "AxSxpParameterDbFileData::isSxpParameterDbData() : empty parameter file\n");
         return false;
     }
     AxDummyParameterDb db("parameter-database", nullptr);
-    readVersion(stream, db);
+    readVersion(stream, db, line, column);
     if (db.versionSpecified())
     {
         version = db.version();
@@ -104,12 +122,10 @@ struct AxSxpParameterDbFileData::Entry : AxTypeEntry<AxSxpParameterDbFileData>
             {
                 return false;
             }
-            AxRwVariableBindings& known = static_cast<AxSxpParameterDbFileData&>(rw).myVariableBindings;
-            AxRwVariableBindings defined;
-            defined.getSelf(AxlObjPtr(item), nullFilenames(), bindings);
-            known.addAllFrom(defined);
-            bindings.remove(&known);
-            bindings.push_front(&known);
+            auto& data = static_cast<AxSxpParameterDbFileData&>(rw);
+            data.takeVariables(item, nullFilenames(), bindings);
+            bindings.remove(&data.myVariableBindings);
+            bindings.push_front(&data.myVariableBindings);
             return true;
         };
         return ops;
@@ -140,6 +156,22 @@ void AxSxpParameterDbFileData::setVersion(int version)
     myVersion.setValueSpecified(true, false);
 }
 
+void AxSxpParameterDbFileData::takeVariables(AxlObj const* item, AxFilenameList const& files,
+                                             AxBindingsList const& bindings)
+{
+    AxRwVariableBindings defined;
+    defined.getSelf(AxlObjPtr(item), files, bindings);
+    myVariableBindings.addAllFrom(defined);
+    for (AxlObj const* rest = item->cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        if (rest->car()->car()->text() == "data-root")
+        {
+            myDataRootLine = rest->car()->line();
+            myDataRootColumn = rest->car()->column();
+        }
+    }
+}
+
 void AxSxpParameterDbFileData::getSelf(AxlObjPtr const& expression, AxFilenameList const& files,
                                        AxBindingsList const& bindings)
 {
@@ -152,9 +184,7 @@ void AxSxpParameterDbFileData::getSelf(AxlObjPtr const& expression, AxFilenameLi
             others.push_back(rest->car());
             continue;
         }
-        AxRwVariableBindings defined;
-        defined.getSelf(AxlObjPtr(rest->car()), files, bindings);
-        myVariableBindings.addAllFrom(defined);
+        takeVariables(rest->car(), files, bindings);
     }
     if (myVariableBindings.empty())
     {
@@ -189,7 +219,7 @@ bool AxSxpParameterDbFileData::getVersion(AxFilename const& file, int& version)
     {
         char const* const reason = std::strerror(errno);
         AxDiagnostics::reportStated(
-            axFault("cannot-open", file, reason),
+            axFault("cannot-open", file, std::string("cannot open the file: ") + reason),
             axFormat("AxSxpParameterDbFileData::getVersionNumber() : Could not open parameter database file %s: %s\n",
                      file.native().c_str(), reason));
         return false;

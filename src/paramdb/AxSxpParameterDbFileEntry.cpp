@@ -14,6 +14,12 @@ void AxSxpParameterDbFileEntry::setFilename(AxFilename const& file)
     myFilename.setValueSpecified(true, false);
 }
 
+void AxSxpParameterDbFileEntry::setPlace(unsigned line, unsigned column)
+{
+    myLine = line;
+    myColumn = column;
+}
+
 bool AxSxpParameterDbFileEntry::isReadable() const
 {
     if (!myObjectType.valueSpecified())

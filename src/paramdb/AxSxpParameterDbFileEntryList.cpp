@@ -27,17 +27,19 @@ struct AxSxpParameterDbFileEntryList::Entry : AxTypeEntry<AxSxpParameterDbFileEn
             }
             auto& list = static_cast<AxSxpParameterDbFileEntryList&>(rw);
             char const* const begin = reader.place();
+            std::uint32_t line = 0;
+            std::uint32_t column = 0;
+            reader.locate(begin, line, column);
             auto entry = std::make_unique<AxSxpParameterDbFileEntry>(word, nullptr);
+            entry->setPlace(line, column);
             reader.read(*entry, files, bindings);
-            if (entry->isReadable())
+            bool const isCutOff = reader.unclosed() && entry->filename().isNull();
+            if (entry->isReadable() && !isCutOff)
             {
                 list.AxRwList::add(entry.release());
             }
             else
             {
-                std::uint32_t line = 0;
-                std::uint32_t column = 0;
-                reader.locate(begin, line, column);
                 list.leaveOut(reader.cellsSince(begin).get(), line, column);
             }
             return true;
@@ -62,6 +64,7 @@ AxlObjPtr AxSxpParameterDbFileEntryList::getData(AxlObjPtr const& item, AxFilena
         return item;
     }
     auto entry = std::make_unique<AxSxpParameterDbFileEntry>("parameter-entry", nullptr);
+    entry->setPlace(item->line(), item->column());
     entry->getSelf(item, files, bindings);
     if (entry->isReadable())
     {
@@ -74,8 +77,16 @@ AxlObjPtr AxSxpParameterDbFileEntryList::getData(AxlObjPtr const& item, AxFilena
 
 void AxSxpParameterDbFileEntryList::leaveOut(AxlObj const* item, unsigned line, unsigned column)
 {
-    AxDiagnostics::report(axFaultAt("unreadable-entry", line, column,
-                                    "the entry has no readable object type or file name and is left out"));
+    AxlObj const* rest = item->cdr();
+    while (rest->isPair() && rest->car()->car()->text() != "object-type")
+    {
+        rest = rest->cdr();
+    }
+    if (!rest->isPair()) // else it was told what is wrong with the type or the file name
+    {
+        AxDiagnostics::report(
+            axFaultAt("unreadable-entry", line, column, "expected (object-type ...) in the entry, which is left out"));
+    }
     keep(item);
 }
 

@@ -23,7 +23,6 @@
 
 namespace
 {
-constexpr int theCurrentVersion = 101;
 /// From this version on names are relative to the data root rather than to the application.
 constexpr int theFirstVersionWithDataRoot = 100;
 
@@ -49,16 +48,10 @@ AxlObjPtr readExpression(AxlInputStream& stream)
     {
         return axcNil();
     }
-    if (result.unclosed)
+    result.reportUnclosed();
+    if (result.expr->isPair())
     {
-        AxDiagnostics::report(axFaultAt("unclosed-list", result.line, result.column, "the list is not closed"));
-    }
-    std::uint32_t line = 0;
-    std::uint32_t column = 0;
-    if (axTextFollows(stream, line, column))
-    {
-        AxDiagnostics::report(
-            axFaultAt("text-follows", line, column, "the text behind the first list is not read", AxSeverity::Warning));
+        reportTextBehind(stream);
     }
     return result.expr;
 }
@@ -78,11 +71,6 @@ void readData(AxlInputStream& stream, AxSxpParameterDbFileData& data, AxFilename
         return;
     }
     reader.finish();
-    if (reader.unclosed())
-    {
-        AxDiagnostics::report(
-            axFaultAt("unclosed-list", reader.unclosedLine(), reader.unclosedColumn(), "the list is not closed"));
-    }
     reportTextBehind(stream);
 }
 } // namespace
@@ -103,6 +91,7 @@ bool AxSxpParameterDbReader::loadParameterDb(AxFilename const& file, AxSxpParame
     }
     AxInfo("Loading parameter database file %s . . .\n", file.c_str());
     db->clearDependentParameterFileToCopyPairs();
+    AxSourceScope const scope(file); // what the version step tells of a place is not told again
     int version = 0;
     if (!AxSxpParameterDbFileData::getVersion(file, version))
     {
@@ -123,6 +112,7 @@ bool AxSxpParameterDbReader::loadData(AxFilename const& file, int version, AxSxp
                                       AxSxpParameterDb& db)
 {
     AxFilename dataRoot;
+    myDatabaseFile = boost::make_shared<AxFilename const>(file);
     myDatabaseDirectory = axDirectoryOf(file);
     if (!load(file, &data, dataRoot))
     {
@@ -131,11 +121,6 @@ bool AxSxpParameterDbReader::loadData(AxFilename const& file, int version, AxSxp
     if (!data.versionSpecified())
     {
         data.setVersion(version);
-    }
-    if (version > theCurrentVersion)
-    {
-        AxDiagnostics::report(axFault(
-            "newer-version", file, "version " + std::to_string(version) + " is newer than 101", AxSeverity::Warning));
     }
     AxFilename const basePath = version < theFirstVersionWithDataRoot ? AxReaderWriter::appPath() : dataRoot;
     return putFileDataInParameterDb(data, basePath, &db);
@@ -153,7 +138,7 @@ bool AxSxpParameterDbReader::load(AxFilename const& file, AxSxpParameterDbFileDa
     if (!stream)
     {
         char const* const reason = std::strerror(errno);
-        AxDiagnostics::reportStated(axFault("cannot-open", file, reason),
+        AxDiagnostics::reportStated(axFault("cannot-open", file, std::string("cannot open the file: ") + reason),
                                     axFormat("Could not open parameter database file %s: %s\n", file.c_str(), reason));
         return false;
     }
@@ -206,14 +191,15 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
     return true;
 }
 
-void AxSxpParameterDbReader::addEntityFiles(AxFilename const& dataRoot, AxSxpParameterDbFileData&)
+void AxSxpParameterDbReader::addEntityFiles(AxFilename const& dataRoot, AxSxpParameterDbFileData& data)
 {
     std::vector<AxFilename> const entities = AxReaderWriterFile::findFilesByExtension(dataRoot, ".entity");
     if (!entities.empty())
     {
-        AxDiagnostics::report(axFault("entity-file", entities.front(),
-                                      "entity files cannot be read by this build; " + std::to_string(entities.size()) +
-                                          " below " + dataRoot.native() + " left out"));
+        AxDiagnostics::report(axFaultAt("entity-file", data.dataRootLine(), data.dataRootColumn(),
+                                        "entity files cannot be read by this build; " +
+                                            std::to_string(entities.size()) + " left out, the first is \"" +
+                                            entities.front().native() + '"'));
     }
 }
 
@@ -243,6 +229,7 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
         entry->setVariableBindings(shared);
         entry->setSearchPaths(db->searchPaths());
         entry->setDatabaseDirectory(myDatabaseDirectory);
+        entry->setPlace(myDatabaseFile, fileEntry->line(), fileEntry->column());
         if (fileEntry->hasMoreThanItsValues())
         {
             entry->setFileEntry(*fileEntry);
@@ -295,7 +282,7 @@ bool AxSxpParameterDbReader::load(AxFilename const& file, AxZedObjectParametersL
     if (!stream)
     {
         char const* const reason = std::strerror(errno);
-        AxDiagnostics::reportStated(axFault("cannot-open", file, reason),
+        AxDiagnostics::reportStated(axFault("cannot-open", file, std::string("cannot open the file: ") + reason),
                                     axFormat("Could not open parameter database file %s: %s\n", file.c_str(), reason));
         return false;
     }

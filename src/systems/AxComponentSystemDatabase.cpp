@@ -23,17 +23,6 @@ static void reportParseFailure(AxFilename const& file, AxDiagnostic fault)
                                 "AxReaderWriterFile::getSelf failed while parsing " + file.string().string() + '\n');
 }
 
-static AxDiagnostic unclosedList(AxFilename const& file, AxlReadResult const& read)
-{
-    AxDiagnostic fault;
-    fault.code = "unclosed-list";
-    fault.file = file.string().string();
-    fault.line = read.line;
-    fault.column = read.column;
-    fault.text = "this list is not closed";
-    return fault;
-}
-
 static void reportTextAfterEnd(AxlInputStream& stream)
 {
     AxDiagnostic fault;
@@ -58,7 +47,8 @@ static void readDefinition(AxComponentSystemDefinition& definition, AxFilename c
         AxlReadResult const read = AxcRead(stream, AxlEnv(), options);
         if (read.unclosed)
         {
-            reportParseFailure(file, unclosedList(file, read));
+            reportParseFailure(file, AxlSyntaxError::unclosedList(read.line, read.column).diagnostic());
+            read.settleCutOff();
         }
         if (!read.expr->isEof())
         {

@@ -54,6 +54,11 @@ Findings::~Findings()
 void Findings::add(AxDiagnostic diagnostic)
 {
     diagnostic.file = shownPath(diagnostic.file);
+    if (diagnostic.line == 0 && !diagnostic.file.empty())
+    {
+        diagnostic.line = 1;
+        diagnostic.column = 1;
+    }
     if (myPrint == Print::AtOnce)
     {
         std::fprintf(stderr, "%s\n", diagnostic.format().c_str());
@@ -68,7 +73,7 @@ void Findings::takeWarning(std::string const& line)
         return;
     }
     std::string const file = shownPath(AxSourceScope::currentFile().native());
-    if (std::exchange(myConsequenceMayFollow, false))
+    if (myConsequenceMayFollow)
     {
         std::string const& last = myFindings.back().file;
         if (!last.empty() && (last == file || names(line, last)))

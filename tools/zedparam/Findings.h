@@ -11,7 +11,8 @@
 class JsonWriter;
 
 /// Takes what the library reports for as long as it lives. A warning that comes without a place is a finding as well,
-/// unless it is the next after a finding and about the same file: then it tells the consequence.
+/// unless it comes after a finding, without another between them, and is about the same file: then it tells the
+/// consequence. What is told of a whole file stands at its beginning.
 class Findings
 {
 public:

@@ -45,10 +45,10 @@ public:
     static Sink setSink(Sink sink);
 
     /// To the sink, and as one line on AxWarn (on AxInfo for severity Info). A finding without a file gets that of the
-    /// innermost AxSourceScope.
+    /// innermost AxSourceScope. Nothing happens for a place that is settled there.
     static void report(AxDiagnostic diagnostic);
 
     /// For a failure that has its own fixed text: to the sink, its located line to AxInfo, and then exactly
-    /// `statedLine` on AxWarn.
+    /// `statedLine` on AxWarn, which is due even where the place is settled.
     static void reportStated(AxDiagnostic diagnostic, std::string const& statedLine);
 };

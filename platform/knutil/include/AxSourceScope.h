@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string_view>
+#include <utility>
+#include <vector>
+
 #include "AxExport.h"
 #include "AxFilename.h"
 
@@ -16,7 +20,13 @@ public:
     /// The file of the innermost scope; the null name outside of all.
     static AxFilename const& currentFile();
 
+    /// Says that what was told of this place of the current file is enough: findings there are dropped until the
+    /// outermost scope of that file ends.
+    static void settle(unsigned line, unsigned column);
+    static bool isSettled(std::string_view file, unsigned line, unsigned column);
+
 private:
     AxFilename myFile;
-    AxSourceScope const* myOuter;
+    AxSourceScope* myOuter;
+    std::vector<std::pair<unsigned, unsigned>> mySettled; // lines and columns
 };

@@ -28,11 +28,16 @@ std::shared_ptr<AxDiagnostics::Sink const>& currentSink()
     return sink;
 }
 
-void deliver(AxDiagnostic& diagnostic)
+/// False, with nothing done, for a place of which all is told.
+bool deliver(AxDiagnostic& diagnostic)
 {
     if (diagnostic.file.empty())
     {
         diagnostic.file = AxSourceScope::currentFile().native();
+    }
+    if (AxSourceScope::isSettled(diagnostic.file, diagnostic.line, diagnostic.column))
+    {
+        return false;
     }
     if (std::shared_ptr<AxDiagnostics::Sink const> const sink = currentSink())
     {
@@ -44,6 +49,7 @@ void deliver(AxDiagnostic& diagnostic)
         {
         }
     }
+    return true;
 }
 } // namespace
 
@@ -93,9 +99,8 @@ void AxDiagnostics::report(AxDiagnostic diagnostic)
 {
     try
     {
-        deliver(diagnostic);
         AxLogStream& stream = diagnostic.severity == AxSeverity::Info ? AxInfo : AxWarn;
-        if (stream.isActive())
+        if (deliver(diagnostic) && stream.isActive())
         {
             stream << diagnostic.format() << AxEndl;
         }
@@ -109,8 +114,7 @@ void AxDiagnostics::reportStated(AxDiagnostic diagnostic, std::string const& sta
 {
     try
     {
-        deliver(diagnostic);
-        if (AxInfo.isActive())
+        if (deliver(diagnostic) && AxInfo.isActive())
         {
             AxInfo << diagnostic.format() << AxEndl;
         }

@@ -1,10 +1,11 @@
 #include "AxSourceScope.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace
 {
-AxSourceScope const* theInnermost = nullptr;
+AxSourceScope* theInnermost = nullptr;
 } // namespace
 
 AxSourceScope::AxSourceScope(AxFilename file) : myFile(std::move(file)), myOuter(std::exchange(theInnermost, this)) {}
@@ -17,4 +18,30 @@ AxSourceScope::~AxSourceScope()
 AxFilename const& AxSourceScope::currentFile()
 {
     return theInnermost != nullptr ? theInnermost->myFile : AxFilename::nullFilename();
+}
+
+void AxSourceScope::settle(unsigned line, unsigned column)
+{
+    AxSourceScope* outermost = theInnermost;
+    for (AxSourceScope* scope = theInnermost; scope != nullptr; scope = scope->myOuter)
+    {
+        outermost = scope->myFile == theInnermost->myFile ? scope : outermost;
+    }
+    if (outermost != nullptr)
+    {
+        outermost->mySettled.emplace_back(line, column);
+    }
+}
+
+bool AxSourceScope::isSettled(std::string_view file, unsigned line, unsigned column)
+{
+    for (AxSourceScope const* scope = theInnermost; scope != nullptr; scope = scope->myOuter)
+    {
+        if (std::ranges::find(scope->mySettled, std::pair(line, column)) != scope->mySettled.end() &&
+            scope->myFile.native() == file)
+        {
+            return true;
+        }
+    }
+    return false;
 }

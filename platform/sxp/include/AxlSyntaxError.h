@@ -18,6 +18,9 @@ public:
     AxlSyntaxError& operator=(AxlSyntaxError const&) = delete;
     ~AxlSyntaxError() override;
 
+    /// For a text that ends inside the list that begins here.
+    static AxlSyntaxError unclosedList(std::uint32_t line, std::uint32_t column);
+
     char const* what() const noexcept override { return myText.c_str(); }
     /// "unclosed-list", "unclosed-string", "stray-parenthesis", "control-byte", "nesting-limit" or "token-limit".
     char const* code() const { return myCode; }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "AxDiagnostic.h"
 #include "AxLimits.h"
 #include "AxlCellPool.h"
 #include "AxlScanner.h"
@@ -127,7 +128,7 @@ private:
         Place innermost = myLists[myDepth - 1].place;
         if (!closeOpenLists)
         {
-            fail("unclosed-list", "list is not closed", innermost);
+            throw AxlSyntaxError::unclosedList(innermost.line, innermost.column);
         }
         AxlObj const* cell = close();
         while (myDepth != 0)
@@ -165,4 +166,33 @@ bool axTextFollows(AxlInputStream& stream, std::uint32_t& line, std::uint32_t& c
         column = scanner.place().column;
     }
     return follows;
+}
+
+void AxlReadResult::settleCutOff() const
+{
+    AxlObj const* list = unclosed ? expr.get() : AxlObj::nilCell();
+    while (list->line() != 0)
+    {
+        AxSourceScope::settle(list->line(), list->column());
+        bool const isInnermost = list->line() == line && list->column() == column;
+        AxlObj const* last = AxlObj::nilCell();
+        for (; list->isPair(); list = list->cdr())
+        {
+            last = list->car();
+            if (isInnermost && !last->isPair() && !last->nil())
+            {
+                AxSourceScope::settle(last->line(), last->column());
+            }
+        }
+        list = isInnermost ? AxlObj::nilCell() : last;
+    }
+}
+
+void AxlReadResult::reportUnclosed() const
+{
+    if (unclosed)
+    {
+        AxDiagnostics::report(AxlSyntaxError::unclosedList(line, column).diagnostic());
+        settleCutOff();
+    }
 }

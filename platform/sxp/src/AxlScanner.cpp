@@ -2,7 +2,6 @@
 
 #include <cstring>
 
-#include "AxDiagnostic.h"
 #include "AxLimits.h"
 #include "AxNumberText.h"
 #include "AxlSyntaxError.h"
@@ -49,7 +48,9 @@ void AxlScanner::scanString()
         else if (*byte == '\0' && byte == myEnd)
         {
             myNext = myEnd;
-            throw AxlSyntaxError("unclosed-string", "string is not closed", place().line, place().column);
+            throw AxlSyntaxError("unclosed-string",
+                                 "the string is not closed, expected '\"' before the end of the text", place().line,
+                                 place().column);
         }
     }
     myText = {begin, static_cast<std::size_t>(byte - begin)};
@@ -82,14 +83,7 @@ bool AxlScanner::readSlowly()
 {
     if (!axParseReal(myText, myNumber))
     {
-        AxDiagnostic diagnostic;
-        diagnostic.severity = AxSeverity::Warning;
-        diagnostic.code = "number-range";
-        diagnostic.line = place().line;
-        diagnostic.column = place().column;
-        diagnostic.text = "number " + std::string(myText.substr(0, 80)) + " is beyond the range of a double";
-        AxDiagnostics::report(std::move(diagnostic));
-        return false;
+        return false; // beyond the range of a double; whoever expects a number says so
     }
     myIsInteger = myText.find_first_of(".e") == std::string_view::npos;
     std::string usual;

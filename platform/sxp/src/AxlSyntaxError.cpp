@@ -12,6 +12,11 @@ AxlSyntaxError::AxlSyntaxError(char const* code, std::string text, std::uint32_t
 AxlSyntaxError::AxlSyntaxError(AxlSyntaxError const&) = default;
 AxlSyntaxError::~AxlSyntaxError() = default;
 
+AxlSyntaxError AxlSyntaxError::unclosedList(std::uint32_t line, std::uint32_t column)
+{
+    return {"unclosed-list", "the list is not closed, expected \")\" before the end of the text", line, column};
+}
+
 AxDiagnostic AxlSyntaxError::diagnostic() const
 {
     AxDiagnostic diagnostic;

@@ -22,8 +22,8 @@ public:
 
     /// Where reading goes on, for `cellsSince`.
     char const* place() const { return myAt; }
-    /// Line and column of a place that was read, from 1.
-    void locate(char const* place, std::uint32_t& line, std::uint32_t& column) const;
+    /// Line and column of a place that was read, from 1. Places that are asked for in their order cost one pass.
+    void locate(char const* place, std::uint32_t& line, std::uint32_t& column);
     /// What was read since `place`, one list, as cells that know no file place of their own.
     AxlObjPtr cellsSince(char const* place) const;
     /// Puts the stream behind what was read.
@@ -36,10 +36,8 @@ public:
     /// With `head`, only of an item of that head.
     std::string_view peekType(std::string_view head = {});
 
-    /// True when the text ended inside a list; the innermost one that was open began at line and column.
+    /// True when the text ended inside a list. That was reported, and what follows from it is not.
     bool unclosed() const { return myUnclosed; }
-    std::uint32_t unclosedLine() const { return myLine; }
-    std::uint32_t unclosedColumn() const { return myColumn; }
 
 private:
     void readItems(AxReaderWriter& rw, char const* open, AxFilenameList const& files, AxBindingsList const& bindings);
@@ -60,6 +58,6 @@ private:
     char const* myEnd; // a zero byte
     char const* myAt;
     bool myUnclosed = false;
-    std::uint32_t myLine = 0;
-    std::uint32_t myColumn = 0;
+    char const* myLineStart; // of the line located last
+    std::uint32_t myLine = 1;
 };

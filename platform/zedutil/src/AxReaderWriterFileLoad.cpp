@@ -185,6 +185,7 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
                                       "too many files name each other: " + AxFileChain::path(search.found)));
         return false;
     }
+    std::string const namedIn = AxSourceScope::currentFile().native();
     AxFileChain const chain(search.found, search.identity);
     AxSourceScope const source(search.found);
     AxlObjPtr cells;
@@ -192,8 +193,10 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
     {
         if (!axReadFileCells(search.found, search.identity, cells))
         {
-            AxDiagnostics::report(faultAt(AxlObj::nilCell(), AxSeverity::Warning, "missing-file",
-                                          "cannot read \"" + file.string().string() + "\": " + std::strerror(errno)));
+            AxDiagnostic fault = faultAt(place, AxSeverity::Warning, "missing-file",
+                                         "cannot read \"" + file.string().string() + "\": " + std::strerror(errno));
+            fault.file = namedIn;
+            AxDiagnostics::report(std::move(fault));
             return false;
         }
     }
@@ -205,8 +208,11 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
     myContent->found = search.found;
     if (cells->isEof())
     {
-        reportParseFailure(search.found, faultAt(cells.get(), AxSeverity::Error, "empty-text",
-                                                 "expected a list (name item...), found the end of the text"));
+        AxDiagnostic empty = faultAt(cells.get(), AxSeverity::Error, "empty-text",
+                                     "expected a list (name item...), found the end of the text");
+        empty.line = 1;
+        empty.column = 1;
+        reportParseFailure(search.found, std::move(empty));
         return false;
     }
     AxFilenameList directories = files;

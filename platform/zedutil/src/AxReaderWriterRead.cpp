@@ -1,4 +1,5 @@
 #include "AxDiagnostic.h"
+#include "AxNumberText.h"
 #include "AxReadFrame.h"
 #include "AxReaderWriter.h"
 #include "AxReaderWriterFactory.h"
@@ -275,12 +276,15 @@ void AxReaderWriter::reject(AxlObj const* items, std::string const& expected)
     AxlObj const* const cell = items->tag() == AxlObj::Tag::Pair ? items->car() : items;
     std::string now;
     putData(now, 0);
-    std::string text = '"' + name().string().string() + "\" expects " + expected + ", found " + found(cell);
+    bool const isOutOfRange = cell->isSymbol() && axIsNumber(cell->text());
+    std::string text = '"' + name().string().string() + "\" expects " + expected + ", found " + found(cell) +
+                       (isOutOfRange ? ", beyond the range of a double" : "");
     if (!now.empty())
     {
         text += "; " + now + " stays";
     }
-    AxDiagnostics::report(diagnostic(AxSeverity::Error, "wrong-kind", cell, std::move(text)));
+    AxDiagnostics::report(
+        diagnostic(AxSeverity::Error, isOutOfRange ? "number-range" : "wrong-kind", cell, std::move(text)));
 }
 
 AxlObjPtr AxReaderWriter::getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const&)
@@ -323,9 +327,6 @@ bool AxReaderWriter::readText(std::string_view text, AxFilename const& sourceNam
         if (reader.unclosed())
         {
             setFlag(Invalid, true);
-            AxDiagnostics::report(
-                AxlSyntaxError("unclosed-list", "list is never closed", reader.unclosedLine(), reader.unclosedColumn())
-                    .diagnostic());
         }
         return !invalid();
     }

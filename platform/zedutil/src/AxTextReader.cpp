@@ -102,7 +102,8 @@ AxTextReader::AxTextReader(AxlInputStream& stream)
     : myStream(stream),
       myBegin(stream.text().data()),
       myEnd(myBegin + stream.text().size()),
-      myAt(myBegin + stream.position())
+      myAt(myBegin + stream.position()),
+      myLineStart(myBegin)
 {
 }
 
@@ -169,34 +170,38 @@ AxlObjPtr AxTextReader::cellsAt(char const* from)
     options.closeOpenLists = true;
     AxlReadResult const result = AxcRead(myStream, AxlEnv(), options);
     myAt = myBegin + myStream.position();
-    if (result.unclosed && !myUnclosed)
-    {
-        myUnclosed = true;
-        myLine = result.line;
-        myColumn = result.column;
-    }
+    myUnclosed = myUnclosed || result.unclosed;
+    result.reportUnclosed();
     return result.expr;
 }
 
-void AxTextReader::locate(char const* place, std::uint32_t& line, std::uint32_t& column) const
+void AxTextReader::locate(char const* place, std::uint32_t& line, std::uint32_t& column)
 {
-    auto const newlines = std::count(static_cast<char const*>(myBegin), place, '\n');
-    char const* start = place;
-    while (start != myBegin && start[-1] != '\n')
+    if (place < myLineStart)
     {
-        --start;
+        myLineStart = myBegin;
+        myLine = 1;
     }
-    line = static_cast<std::uint32_t>(newlines) + 1;
-    column = static_cast<std::uint32_t>(place - start) + 1;
+    while (void const* newline = std::memchr(myLineStart, '\n', static_cast<std::size_t>(place - myLineStart)))
+    {
+        myLineStart = static_cast<char const*>(newline) + 1;
+        ++myLine;
+    }
+    line = myLine;
+    column = static_cast<std::uint32_t>(place - myLineStart) + 1;
 }
 
 void AxTextReader::noteUnclosed(char const* open)
 {
+    std::uint32_t line = 0;
+    std::uint32_t column = 0;
+    locate(open, line, column);
     if (!myUnclosed)
     {
         myUnclosed = true;
-        locate(open, myLine, myColumn);
+        AxDiagnostics::report(AxlSyntaxError::unclosedList(line, column).diagnostic());
     }
+    AxSourceScope::settle(line, column);
 }
 
 std::string_view AxTextReader::peekHead()

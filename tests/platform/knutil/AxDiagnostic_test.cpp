@@ -66,6 +66,22 @@ TEST(AxDiagnostics, FillsInTheFileThatIsBeingRead)
     EXPECT_EQ(warnings.text(), "b.ope:1: error: inner\na.opd: error: outer\n");
 }
 
+TEST(AxDiagnostics, DropsWhatIsFoundAtASettledPlaceButForStatedTexts)
+{
+    AxSinkScope warnings(AxWarn);
+    AxSourceScope const outer(AxFilename("a.opd"));
+    {
+        AxSourceScope const inner(AxFilename("b.ope"));
+        AxSourceScope const again(AxFilename("a.opd"));
+        AxSourceScope::settle(2, 5);
+        AxDiagnostics::report({.file = "b.ope", .line = 2, .column = 5, .text = "of another file"});
+    }
+    AxDiagnostics::report({.line = 2, .column = 5, .text = "dropped"});
+    AxDiagnostics::reportStated({.line = 2, .column = 5, .text = "dropped"}, "stated\n");
+    AxDiagnostics::report({.line = 2, .column = 6, .text = "beside"});
+    EXPECT_EQ(warnings.text(), "b.ope:2:5: error: of another file\nstated\na.opd:2:6: error: beside\n");
+}
+
 TEST(AxDiagnostics, SurvivesASinkThatThrows)
 {
     AxSinkScope warnings(AxWarn);

@@ -110,14 +110,11 @@ TEST(AxcRead, ReadsEveryDecimalToTheNearestDouble)
     }
 }
 
-TEST(AxcRead, ReportsANumberBeyondRangeAndKeepsItAsSymbol)
+TEST(AxcRead, KeepsANumberBeyondRangeAsSymbol)
 {
-    AxSinkScope warnings(AxWarn);
     AxlObjPtr cell = read("(mass\n 1e999)");
     EXPECT_EQ(AxcCadr(cell)->tag(), AxlObj::Tag::Symbol);
     EXPECT_EQ(printed(cell), "(mass 1e999)");
-    EXPECT_NE(warnings.text().find("2:2: "), std::string::npos) << warnings.text();
-    EXPECT_NE(warnings.text().find("[number-range]"), std::string::npos) << warnings.text();
 }
 
 TEST(AxcRead, ReadsStringsByteForByte)
@@ -191,12 +188,15 @@ TEST(AxcRead, MarksReferences)
 
 TEST(AxcRead, NamesThePlaceOfEverySyntaxError)
 {
-    EXPECT_EQ(errorOf("(a\n  (b c"), "2:3 unclosed-list list is not closed");
+    EXPECT_EQ(errorOf("(a\n  (b c"),
+              "2:3 unclosed-list the list is not closed, expected \")\" before the end of the text");
     EXPECT_EQ(errorOf("(a)\n)"), "");
     EXPECT_EQ(errorOf(" )"), "1:2 stray-parenthesis \")\" closes no list");
-    EXPECT_EQ(errorOf("(a \"b\n)\n"), "1:4 unclosed-string string is not closed");
-    EXPECT_EQ(errorOf("(a \"b\\\""), "1:4 unclosed-string string is not closed");
-    EXPECT_EQ(errorOf("(a \"b\\"), "1:4 unclosed-string string is not closed");
+    for (char const* openString : {"(a \"b\n)\n", "(a \"b\\\"", "(a \"b\\"})
+    {
+        EXPECT_EQ(errorOf(openString),
+                  "1:4 unclosed-string the string is not closed, expected '\"' before the end of the text");
+    }
     EXPECT_EQ(errorOf("(a\x01)"), "1:3 control-byte control byte 0x01 outside of a string");
     EXPECT_EQ(errorOf(std::string("(a ") + '\0' + ")"), "1:4 control-byte control byte 0x00 outside of a string");
     EXPECT_EQ(errorOf("abcdefghijk\x7F"), "");

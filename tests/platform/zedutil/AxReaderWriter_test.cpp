@@ -128,6 +128,7 @@ TEST(AxReaderWriter, ReportsEachFaultAtItsPlaceAndReadsItsNeighbours)
     };
     Case const cases[] = {
         {"(v (mass heavy) (seats 2))", "wrong-kind@1:10", 5000.0, "(v\n  (mass heavy)\n  (seats 2))\n"},
+        {"(v (mass 1e999) (seats 2))", "number-range@1:10", 5000.0, "(v\n  (mass 1e999)\n  (seats 2))\n"},
         {"(v (mass) (seats 2))", "wrong-kind@1:4", 5000.0, "(v\n  (mass)\n  (seats 2))\n"},
         {"(v (seats 2.5) (mass 1))", "wrong-kind@1:11", 1.0, "(v\n  (mass 1.0)\n  (seats 2.5))\n"},
         {"(v (seats 2)\n (mas 7 (x \"y\")) (mass 1))", "unknown-keyword@2:3", 1.0,

@@ -39,7 +39,9 @@ TEST_F(AxSxpParameterDbEntryTest, SaysWhatIsWrongWithAFileAndKeepsWhatCanBeKept)
         {"blank", " \n; nothing here\n", "DIR/m1.ope:1:1: error: expected a record, found an empty file [empty-file]\n",
          false},
         {"open list", "(m1 " + type + "\n (mass 2.0)\n (category \"tank\"",
-         "DIR/m1.ope:3:2: error: the list is not closed [unclosed-list]\nParameters are invalid for m1.ope\n", true},
+         "DIR/m1.ope:3:2: error: the list is not closed, expected \")\" before the end of the text [unclosed-list]\n"
+         "Parameters are invalid for m1.ope\n",
+         true},
         {"no type item", "(m1\n (mass 2.0))",
          "DIR/m1.ope:2:2: error: expected (parameter-type ...) [no-parameter-type]\n", false},
         {"nothing in it", "(m1)", "DIR/m1.ope:1:1: error: expected (parameter-type ...) [no-parameter-type]\n", false},
@@ -69,6 +71,45 @@ TEST_F(AxSxpParameterDbEntryTest, SaysWhatIsWrongWithAFileAndKeepsWhatCanBeKept)
         {
             EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << row.what << ": " << said;
         }
+    }
+}
+
+TEST_F(AxSxpParameterDbEntryTest, ATextCutOffAnywhereIsOneFinding)
+{
+    std::string const whole = "(m1\n (parameter-type \"moving-object-param\")\n (mass 2.0) (unknown (a b) 7)\n"
+                              " (sensors (eye (component-descriptor-type \"object-sensor-descriptor\")\n"
+                              "  (is-enabled true) (min-tick-period 0.5)))\n (category \"tank\") (max-speed 3))";
+    for (std::size_t length = 1; length <= whole.size(); ++length)
+    {
+        findings.clear();
+        put("m1.ope", whole.substr(0, length));
+        AxSxpParameterDbEntry made;
+        made.setFilename(path("m1.ope"));
+        made.load();
+        std::erase_if(findings, [](AxDiagnostic const& finding)
+                      { return finding.text.starts_with("unknown keyword \"unknown\""); });
+        std::string codes;
+        for (AxDiagnostic const& finding : findings)
+        {
+            codes += finding.format() + '\n';
+        }
+        EXPECT_EQ(findings.size(), length < whole.size() ? 1U : 0U) << whole.substr(0, length) << '\n' << codes;
+    }
+}
+
+TEST_F(AxSxpParameterDbEntryTest, WhatIsWrongWithTheFileIsSaidWhereItIsNamed)
+{
+    for (char const* file : {"missing.ope", "force.entity"})
+    {
+        findings.clear();
+        put("force.opd",
+            "(parameter-database (version 101)\n (parameter-files\n  " + DatabaseFixture::entry(theTank, file) + "))");
+        ASSERT_TRUE(db.loadAll(AxFilename(path("force.opd"))));
+        ASSERT_EQ(findings.size(), 1U);
+        EXPECT_EQ(findings[0].file, path("force.opd"));
+        EXPECT_EQ(findings[0].line, 3U);
+        EXPECT_EQ(findings[0].column, 3U);
+        EXPECT_NE(findings[0].text.find('"' + std::string(file) + '"'), std::string::npos) << findings[0].text;
     }
 }
 

@@ -237,7 +237,9 @@ TEST_F(AxSxpParameterDbTest, AFileThatCannotBeReadChangesNothing)
         {"blank.opd", " ; only this\n",
          before + "isSxpParameterDbData() : empty parameter file\n" + cannot + "DIR/blank.opd\n"},
         {"open.opd", "(parameter-database (parameter-files",
-         "DIR/open.opd:1:21: error: list is not closed [unclosed-list]\n" + cannot + "DIR/open.opd\n"},
+         "DIR/open.opd:1:21: error: the list is not closed, expected \")\" before the end of the text "
+         "[unclosed-list]\n" +
+             cannot + "DIR/open.opd\n"},
     };
     loadTank();
     for (Case const& row : cases)
@@ -260,15 +262,54 @@ TEST_F(AxSxpParameterDbTest, AFileThatCannotBeReadChangesNothing)
     EXPECT_EQ(news.text().rfind("Loading parameter database file " + path("force.opd") + " . . .\n", 0), 0U);
 }
 
-TEST_F(AxSxpParameterDbTest, WhatATruncatedFileHoldsCounts)
+TEST_F(AxSxpParameterDbTest, WhatATruncatedFileHoldsCountsAndIsOneFinding)
 {
-    EXPECT_TRUE(db.load(put("cut.opd", "(parameter-database (version 101) (parameter-files\n" +
-                                           entry(theTank, "m1.ope") + "(parameter-entry (object-type 1 1")));
-    EXPECT_EQ(db.numParameterEntries(), 1);
-    auto const cut = std::find_if(findings.begin(), findings.end(),
-                                  [](AxDiagnostic const& finding) { return finding.code == "unclosed-list"; });
-    ASSERT_NE(cut, findings.end());
-    EXPECT_EQ(cut->severity, AxSeverity::Error);
+    std::string const first = "(parameter-database (version 101) (parameter-files\n" + entry(theTank, "m1.ope");
+    std::string const whole = first + entry(theTanks, "m2.ope") + ")(variable-bindings (a 1)))";
+    for (std::size_t length = 1; length < whole.size(); ++length)
+    {
+        findings.clear();
+        db.removeAll();
+        bool const isLoaded = db.load(put("cut.opd", whole.substr(0, length)));
+        ASSERT_EQ(findings.size(), 1U) << whole.substr(0, length);
+        EXPECT_EQ(findings[0].severity, AxSeverity::Error);
+        EXPECT_NE(findings[0].line, 0U);
+        EXPECT_TRUE(!isLoaded || length < first.size() || db.numParameterEntries() >= 1) << whole.substr(0, length);
+    }
+}
+
+TEST_F(AxSxpParameterDbTest, AnOddFileIsOneFinding)
+{
+    struct Case
+    {
+        std::string text;
+        char const* code;
+        unsigned column;
+    };
+    Case const cases[] = {
+        {std::string(100, '\0'), "control-byte", 1},
+        {"\x7f"
+         "ELF\x02\x01",
+         "control-byte", 1},
+        {"hello world", "not-a-list", 1},
+        {"\"text\"", "not-a-list", 1},
+        {") (version 101)", "stray-parenthesis", 1},
+        {"(parameter-database (version 1e999))", "number-range", 30},
+        {"(parameter-database (version new))", "wrong-kind", 30},
+        {"(parameter-database (version))", "wrong-kind", 21},
+        {"(parameter-database (parameter-files))", "no-version", 1},
+        {std::string(100000, '('), "nesting-limit", 1002},
+        {database(entry("1 1", "m1.ope")), "wrong-kind", 31},
+        {database("(parameter-entry (filename \"m1.ope\"))"), "unreadable-entry", 1},
+    };
+    for (Case const& row : cases)
+    {
+        findings.clear();
+        db.load(put("odd.opd", row.text));
+        ASSERT_EQ(findings.size(), 1U) << row.text.substr(0, 80) << '\n' << warned();
+        EXPECT_EQ(findings[0].code, row.code) << findings[0].format();
+        EXPECT_EQ(findings[0].column, row.column) << findings[0].format();
+    }
 }
 
 TEST_F(AxSxpParameterDbTest, ASecondFileIsAddedToTheFirst)
@@ -417,7 +458,8 @@ TEST_F(AxSxpParameterDbTest, EntityFilesAreSaidOnceAndTheRestIsUsable)
     load(entry(theTank, "m1.ope"), "(variable-bindings (data-root \"data\")) (version 101)");
     ASSERT_EQ(findings.size(), 1U);
     EXPECT_EQ(findings.front().code, "entity-file");
-    EXPECT_EQ(findings.front().file, path("data/a.entity"));
+    EXPECT_EQ(findings.front().file, path("force.opd"));
+    EXPECT_EQ(findings.front().column, 40U);
     EXPECT_TRUE(db.lookup(tank));
 }
 
