@@ -92,4 +92,6 @@ private:
     AxList myList;
     std::unique_ptr<AxTypeIndex> myIndex;
     std::unique_ptr<Parked> myParked; // entries that the insertion rule left outside the list
+    /// While an entry is inserted, its type: of what is found for it only an equal type counts.
+    AxObjectType const* myInsertedType = nullptr;
 };

@@ -239,9 +239,9 @@ bool AxSxpParameterDb::save(AxFilename const& file)
     AxFilename const base = stripExtension(file.stripPath(), opdFilenameExtension());
     bool const isInRoot = getPath(file).isNull() && !(base == file) && !(file.stripPath() == file);
     bool isWritten = false;
-    if (base == file.stripPath())
+    if (base == file.stripPath() || base.isNull())
     {
-        AxDiagnostics::report(axFault("bad-name", file, "the name of a database file ends in \".opd\""));
+        AxDiagnostics::report(axFault("bad-name", file, "expected a name that ends in \".opd\", with more before it"));
     }
     else if (isInRoot)
     {

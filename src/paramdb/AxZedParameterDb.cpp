@@ -129,7 +129,7 @@ void AxZedParameterDb::addParameters(AxObjectType const& type, AxZedObjectParame
 
 AxListItem* AxZedParameterDb::lookupParameters(AxObjectType const& type) const
 {
-    return myIndex->bestMatch(type);
+    return &type == myInsertedType ? myIndex->firstOf(type) : myIndex->bestMatch(type);
 }
 
 AxZedObjectParameters* AxZedParameterDb::lookupParameters(AxObjectType const& type, AxObjectType* matchedType) const
@@ -190,12 +190,14 @@ void AxZedParameterDb::addParameterDbEntry(AxZedParameterDbEntry* entry)
         return;
     }
     AxObjectType const& type = entry->objectType();
-    if (AxZedParameterDbEntry const* const old = entryOf(myIndex->firstOf(type)))
+    myInsertedType = &type;
+    AxZedParameterDbEntry const* const old = entryOf(lookupParameters(type));
+    myInsertedType = nullptr;
+    bool const isReplaced =
+        old != nullptr && old->objectType() == type && (old->typeIsMatchType() || !entry->typeIsMatchType());
+    if (isReplaced)
     {
-        if (old->typeIsMatchType() || !entry->typeIsMatchType())
-        {
-            removeParameters(type);
-        }
+        removeParameters(type);
     }
     entry->myHolder = this;
     entry->myItem = myIndex->insert(entry, type);

@@ -546,7 +546,7 @@ TEST_F(AxSxpParameterDbTest, EqualNamesInOneSaveAreNumbered)
 
 TEST_F(AxSxpParameterDbTest, RefusesNamesThatWouldLoseRecords)
 {
-    for (std::string const& name : {path("tanks"), path("X.OPD"), std::string("/x.opd")})
+    for (std::string const& name : {path("tanks"), path("X.OPD"), path(".opd"), std::string("/x.opd")})
     {
         EXPECT_FALSE(db.save(AxFilename(name)));
         EXPECT_EQ(findings.back().code, "bad-name");

@@ -33,6 +33,13 @@ struct Database : AxZedParameterDb
     }
 };
 
+/// Knows of no entry, so that none is replaced.
+struct BlindDatabase : Database
+{
+    using Database::lookupParameters;
+    AxListItem* lookupParameters(AxObjectType const&) const override { return nullptr; }
+};
+
 AxZedParameterDbEntry* newEntry(AxObjectType const& type, bool isMatchType)
 {
     auto* const entry = new AxZedParameterDbEntry;
@@ -265,6 +272,16 @@ TEST_F(AxZedParameterDbTest, EqualTypesReplaceEachOtherByTheirMarks)
             EXPECT_TRUE(answer->typeIsMatchType());
         }
     }
+}
+
+TEST_F(AxZedParameterDbTest, ADerivedSearchDecidesWhatIsReplaced)
+{
+    BlindDatabase blind;
+    for (int const extra : {1, 2, 1})
+    {
+        blind.addParameterDbEntry(newEntry(AxObjectType(1, 1, 1, 225, 1, 1, 3, extra), false));
+    }
+    EXPECT_EQ(blind.numParameterEntries(), 3);
 }
 
 TEST_F(AxZedParameterDbTest, TypesThatFitGetTheLastOfAnEqualRun)
