@@ -46,6 +46,7 @@ public:
     void putData(std::string& out, int indent) override;
     void reset() override;
     char const* readerWriterType() const override;
+    char const* xmlType() const override { return "connection"; }
 
     /// The name of connections that are made, and the head of those that have none.
     static AxSymbolString elementWord();

@@ -1,7 +1,7 @@
 #include "AxFilename.h"
 
 #include <algorithm>
-#include <filesystem>
+#include <boost/filesystem/operations.hpp>
 #include <ostream>
 #include <system_error>
 
@@ -101,8 +101,8 @@ std::string AxFilename::native() const
 
 bool AxFilename::exists() const
 {
-    std::error_code ignored;
-    return std::filesystem::exists(native(), ignored);
+    boost::system::error_code ignored;
+    return boost::filesystem::exists(native(), ignored);
 }
 
 AxFilename const& AxFilename::nullFilename()

@@ -32,6 +32,17 @@ TEST(AxConnectionDescriptorList, WritesWhatItReads)
     EXPECT_EQ(again.writtenText(), text);
 }
 
+TEST(AxConnectionDescriptorList, StandsInATreeAsConnections)
+{
+    AxConnectionDescriptorList list("connections", nullptr);
+    read(list, "(connections (connect a b) (connect system:in \"has blank\"))");
+    EXPECT_NE(list.toXml().string().find("<connections name=\"connections\">\n  <connection"), std::string::npos)
+        << list.toXml().string();
+    AxConnectionDescriptorList back("connections", nullptr);
+    ASSERT_TRUE(back.fromXml(list.toXml()));
+    EXPECT_EQ(back.writtenText(), list.writtenText());
+}
+
 TEST(AxConnectionDescriptorList, ReportsMissingEndpointsAndKeepsFurtherItems)
 {
     AxSinkScope warnings(AxWarn);
