@@ -22,6 +22,7 @@ AxTypeOps typeOps()
     { return new AxComponentDescriptor(name, registry); };
     ops.copy = [](AxReaderWriter& to, AxReaderWriter const& from) { to.assign(from); };
     ops.equal = [](AxReaderWriter const& a, AxReaderWriter const& b) { return typeid(a) == typeid(b) && a == b; };
+    ops.isForEachClass = true;
     ops.leadHead = theTypeHead;
     ops.ownItem = [](AxReaderWriter&, AxlObj const* item, std::size_t index, AxBindingsList&)
     {

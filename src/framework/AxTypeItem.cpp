@@ -32,8 +32,9 @@ void check(AxlObj const* item, char const* head)
     AxDiagnostic finding;
     finding.severity = AxSeverity::Warning;
     finding.code = "type-item-missing";
-    finding.line = item->line();
-    finding.column = item->column();
+    AxlObj const* const place = item->line() != 0 ? item : AxReadFrame::list();
+    finding.line = place->line();
+    finding.column = place->column();
     finding.path = AxReadFrame::path();
     finding.text = "the first item should be (" + std::string(head) + " ...) and is not read";
     AxDiagnostics::report(std::move(finding));

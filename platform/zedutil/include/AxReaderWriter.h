@@ -111,7 +111,7 @@ public:
     virtual bool getVariableReference(AxEnvironmentPtr const& env, AxEnvValuePtr const& node);
     virtual bool variableIsBound() const;
     virtual void unbindVariable();
-    /// A registered member is entered in its registry anew under the new name.
+    /// A registered member keeps its place in its registry; another of that name leaves.
     virtual void setName(AxString const& name);
     virtual char const* readerWriterType() const;
     virtual char const* xmlType() const;

@@ -27,6 +27,8 @@ struct AxTypeOps
     char const* leadHead = nullptr;
     /// What an overridden `getSelf` does after the items were read.
     void (*afterItems)(AxReaderWriter& record, AxFilenameList const& files, AxBindingsList const& bindings) = nullptr;
+    /// These serve several classes, each a type of its own: objects of two of them are not copied into each other.
+    bool isForEachClass = false;
     /// Reads the list's next element, at its opening parenthesis; false, and nothing taken, when that needs cells.
     bool (*readElement)(AxRwList& list, AxTextReader& reader, AxFilenameList const& files,
                         AxBindingsList const& bindings) = nullptr;

@@ -29,6 +29,8 @@ struct AxReadFrame
     }
     /// The names of the records from the outermost in, joined by "/".
     static std::string path();
+    /// The list that is being read, for faults that have no token of their own; nil outside of all.
+    static AxlObj const* list();
 
     /// The elements of a long keyed list as they were when it had changed `changeCount` times.
     struct Index

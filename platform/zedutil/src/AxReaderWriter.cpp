@@ -163,11 +163,23 @@ AxSymbolString AxReaderWriter::name() const
 void AxReaderWriter::setName(AxString const& name)
 {
     AxSymbolString const symbol(name);
-    AxReaderWriterRegistry* const registry = parentRegistry();
-    if (registry)
+    AxSymbolString const former = AxReaderWriter::name();
+    AxReaderWriterRegistry* const registry = symbol != former ? parentRegistry() : nullptr;
+    if (registry && (registry->ownEntry(this) || registry->lookup(former) == this))
     {
-        registry->removeEntry(this);
-        myPlace = 0;
+        registry->removeEntry(symbol.isNull() ? nullptr : registry->lookup(symbol));
+        if (!registry->ownEntry(this))
+        {
+            registry->leaveShape();
+        }
+        registry->ownEntry(this)->keyword = symbol;
+        if (AxReaderWriter* const owner = registry->owner(); owner && owner->flag(KeepsItems))
+        {
+            for (AxKeptItem& item : owner->rare().kept)
+            {
+                item.after = item.after == former ? symbol : item.after;
+            }
+        }
     }
     if (Rest* const mine = restOrNull())
     {
@@ -177,7 +189,6 @@ void AxReaderWriter::setName(AxString const& name)
     {
         myNameOrRest = reinterpret_cast<std::uintptr_t>(symbol.id());
     }
-    enter(registry);
 }
 
 void AxReaderWriter::setValueSpecified(bool specified, bool ownOnly)
@@ -449,7 +460,7 @@ bool AxReaderWriter::standsFor(AxKeptItem const& item) const
 {
     AxReaderWriterRegistry const* const members = item.replaces ? registryIfAny() : nullptr;
     AxReaderWriter const* const member = members ? members->lookup(item.after) : nullptr;
-    return member && member->myStamp == item.stamp;
+    return member && (member->myStamp == item.stamp || member->inherited());
 }
 
 AxReaderWriter& AxReaderWriter::operator=(AxReaderWriter const& other)

@@ -296,7 +296,9 @@ bool AxReaderWriterFactory::copyByType(AxReaderWriter& to, AxReaderWriter const&
         return true;
     }
     AxTypeOps const* const ops = typeInfo(from).ops;
-    if (ops != typeInfo(to).ops || (!ops && std::strcmp(to.readerWriterType(), from.readerWriterType()) != 0))
+    bool const areAlike = ops ? !ops->isForEachClass || typeid(to) == typeid(from)
+                              : std::strcmp(to.readerWriterType(), from.readerWriterType()) == 0;
+    if (ops != typeInfo(to).ops || !areAlike)
     {
         return false;
     }

@@ -6,6 +6,7 @@
 #include "AxRegistryShape.h"
 #include "AxRwList.h"
 #include "AxTextReader.h"
+#include "AxTreeCells.h"
 #include "AxlFunctions.h"
 #include "AxlInputStream.h"
 #include "AxlPrint.h"
@@ -89,6 +90,11 @@ bool isConsumed(AxReaderWriter& record, AxlObj const* item, std::string const& w
     return record.unrecognizedItem(env, node, files, bindings);
 }
 } // namespace
+
+AxlObj const* AxReadFrame::list()
+{
+    return ourItem;
+}
 
 std::string AxReadFrame::path()
 {
@@ -221,7 +227,10 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
         std::string const word(head->text());
         if (!isConsumed(*this, item, word, files, bindings))
         {
-            reportUnknown(head, word);
+            if (word != AxTreeCells::theXmlHead) // that was told when the tree it comes from was read
+            {
+                reportUnknown(head, word);
+            }
             keepItem(frame.last, printed(item));
         }
         return;

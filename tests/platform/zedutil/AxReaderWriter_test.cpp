@@ -284,6 +284,23 @@ TEST(AxReaderWriterRegistry, KeepsBindingOrderAndLetsALaterKeywordSupersede)
     EXPECT_EQ(vehicle.registry()->count(), 7);
 }
 
+TEST(AxReaderWriterRegistry, ARenamedMemberKeepsItsPlaceAndWhatFollowsIt)
+{
+    Findings findings;
+    Vehicle vehicle;
+    read(vehicle, "(v (mass 1) (extra 5) (seats 2))");
+    vehicle.mass.setName("weight");
+    EXPECT_EQ(vehicle.registry()->entry(0).member, &vehicle.mass);
+    EXPECT_EQ(vehicle.registry()->lookup("weight"), &vehicle.mass);
+    EXPECT_EQ(vehicle.registry()->lookup("mass"), nullptr);
+    EXPECT_EQ(vehicle.writtenText(), "(v\n  (weight 1.0)\n  (extra 5)\n  (seats 2))\n");
+    vehicle.seats.setName("weight");
+    EXPECT_EQ(vehicle.registry()->count(), 7);
+    EXPECT_EQ(vehicle.registry()->lookup("weight"), &vehicle.seats);
+    vehicle.mass.setName("heaviness"); // is no member any more
+    EXPECT_EQ(vehicle.registry()->count(), 7);
+}
+
 TEST(AxReaderWriterRegistry, MembersOutliveIt)
 {
     auto vehicle = std::make_unique<Vehicle>();

@@ -48,6 +48,27 @@ TEST_F(AxComponentDescriptorTest, StartsWithElevenMembersTwoOfThemSpecified)
     EXPECT_EQ(descriptor.minTaskVisualizationTickPeriod(), -1.0);
 }
 
+TEST_F(AxComponentDescriptorTest, IsNotCopiedIntoAnotherClass)
+{
+    AxComponentDescriptor descriptor("engine", nullptr);
+    AxActuatorComponentDescriptor actuator("actuator", nullptr);
+    actuator.setMinTickPeriod(2.0);
+    EXPECT_FALSE(AxReaderWriter::factory()->copyReaderWriter(&actuator, &descriptor));
+    EXPECT_EQ(descriptor.minTickPeriod(), -1.0);
+    AxActuatorComponentDescriptor other("other", nullptr);
+    EXPECT_TRUE(AxReaderWriter::factory()->copyReaderWriter(&actuator, &other));
+    EXPECT_EQ(other.minTickPeriod(), 2.0);
+}
+
+TEST_F(AxComponentDescriptorTest, AMissingTypeItemHasThePlaceOfItsList)
+{
+    AxComponentDescriptor("engine", nullptr)
+        .getSelf(cellsOf("  (engine)"), AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].line, 1U);
+    EXPECT_EQ(findings[0].column, 3U);
+}
+
 TEST_F(AxComponentDescriptorTest, WritesItsTypeFirstAndOnlyWhatIsSpecified)
 {
     AxComponentDescriptor descriptor("engine", nullptr);

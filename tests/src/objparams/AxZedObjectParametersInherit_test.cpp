@@ -31,6 +31,17 @@ TEST_F(AxZedObjectParametersInheritTest, TakesOnlyWhatWasNotSpecifiedHereButTher
     EXPECT_EQ(child->writtenText(), read(theMoving, "(mass 7.0)")->writtenText());
 }
 
+TEST_F(AxZedObjectParametersInheritTest, AnUnreadableValueIsStillWrittenUntilOneIsGiven)
+{
+    RecordPtr const parent = read(theBase, "(mass 9.0)");
+    RecordPtr const child = read(theBase, "(mass heavy)");
+    child->inheritValues(parent.get());
+    EXPECT_EQ(child->mass(), 9.0);
+    EXPECT_NE(child->writtenText().find("(mass heavy)"), std::string::npos) << child->writtenText();
+    child->setMass(7.0);
+    EXPECT_EQ(child->writtenText(), read(theBase, "(mass 7.0)")->writtenText());
+}
+
 TEST_F(AxZedObjectParametersInheritTest, DefaultsOfAnotherClassAreNotTaken)
 {
     struct Slow : AxObjectRecordOf<Slow, AxMovingObjectParameters, "slow-param">
