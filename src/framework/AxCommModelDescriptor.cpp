@@ -4,9 +4,7 @@
 #include "AxUnknownType.h"
 #include "AxlObj.h"
 
-#include <exception>
 #include <map>
-#include <memory>
 
 namespace
 {
@@ -18,6 +16,23 @@ Creators& creators()
 {
     static Creators map{{"comm-model-descriptor", &AxCommModelDescriptor::creator}};
     return map;
+}
+
+/// Null, after a report at `place`, for a type without a creator.
+AxCommModelDescriptor* create(AxString const& type, AxlObj const* place)
+{
+    auto const found = creators().find(type);
+    if (AxCommModelDescriptor* const made = found != creators().end() && found->second ? found->second() : nullptr)
+    {
+        return made;
+    }
+    std::vector<std::string_view> known;
+    for (auto const& [name, creator] : creators())
+    {
+        known.push_back(name.string());
+    }
+    axReportUnknownType(type.string(), place, "could not create signature propagator descriptor\n", known);
+    return nullptr;
 }
 } // namespace
 
@@ -119,27 +134,7 @@ AxCommModelDescriptor* AxCommModelDescriptor::createCommModelDescriptor(AxlObjPt
     AxlObj const* const typeCell = AxTypeItem::typeCell(expression);
     AxString const type = typeCell->pname();
     AxlObj const* const place = AxTypeItem::placeOf(typeCell, expression);
-    auto const found = creators().find(type);
-    try
-    {
-        std::unique_ptr<AxCommModelDescriptor> made(found != creators().end() && found->second ? found->second()
-                                                                                               : nullptr);
-        if (made)
-        {
-            made->getSelf(expression, files, bindings);
-            return made.release();
-        }
-    }
-    catch (std::exception const& error)
-    {
-        AxTypeItem::reportCreationFailed(place, type.string(), error.what());
-        return nullptr;
-    }
-    std::vector<std::string_view> known;
-    for (auto const& [name, creator] : creators())
-    {
-        known.push_back(name.string());
-    }
-    axReportUnknownType(type.string(), place, "could not create signature propagator descriptor\n", known);
-    return nullptr;
+    return AxTypeItem::made(
+        place, type, [&] { return create(type, place); },
+        [&](AxCommModelDescriptor& descriptor) { descriptor.getSelf(expression, files, bindings); });
 }

@@ -6,9 +6,6 @@
 #include "AxTypeItem.h"
 #include "AxlObj.h"
 
-#include <exception>
-#include <memory>
-
 namespace
 {
 constexpr char const* theTypeHead = "component-descriptor-type";
@@ -243,20 +240,10 @@ AxComponentDescriptor* AxComponentDescriptor::createComponentDescriptor(char con
         AxWarn("Can't create component descriptor without a component descriptor factory.\n");
         return nullptr;
     }
-    try
-    {
-        std::unique_ptr<AxComponentDescriptor> made(theFactory->createComponentDescriptor(AxString(type)));
-        if (made)
-        {
-            made->init();
-        }
-        return made.release();
-    }
-    catch (std::exception const& error)
-    {
-        AxTypeItem::reportCreationFailed(AxTypeItem::Scope::cell(), type, error.what());
-        return nullptr;
-    }
+    AxString const name(type);
+    return AxTypeItem::made(
+        AxTypeItem::Scope::cell(), name, [&] { return theFactory->createComponentDescriptor(name); },
+        [](AxComponentDescriptor& descriptor) { descriptor.init(); });
 }
 
 AxComponentDescriptor* AxComponentDescriptor::createComponentDescriptor(AxlObjPtr const& expression,
@@ -271,22 +258,12 @@ AxComponentDescriptor* AxComponentDescriptor::createComponentDescriptor(AxlObjPt
     AxlObj const* const typeCell = AxTypeItem::typeCell(expression);
     AxlObj const* const place = AxTypeItem::placeOf(typeCell, expression);
     AxString const type = typeCell->pname();
-    try
-    {
-        std::unique_ptr<AxComponentDescriptor> made;
+    return AxTypeItem::made(
+        place, type,
+        [&]
         {
             AxTypeItem::Scope const scope(place);
-            made.reset(createComponentDescriptor(type.c_str()));
-        }
-        if (made)
-        {
-            made->getSelf(expression, files, bindings);
-        }
-        return made.release();
-    }
-    catch (std::exception const& error)
-    {
-        AxTypeItem::reportCreationFailed(place, type.string(), error.what());
-        return nullptr;
-    }
+            return createComponentDescriptor(type.c_str());
+        },
+        [&](AxComponentDescriptor& descriptor) { descriptor.getSelf(expression, files, bindings); });
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <exception>
+#include <memory>
+#include <type_traits>
+
 #include "AxReaderWriter.h"
 
 /// The item that starts the text of a descriptor and tells its class: `(head "type")`.
@@ -15,6 +19,26 @@ AxlObj const* typeCell(AxlObjPtr const& expression);
 AxlObj const* placeOf(AxlObj const* typeCell, AxlObjPtr const& expression);
 /// Reports that the creator of `type` threw; `cell` may be null.
 void reportCreationFailed(AxlObj const* cell, std::string_view type, std::string_view reason);
+/// The object that `make` answers, after `use` was done with it. Null when `make` answers null, and, after a report at
+/// `cell`, when one of them throws.
+template <class Make, class Use>
+auto made(AxlObj const* cell, AxString const& type, Make const& make, Use const& use) -> decltype(make())
+{
+    try
+    {
+        std::unique_ptr<std::remove_pointer_t<decltype(make())>> object(make());
+        if (object)
+        {
+            use(*object);
+        }
+        return object.release();
+    }
+    catch (std::exception const& error)
+    {
+        reportCreationFailed(cell, type.string(), error.what());
+        return nullptr;
+    }
+}
 
 /// Names the cell whose text a creator is being looked up for, so that a factory, which is asked by text alone, can
 /// tell the place.

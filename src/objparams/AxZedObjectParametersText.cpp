@@ -136,20 +136,10 @@ AxZedObjectParameters* AxZedObjectParameters::createParameters(char const* typeN
         AxWarn("%s", theNoFactoryLine);
         return nullptr;
     }
-    try
-    {
-        std::unique_ptr<AxZedObjectParameters> made(theFactory->createParameters(AxString(typeName), env, node));
-        if (made)
-        {
-            made->init();
-        }
-        return made.release();
-    }
-    catch (std::exception const& error)
-    {
-        AxDiagnostics::report(located(AxlObj::nilCell(), "creation-failed", error.what()));
-        return nullptr;
-    }
+    AxString const type(typeName);
+    return AxTypeItem::made(
+        AxTypeItem::Scope::cell(), type, [&] { return theFactory->createParameters(type, env, node); },
+        [](AxZedObjectParameters& record) { record.init(); });
 }
 
 AxZedObjectParameters* AxZedObjectParameters::createParameters(AxlObjPtr const& list, AxFilenameList const& files,
@@ -172,24 +162,14 @@ AxZedObjectParameters* AxZedObjectParameters::createParameters(AxlObjPtr const& 
                                     AxZedObjectParameterFactory::unknownTypeLine(type));
         return nullptr;
     }
-    try
-    {
-        std::unique_ptr<AxZedObjectParameters> made;
+    return AxTypeItem::made(
+        typeCell, type,
+        [&]
         {
             AxTypeItem::Scope const place(typeCell);
-            made.reset(createParameters(type.c_str()));
-        }
-        if (made)
-        {
-            made->getSelf(list, files, bindings);
-        }
-        return made.release();
-    }
-    catch (std::exception const& error)
-    {
-        AxDiagnostics::report(located(list.get(), "read-failed", error.what()));
-        return nullptr;
-    }
+            return createParameters(type.c_str());
+        },
+        [&](AxZedObjectParameters& record) { record.getSelf(list, files, bindings); });
 }
 
 void AxZedObjectParameters::preGetSelf()

@@ -1,12 +1,12 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
 
 #include "AxZedObjectParameters.h"
 #include "Database.h"
+#include "DatabaseCommand.h"
 #include "Findings.h"
 #include "Json.h"
 #include "RecordCheck.h"
@@ -60,15 +60,7 @@ int check(std::string const& file, bool asJson)
 
 void addCheckCommand(CLI::App& app, int& exitCode)
 {
-    struct Options
-    {
-        std::string database;
-        bool json = false;
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand(
-        "check", "Reads every record and the tables beside the database; prints every finding with its place.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_flag("--json", options->json, "Print JSON");
-    command->callback([options, &exitCode] { exitCode = check(options->database, options->json); });
+    addDatabaseCommand(app, exitCode, "check",
+                       "Reads every record and the tables beside the database; prints every finding with its place.",
+                       check);
 }

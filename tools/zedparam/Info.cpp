@@ -1,15 +1,12 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
-#include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "AxRwVariableBindings.h"
 #include "Database.h"
-#include "Findings.h"
+#include "DatabaseCommand.h"
 #include "Json.h"
 
 namespace
@@ -72,30 +69,15 @@ void printJson(std::string const& file, Summary const& summary)
     }
     json.endArray().endObject().print();
 }
+
+int info(std::string const& file, bool asJson)
+{
+    return printDatabase(file, [&](Database const& database)
+                         { (asJson ? printJson : printText)(file, summarize(database)); });
+}
 } // namespace
 
 void addInfoCommand(CLI::App& app, int& exitCode)
 {
-    struct Options
-    {
-        std::string database;
-        bool json = false;
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("info", "What a database holds, in numbers; no record is read.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_flag("--json", options->json, "Print JSON");
-    command->callback(
-        [options, &exitCode]
-        {
-            Findings findings(Findings::Print::AtOnce);
-            std::unique_ptr<Database> const database = Database::open(options->database);
-            if (database == nullptr)
-            {
-                exitCode = CouldNotRun;
-                return;
-            }
-            (options->json ? printJson : printText)(options->database, summarize(*database));
-            exitCode = findings.empty() ? Fine : HasFindings;
-        });
+    addDatabaseCommand(app, exitCode, "info", "What a database holds, in numbers; no record is read.", info);
 }

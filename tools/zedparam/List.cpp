@@ -1,13 +1,11 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <string>
 
 #include "Database.h"
-#include "Findings.h"
+#include "DatabaseCommand.h"
 #include "Json.h"
 
 namespace
@@ -45,30 +43,14 @@ void printJson(Database const& database)
     }
     json.endArray().print();
 }
+
+int list(std::string const& file, bool asJson)
+{
+    return printDatabase(file, asJson ? printJson : printText);
+}
 } // namespace
 
 void addListCommand(CLI::App& app, int& exitCode)
 {
-    struct Options
-    {
-        std::string database;
-        bool json = false;
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("list", "All entries: type, exact or pattern, record file.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_flag("--json", options->json, "Print JSON");
-    command->callback(
-        [options, &exitCode]
-        {
-            Findings findings(Findings::Print::AtOnce);
-            std::unique_ptr<Database> const database = Database::open(options->database);
-            if (database == nullptr)
-            {
-                exitCode = CouldNotRun;
-                return;
-            }
-            (options->json ? printJson : printText)(*database);
-            exitCode = findings.empty() ? Fine : HasFindings;
-        });
+    addDatabaseCommand(app, exitCode, "list", "All entries: type, exact or pattern, record file.", list);
 }

@@ -474,15 +474,6 @@ TEST_F(AxSxpParameterDbTest, ReferencesAreWrittenAsTheyWereOnlyWhereTheyMeanTheS
     EXPECT_NE(get("x.opd").find("\"$(opd-dir)/m1.ope\""), std::string::npos) << get("x.opd");
 }
 
-TEST_F(AxSxpParameterDbTest, AnUnreadRecordOfAnOlderVersionIsSaid)
-{
-    put("m1.ope", record(""));
-    load(entry(theTank, "m1.ope"), "(version 100)");
-    ASSERT_TRUE(db.save(AxFilename(path("x.opd"))));
-    ASSERT_EQ(findings.size(), 1U);
-    EXPECT_EQ(findings.front().code, "older-version");
-}
-
 TEST_F(AxSxpParameterDbTest, DependentFilesAreCopied)
 {
     put("a.dmg", "text");
