@@ -6,6 +6,7 @@
 
 #include "AxAmmoSelectTable.h"
 #include "AxDetectionPrbRangeLookupEntry.h"
+#include "AxFormationTable.h"
 #include "AxNumberText.h"
 #include "AxRangeProbabilityTable.h"
 #include "AxReaderWriterFile.h"
@@ -78,7 +79,7 @@ std::vector<fs::path> tableFiles(Database const& database)
         std::string const suffix = "." + extension.string();
         for (fs::directory_entry const& file : fs::directory_iterator(folder, ignored))
         {
-            if (file.is_regular_file(ignored) && file.path().extension() == suffix)
+            if (file.path().extension() == suffix) // a folder or a dangling link is told when it is read
             {
                 result.push_back(file.path().lexically_normal());
             }
@@ -103,6 +104,11 @@ std::size_t checkTables(std::vector<fs::path> const& files, Findings& findings)
         else if (file.extension() == ".asl")
         {
             AxAmmoSelectTable table("table", nullptr);
+            loaded += load(file, table);
+        }
+        else if (file.extension() == ".frm")
+        {
+            AxFormationTable table("table", nullptr);
             loaded += load(file, table);
         }
         progress.step();

@@ -38,7 +38,7 @@ std::string nameInOtherCase(AxFilename const& file)
     for (; !error && entry != filesystem::directory_iterator(); entry.increment(error))
     {
         std::string const name = entry->path().filename().string();
-        if (boost::algorithm::iequals(name, path.filename().string()))
+        if (name != path.filename().string() && boost::algorithm::iequals(name, path.filename().string()))
         {
             return name;
         }
