@@ -2,6 +2,11 @@
 
 #include "AxStreams.h"
 
+namespace
+{
+constexpr AxKeyword theFormations{"formation-list", "", "Formations in which the subordinates can be arranged."};
+}
+
 AxAggregateObjectParameters::~AxAggregateObjectParameters() = default;
 
 AxAggregateObjectParameters& AxAggregateObjectParameters::operator=(AxAggregateObjectParameters const& other)
@@ -18,10 +23,11 @@ bool AxAggregateObjectParameters::init()
     }
     if (!myFormationTable)
     {
-        myFormationTable.reset(createFormationTable("formation-list", registry()));
+        myFormationTable.reset(createFormationTable(theFormations.text, registry()));
         if (myFormationTable)
         {
             myFormationTable->setValueSpecified(false, false);
+            registry()->describe(myFormationTable.get(), theFormations, typeid(AxAggregateObjectParameters));
         }
     }
     return true;

@@ -6,21 +6,28 @@
 
 namespace
 {
+constexpr AxKeyword theLocalObjects{"local-objects", "", "Software that runs the object where it is simulated."};
+constexpr AxKeyword theSubordinates{"subordinate-objects", "", "Objects that are created as subordinates of this one."};
+constexpr AxKeyword theAttached{"attached-objects", "", "Objects that are created attached to this one."};
+constexpr AxKeyword theRemoteObjects{"remote-objects", "", "Software that runs the object's remote representation."};
+constexpr AxKeyword theExtension{"user-extension", "", "What the host keeps with the object's state besides."};
+
 AxSymbolString extensionName()
 {
-    static AxSymbolString const name("user-extension");
+    static AxSymbolString const name(theExtension.text);
     return name;
 }
 
 /// Registers nothing new: `made` stands in `registry` already. It is part of the record, but not of its equality.
 template <class T>
-void adopt(std::unique_ptr<T>& member, T* made, AxReaderWriterRegistry& registry)
+void adopt(std::unique_ptr<T>& member, T* made, AxReaderWriterRegistry& registry, AxKeyword const& description)
 {
     member.reset(made);
     if (made)
     {
         made->setValueSpecified(false, false);
         registry.setCompared(made, false);
+        registry.describe(made, description, typeid(AxZedObjectParameters));
     }
 }
 } // namespace
@@ -82,6 +89,7 @@ void AxZedObjectParameters::copyFrom(AxZedObjectParameters const& other)
     {
         myUserExtension.reset();
         myUserExtension.reset(other.myUserExtension->clone(extensionName(), registry()));
+        registry()->describe(myUserExtension.get(), theExtension, typeid(AxZedObjectParameters));
     }
     assign(other);
     myParameterType = other.myParameterType;
@@ -129,11 +137,12 @@ bool AxZedObjectParameters::init()
     }
     if (!mySubordinateObjects)
     {
-        adopt(mySubordinateObjects, createSubordinateObjectsList("subordinate-objects", registry()), *registry());
+        adopt(mySubordinateObjects, createSubordinateObjectsList(theSubordinates.text, registry()), *registry(),
+              theSubordinates);
     }
     if (!myAttachedObjects)
     {
-        adopt(myAttachedObjects, createAttachedObjectsList("attached-objects", registry()), *registry());
+        adopt(myAttachedObjects, createAttachedObjectsList(theAttached.text, registry()), *registry(), theAttached);
     }
     if (!createRemoteSubComponentTypes())
     {
@@ -146,14 +155,16 @@ bool AxZedObjectParameters::init()
 bool AxZedObjectParameters::createLocalSubComponentTypes()
 {
     myLocalSubComponentTypes.reset();
-    adopt(myLocalSubComponentTypes, new AxZedObjectSubComponentTypes("local-objects", registry()), *registry());
+    adopt(myLocalSubComponentTypes, new AxZedObjectSubComponentTypes(theLocalObjects.text, registry()), *registry(),
+          theLocalObjects);
     return true;
 }
 
 bool AxZedObjectParameters::createRemoteSubComponentTypes()
 {
     myRemoteSubComponentTypes.reset();
-    adopt(myRemoteSubComponentTypes, new AxZedObjectSubComponentTypes("remote-objects", registry()), *registry());
+    adopt(myRemoteSubComponentTypes, new AxZedObjectSubComponentTypes(theRemoteObjects.text, registry()), *registry(),
+          theRemoteObjects);
     return true;
 }
 
@@ -284,6 +295,7 @@ void AxZedObjectParameters::setStateRepositoryUserExtension(AxZedStateRepository
         }
         extension->setName(extensionName().string());
         registry()->addEntry(extensionName(), extension);
+        registry()->describe(extension, theExtension, typeid(AxZedObjectParameters));
     }
 }
 

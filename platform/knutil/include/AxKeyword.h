@@ -18,6 +18,10 @@ struct AxRange
     friend constexpr bool operator==(AxRange const&, AxRange const&) = default;
 };
 
+/// Ranges that many members share.
+inline constexpr AxRange axNotNegative{0.0, axUnbounded};
+inline constexpr AxRange axFraction{0.0, 1.0};
+
 /// What there is to know of a member besides its value. An object of static duration, so that each member keeps one
 /// pointer; manual, schema, help and range checks are made from it.
 struct AxKeyword

@@ -19,8 +19,10 @@ struct AxRegistryEntry
 {
     AxSymbolString keyword;
     AxReaderWriter* member = nullptr;
-    bool content = false; ///< the object that a file member fills; reached through that member only
-    bool compared = true; ///< takes part in equality and in the number of members compared
+    bool content = false;                   ///< the object that a file member fills; reached through that member only
+    bool compared = true;                   ///< takes part in equality and in the number of members compared
+    AxKeyword const* description = nullptr; ///< unit, help and range; null when none were told
+    std::type_info const* declaringClass = nullptr; ///< null for a member that was made at run time
 };
 
 /// The ordered members of one record, in the order in which they were bound.
@@ -72,9 +74,10 @@ public:
 
     /// The unit, help and range that `member` was bound with; null for one bound by a bare keyword.
     AxKeyword const* description(AxReaderWriter const* member) const;
-
-    /// The class that declares `member` as its data member; null for one bound at run time.
+    /// The class that declares `member`; null for one made at run time.
     std::type_info const* declaringClass(AxReaderWriter const* member) const;
+    /// Tells both for a member that was bound by a bare keyword. `description` is kept by pointer.
+    void describe(AxReaderWriter const* member, AxKeyword const& description, std::type_info const& declaringClass);
 
     AxReaderWriter* owner() const { return myOwner; }
 
@@ -97,6 +100,8 @@ private:
     std::size_t assignShared(AxReaderWriterRegistry const& other);
     AxRegistryTable const& table() const;
     AxRegistryShape const* shapeOf(AxReaderWriter const* member) const;
+    AxRegistryEntry entryOf(AxRegistryShape const& shape) const;
+    AxRegistryEntry entryOf(AxReaderWriter const* member) const;
     AxReaderWriter* at(std::size_t distance) const;
     AxRegistryEntry* ownEntry(AxReaderWriter const* member) const;
     Own& own();

@@ -95,7 +95,7 @@ void AxReaderWriterRegistry::leaveShape()
     std::vector<AxRegistryEntry> entries;
     for (AxRegistryTable::Slot const& slot : table().slots)
     {
-        entries.push_back({slot.keyword, at(slot.distance)});
+        entries.push_back(entryOf(*slot.shape));
     }
     Own& mine = own();
     mine.entries.insert(mine.entries.begin(), entries.begin(), entries.end());
@@ -231,7 +231,7 @@ AxRegistryEntry AxReaderWriterRegistry::entry(std::size_t index) const
     AxRegistryTable const& shared = table();
     if (index < shared.slots.size())
     {
-        return {shared.slots[index].keyword, at(shared.slots[index].distance)};
+        return entryOf(*shared.slots[index].shape);
     }
     index -= shared.slots.size();
     return myOwn && index < myOwn->entries.size() ? myOwn->entries[index] : AxRegistryEntry{};
@@ -263,16 +263,40 @@ AxRegistryShape const* AxReaderWriterRegistry::shapeOf(AxReaderWriter const* mem
     return nullptr;
 }
 
+AxRegistryEntry AxReaderWriterRegistry::entryOf(AxRegistryShape const& shape) const
+{
+    return {AxSymbolString::fromId(shape.name), at(shape.distance),           false, true,
+            &shape.details->description,        shape.details->declaringClass};
+}
+
+AxRegistryEntry AxReaderWriterRegistry::entryOf(AxReaderWriter const* member) const
+{
+    if (AxRegistryShape const* const shape = shapeOf(member))
+    {
+        return entryOf(*shape);
+    }
+    AxRegistryEntry const* const entry = ownEntry(member);
+    return entry ? *entry : AxRegistryEntry{};
+}
+
 AxKeyword const* AxReaderWriterRegistry::description(AxReaderWriter const* member) const
 {
-    AxRegistryShape const* const shape = shapeOf(member);
-    return shape ? &shape->details->description : nullptr;
+    return entryOf(member).description;
 }
 
 std::type_info const* AxReaderWriterRegistry::declaringClass(AxReaderWriter const* member) const
 {
-    AxRegistryShape const* const shape = shapeOf(member);
-    return shape ? shape->details->declaringClass : nullptr;
+    return entryOf(member).declaringClass;
+}
+
+void AxReaderWriterRegistry::describe(AxReaderWriter const* member, AxKeyword const& description,
+                                      std::type_info const& declaringClass)
+{
+    if (AxRegistryEntry* const entry = ownEntry(member))
+    {
+        entry->description = &description;
+        entry->declaringClass = &declaringClass;
+    }
 }
 
 /// Assigns the members that stand in the shape, which is that of `other`; answers how many.

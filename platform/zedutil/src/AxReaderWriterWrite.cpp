@@ -140,6 +140,10 @@ void AxReaderWriter::writeKept(std::string& out, int indent, AxSymbolString afte
 void AxReaderWriter::writeMember(AxReaderWriter& member, AxSymbolString keyword, std::string& out, int indent, bool all,
                                  AxFilename const& file)
 {
+    if (keyword.isNull())
+    {
+        return; // never written; what is kept under no keyword stands before the first member
+    }
     bool isReplaced = false;
     if (flag(KeepsItems))
     {
@@ -148,7 +152,7 @@ void AxReaderWriter::writeMember(AxReaderWriter& member, AxSymbolString keyword,
             isReplaced = isReplaced || (item.after == keyword && standsFor(item));
         }
     }
-    if (!isReplaced && !keyword.isNull() && !flag(VariableReference))
+    if (!isReplaced && !flag(VariableReference))
     {
         member.writeSelf(out, indent, all, file);
     }

@@ -359,9 +359,9 @@ void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameLis
             if (place < table.slots.size())
             {
                 std::string_view const expected = table.slots[place].keyword.view();
-                bool const isExpected = !expected.empty() &&
-                                        std::strncmp(head, expected.data(), expected.size()) == 0 &&
-                                        kindOf(head[expected.size()]) != Word;
+                bool const isExpected =
+                    !expected.empty() && expected.size() <= static_cast<std::size_t>(myEnd - head) &&
+                    std::memcmp(head, expected.data(), expected.size()) == 0 && kindOf(head[expected.size()]) != Word;
                 end = isExpected ? head + expected.size() : endOfWord(head);
                 if (!isExpected)
                 {

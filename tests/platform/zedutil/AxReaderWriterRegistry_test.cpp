@@ -51,8 +51,8 @@ class Fork : public Numbers<20>
 {
 public:
     using Numbers::Numbers;
-    Last last{{"fork"}, this->registry()};
-    AxRwString end{{"end"}, "of it", this->registry()};
+    Last last{AxKeyword{"fork"}, this->registry()};
+    AxRwString end{AxKeyword{"end"}, "of it", this->registry()};
 };
 
 std::string words(AxReaderWriter const& record)

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "AxDescriptorOf.h"
+#include "AxIndividualLifeformAcquireDescriptor.h"
+
+/// Turns and moves a lifeform until its shoulder-fired launcher bears on the target. Takes the values of lifeform
+/// acquisition only.
+class ZEDOBJPARAM_API AxIndLifeformLauncherAcquireDescriptor
+    : public AxDescriptorOf<AxIndLifeformLauncherAcquireDescriptor, AxIndividualLifeformAcquireDescriptor,
+                            "individual-lifeform-launcher-acquire-descriptor">
+{
+public:
+    AxIndLifeformLauncherAcquireDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    ~AxIndLifeformLauncherAcquireDescriptor() override;
+};

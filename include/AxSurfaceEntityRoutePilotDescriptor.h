@@ -1,0 +1,14 @@
+#pragma once
+
+#include "AxDescriptorOf.h"
+#include "AxSurfaceEntityPilotControllerDescriptor.h"
+
+/// Steers a surface vessel along a route. Takes the values of the surface pilot only.
+class ZEDOBJPARAM_API AxSurfaceEntityRoutePilotDescriptor
+    : public AxDescriptorOf<AxSurfaceEntityRoutePilotDescriptor, AxSurfaceEntityPilotControllerDescriptor,
+                            "surface-entity-route-pilot-controller-descriptor">
+{
+public:
+    AxSurfaceEntityRoutePilotDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    ~AxSurfaceEntityRoutePilotDescriptor() override;
+};

@@ -1,0 +1,8 @@
+#include "AxConvoyDescriptor.h"
+
+AxConvoyDescriptor::AxConvoyDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxConvoyDescriptor::~AxConvoyDescriptor() = default;

@@ -1,0 +1,8 @@
+#include "AxFixedWingActuatorDescriptor.h"
+
+AxFixedWingActuatorDescriptor::AxFixedWingActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxFixedWingActuatorDescriptor::~AxFixedWingActuatorDescriptor() = default;

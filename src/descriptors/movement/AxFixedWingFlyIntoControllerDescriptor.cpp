@@ -1,0 +1,9 @@
+#include "AxFixedWingFlyIntoControllerDescriptor.h"
+
+AxFixedWingFlyIntoControllerDescriptor::AxFixedWingFlyIntoControllerDescriptor(AxSymbolString name,
+                                                                               AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxFixedWingFlyIntoControllerDescriptor::~AxFixedWingFlyIntoControllerDescriptor() = default;

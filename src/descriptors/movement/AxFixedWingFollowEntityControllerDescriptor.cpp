@@ -1,0 +1,9 @@
+#include "AxFixedWingFollowEntityControllerDescriptor.h"
+
+AxFixedWingFollowEntityControllerDescriptor::AxFixedWingFollowEntityControllerDescriptor(
+    AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxFixedWingFollowEntityControllerDescriptor::~AxFixedWingFollowEntityControllerDescriptor() = default;

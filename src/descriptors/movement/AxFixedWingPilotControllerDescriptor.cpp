@@ -1,0 +1,9 @@
+#include "AxFixedWingPilotControllerDescriptor.h"
+
+AxFixedWingPilotControllerDescriptor::AxFixedWingPilotControllerDescriptor(AxSymbolString name,
+                                                                           AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxFixedWingPilotControllerDescriptor::~AxFixedWingPilotControllerDescriptor() = default;

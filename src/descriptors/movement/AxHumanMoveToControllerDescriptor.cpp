@@ -1,0 +1,9 @@
+#include "AxHumanMoveToControllerDescriptor.h"
+
+AxHumanMoveToControllerDescriptor::AxHumanMoveToControllerDescriptor(AxSymbolString name,
+                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxHumanMoveToControllerDescriptor::~AxHumanMoveToControllerDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxIndLifeformLauncherAcquireDescriptor.h"
+
+AxIndLifeformLauncherAcquireDescriptor::AxIndLifeformLauncherAcquireDescriptor(AxSymbolString name,
+                                                                               AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxIndLifeformLauncherAcquireDescriptor::~AxIndLifeformLauncherAcquireDescriptor() = default;

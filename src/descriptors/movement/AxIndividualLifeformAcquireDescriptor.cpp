@@ -1,0 +1,9 @@
+#include "AxIndividualLifeformAcquireDescriptor.h"
+
+AxIndividualLifeformAcquireDescriptor::AxIndividualLifeformAcquireDescriptor(AxSymbolString name,
+                                                                             AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxIndividualLifeformAcquireDescriptor::~AxIndividualLifeformAcquireDescriptor() = default;

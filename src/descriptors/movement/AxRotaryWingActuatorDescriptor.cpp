@@ -1,0 +1,8 @@
+#include "AxRotaryWingActuatorDescriptor.h"
+
+AxRotaryWingActuatorDescriptor::AxRotaryWingActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxRotaryWingActuatorDescriptor::~AxRotaryWingActuatorDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxRotaryWingJoyDeviceControllerDescriptor.h"
+
+AxRotaryWingJoyDeviceControllerDescriptor::AxRotaryWingJoyDeviceControllerDescriptor(AxSymbolString name,
+                                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxRotaryWingJoyDeviceControllerDescriptor::~AxRotaryWingJoyDeviceControllerDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxSurfaceEntityRoutePilotDescriptor.h"
+
+AxSurfaceEntityRoutePilotDescriptor::AxSurfaceEntityRoutePilotDescriptor(AxSymbolString name,
+                                                                         AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxSurfaceEntityRoutePilotDescriptor::~AxSurfaceEntityRoutePilotDescriptor() = default;

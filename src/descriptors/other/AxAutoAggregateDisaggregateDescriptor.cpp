@@ -1,0 +1,9 @@
+#include "AxAutoAggregateDisaggregateDescriptor.h"
+
+AxAutoAggregateDisaggregateDescriptor::AxAutoAggregateDisaggregateDescriptor(AxSymbolString name,
+                                                                             AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxAutoAggregateDisaggregateDescriptor::~AxAutoAggregateDisaggregateDescriptor() = default;

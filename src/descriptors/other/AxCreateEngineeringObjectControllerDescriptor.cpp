@@ -1,0 +1,9 @@
+#include "AxCreateEngineeringObjectControllerDescriptor.h"
+
+AxCreateEngineeringObjectControllerDescriptor::AxCreateEngineeringObjectControllerDescriptor(
+    AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxCreateEngineeringObjectControllerDescriptor::~AxCreateEngineeringObjectControllerDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxEventTriggerControllerDescriptor.h"
+
+AxEventTriggerControllerDescriptor::AxEventTriggerControllerDescriptor(AxSymbolString name,
+                                                                       AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxEventTriggerControllerDescriptor::~AxEventTriggerControllerDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxGlobalEnvironmentActuatorDescriptor.h"
+
+AxGlobalEnvironmentActuatorDescriptor::AxGlobalEnvironmentActuatorDescriptor(AxSymbolString name,
+                                                                             AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxGlobalEnvironmentActuatorDescriptor::~AxGlobalEnvironmentActuatorDescriptor() = default;

@@ -1,0 +1,8 @@
+#include "AxOccupancyDirectorDescriptor.h"
+
+AxOccupancyDirectorDescriptor::AxOccupancyDirectorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxOccupancyDirectorDescriptor::~AxOccupancyDirectorDescriptor() = default;

@@ -1,0 +1,8 @@
+#include "AxResupplyControllerDescriptor.h"
+
+AxResupplyControllerDescriptor::AxResupplyControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxResupplyControllerDescriptor::~AxResupplyControllerDescriptor() = default;

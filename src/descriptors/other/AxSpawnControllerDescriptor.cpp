@@ -1,0 +1,8 @@
+#include "AxSpawnControllerDescriptor.h"
+
+AxSpawnControllerDescriptor::AxSpawnControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxSpawnControllerDescriptor::~AxSpawnControllerDescriptor() = default;

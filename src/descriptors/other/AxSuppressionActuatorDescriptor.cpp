@@ -1,0 +1,8 @@
+#include "AxSuppressionActuatorDescriptor.h"
+
+AxSuppressionActuatorDescriptor::AxSuppressionActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxSuppressionActuatorDescriptor::~AxSuppressionActuatorDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxTranslatablePartActuatorDescriptor.h"
+
+AxTranslatablePartActuatorDescriptor::AxTranslatablePartActuatorDescriptor(AxSymbolString name,
+                                                                           AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxTranslatablePartActuatorDescriptor::~AxTranslatablePartActuatorDescriptor() = default;

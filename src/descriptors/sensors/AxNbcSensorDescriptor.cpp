@@ -1,0 +1,8 @@
+#include "AxNbcSensorDescriptor.h"
+
+AxNbcSensorDescriptor::AxNbcSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxNbcSensorDescriptor::~AxNbcSensorDescriptor() = default;

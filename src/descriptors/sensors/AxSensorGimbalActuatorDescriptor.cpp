@@ -1,0 +1,9 @@
+#include "AxSensorGimbalActuatorDescriptor.h"
+
+AxSensorGimbalActuatorDescriptor::AxSensorGimbalActuatorDescriptor(AxSymbolString name,
+                                                                   AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxSensorGimbalActuatorDescriptor::~AxSensorGimbalActuatorDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxSensorGimbalControllerDescriptor.h"
+
+AxSensorGimbalControllerDescriptor::AxSensorGimbalControllerDescriptor(AxSymbolString name,
+                                                                       AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxSensorGimbalControllerDescriptor::~AxSensorGimbalControllerDescriptor() = default;

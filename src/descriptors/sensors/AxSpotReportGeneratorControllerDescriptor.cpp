@@ -1,0 +1,9 @@
+#include "AxSpotReportGeneratorControllerDescriptor.h"
+
+AxSpotReportGeneratorControllerDescriptor::AxSpotReportGeneratorControllerDescriptor(AxSymbolString name,
+                                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxSpotReportGeneratorControllerDescriptor::~AxSpotReportGeneratorControllerDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxAggregateAntiAirControllerDescriptor.h"
+
+AxAggregateAntiAirControllerDescriptor::AxAggregateAntiAirControllerDescriptor(AxSymbolString name,
+                                                                               AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxAggregateAntiAirControllerDescriptor::~AxAggregateAntiAirControllerDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxAggregateReleaseBombControllerDescriptor.h"
+
+AxAggregateReleaseBombControllerDescriptor::AxAggregateReleaseBombControllerDescriptor(AxSymbolString name,
+                                                                                       AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxAggregateReleaseBombControllerDescriptor::~AxAggregateReleaseBombControllerDescriptor() = default;

@@ -1,0 +1,8 @@
+#include "AxAimWeaponControllerDescriptor.h"
+
+AxAimWeaponControllerDescriptor::AxAimWeaponControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxAimWeaponControllerDescriptor::~AxAimWeaponControllerDescriptor() = default;

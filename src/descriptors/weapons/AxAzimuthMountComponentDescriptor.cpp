@@ -1,0 +1,9 @@
+#include "AxAzimuthMountComponentDescriptor.h"
+
+AxAzimuthMountComponentDescriptor::AxAzimuthMountComponentDescriptor(AxSymbolString name,
+                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxAzimuthMountComponentDescriptor::~AxAzimuthMountComponentDescriptor() = default;

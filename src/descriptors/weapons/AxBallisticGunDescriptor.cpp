@@ -1,0 +1,9 @@
+#include "AxBallisticGunDescriptor.h"
+
+AxBallisticGunDescriptor::AxBallisticGunDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+    myHitProbabilityFile.setContent(&myHitProbabilityTable);
+}
+
+AxBallisticGunDescriptor::~AxBallisticGunDescriptor() = default;

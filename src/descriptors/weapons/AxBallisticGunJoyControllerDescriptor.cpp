@@ -1,0 +1,10 @@
+#include "AxBallisticGunJoyControllerDescriptor.h"
+
+template class AxJoyDeviceControllerDescriptorTemplate<AxBallisticGunControllerDescriptor>;
+
+AxBallisticGunJoyControllerDescriptor::~AxBallisticGunJoyControllerDescriptor() = default;
+
+AxString AxBallisticGunJoyControllerDescriptor::type() const
+{
+    return "ballistic-gun-joy-ctrl-descriptor";
+}

@@ -1,0 +1,9 @@
+#include "AxCombatRangeControllerDescriptor.h"
+
+AxCombatRangeControllerDescriptor::AxCombatRangeControllerDescriptor(AxSymbolString name,
+                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxCombatRangeControllerDescriptor::~AxCombatRangeControllerDescriptor() = default;

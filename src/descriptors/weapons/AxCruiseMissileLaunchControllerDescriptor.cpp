@@ -1,0 +1,9 @@
+#include "AxCruiseMissileLaunchControllerDescriptor.h"
+
+AxCruiseMissileLaunchControllerDescriptor::AxCruiseMissileLaunchControllerDescriptor(AxSymbolString name,
+                                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxCruiseMissileLaunchControllerDescriptor::~AxCruiseMissileLaunchControllerDescriptor() = default;

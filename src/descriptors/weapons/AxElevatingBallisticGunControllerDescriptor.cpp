@@ -1,0 +1,9 @@
+#include "AxElevatingBallisticGunControllerDescriptor.h"
+
+AxElevatingBallisticGunControllerDescriptor::AxElevatingBallisticGunControllerDescriptor(
+    AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxElevatingBallisticGunControllerDescriptor::~AxElevatingBallisticGunControllerDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxFixedWingGunneryControllerDescriptor.h"
+
+AxFixedWingGunneryControllerDescriptor::AxFixedWingGunneryControllerDescriptor(AxSymbolString name,
+                                                                               AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxFixedWingGunneryControllerDescriptor::~AxFixedWingGunneryControllerDescriptor() = default;

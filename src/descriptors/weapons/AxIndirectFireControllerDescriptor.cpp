@@ -1,0 +1,9 @@
+#include "AxIndirectFireControllerDescriptor.h"
+
+AxIndirectFireControllerDescriptor::AxIndirectFireControllerDescriptor(AxSymbolString name,
+                                                                       AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxIndirectFireControllerDescriptor::~AxIndirectFireControllerDescriptor() = default;

@@ -1,0 +1,10 @@
+#include "AxIntegratedLaserGuidedLauncherDescriptor.h"
+
+AxIntegratedLaserGuidedLauncherDescriptor::AxIntegratedLaserGuidedLauncherDescriptor(AxSymbolString name,
+                                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+    myTargetingControl.setValueSpecified(false, false);
+}
+
+AxIntegratedLaserGuidedLauncherDescriptor::~AxIntegratedLaserGuidedLauncherDescriptor() = default;

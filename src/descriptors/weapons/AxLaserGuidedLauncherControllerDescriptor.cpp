@@ -1,0 +1,9 @@
+#include "AxLaserGuidedLauncherControllerDescriptor.h"
+
+AxLaserGuidedLauncherControllerDescriptor::AxLaserGuidedLauncherControllerDescriptor(AxSymbolString name,
+                                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxLaserGuidedLauncherControllerDescriptor::~AxLaserGuidedLauncherControllerDescriptor() = default;

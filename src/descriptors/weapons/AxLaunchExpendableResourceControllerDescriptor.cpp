@@ -1,0 +1,10 @@
+#include "AxLaunchExpendableResourceControllerDescriptor.h"
+
+AxLaunchExpendableResourceControllerDescriptor::AxLaunchExpendableResourceControllerDescriptor(
+    AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+    myCounterMeasuresSelectTableFile.setContent(&myCounterMeasuresSelectTable);
+}
+
+AxLaunchExpendableResourceControllerDescriptor::~AxLaunchExpendableResourceControllerDescriptor() = default;

@@ -1,0 +1,9 @@
+#include "AxLaunchSmokeControllerDescriptor.h"
+
+AxLaunchSmokeControllerDescriptor::AxLaunchSmokeControllerDescriptor(AxSymbolString name,
+                                                                     AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxLaunchSmokeControllerDescriptor::~AxLaunchSmokeControllerDescriptor() = default;

@@ -1,0 +1,8 @@
+#include "AxLauncherActuatorDescriptor.h"
+
+AxLauncherActuatorDescriptor::AxLauncherActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxLauncherActuatorDescriptor::~AxLauncherActuatorDescriptor() = default;

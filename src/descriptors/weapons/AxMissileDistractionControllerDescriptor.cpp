@@ -1,0 +1,9 @@
+#include "AxMissileDistractionControllerDescriptor.h"
+
+AxMissileDistractionControllerDescriptor::AxMissileDistractionControllerDescriptor(AxSymbolString name,
+                                                                                   AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxMissileDistractionControllerDescriptor::~AxMissileDistractionControllerDescriptor() = default;

@@ -1,0 +1,8 @@
+#include "AxNbcWeaponControllerDescriptor.h"
+
+AxNbcWeaponControllerDescriptor::AxNbcWeaponControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxNbcWeaponControllerDescriptor::~AxNbcWeaponControllerDescriptor() = default;

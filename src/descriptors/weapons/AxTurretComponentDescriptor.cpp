@@ -1,0 +1,8 @@
+#include "AxTurretComponentDescriptor.h"
+
+AxTurretComponentDescriptor::AxTurretComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxTurretComponentDescriptor::~AxTurretComponentDescriptor() = default;

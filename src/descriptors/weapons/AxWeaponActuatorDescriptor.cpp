@@ -1,0 +1,8 @@
+#include "AxWeaponActuatorDescriptor.h"
+
+AxWeaponActuatorDescriptor::AxWeaponActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
+    : AxDescriptorOf(name, registry)
+{
+}
+
+AxWeaponActuatorDescriptor::~AxWeaponActuatorDescriptor() = default;
