@@ -20,3 +20,5 @@ void addLookupCommand(CLI::App& app, int& exitCode);
 void addShowCommand(CLI::App& app, int& exitCode);
 void addCheckCommand(CLI::App& app, int& exitCode);
 void addSaveCommand(CLI::App& app, int& exitCode);
+void addTypesCommand(CLI::App& app, int& exitCode);
+void addExplainCommand(CLI::App& app, int& exitCode);

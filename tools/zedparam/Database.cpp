@@ -3,26 +3,14 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "AxDefaultComponentDescriptorFactory.h"
-#include "AxDefaultParameterFactory.h"
 #include "AxZedObjectParameters.h"
+#include "Factories.h"
 #include "Progress.h"
 #include "ShownPath.h"
 
-namespace
-{
-void setFactories()
-{
-    static AxDefaultComponentDescriptorFactory descriptors;
-    static AxDefaultParameterFactory records;
-    AxComponentDescriptor::setFactory(&descriptors);
-    AxZedObjectParameters::setFactory(&records);
-}
-} // namespace
-
 std::unique_ptr<Database> Database::open(std::string const& file)
 {
-    setFactories();
+    installedFactories();
     auto database = std::make_unique<Database>();
     if (!database->init() || !database->load(AxFilename(file)))
     {

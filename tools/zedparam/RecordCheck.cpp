@@ -13,6 +13,7 @@
 #include "AxRwUnsigned.h"
 #include "AxZedObjectParameters.h"
 #include "Findings.h"
+#include "RangeText.h"
 #include "Source.h"
 
 namespace
@@ -57,25 +58,6 @@ std::string placeOf(AxReaderWriter const& rw)
         place += " of \"" + registry->owner()->name().string().string() + "\"";
     }
     return place;
-}
-
-std::string rangeText(AxRange const& range)
-{
-    std::string text;
-    if (range.low != -axUnbounded)
-    {
-        axAppendReal(text, range.low);
-        text += range.high != axUnbounded ? " to " : " or more";
-    }
-    else
-    {
-        text += "at most ";
-    }
-    if (range.high != axUnbounded)
-    {
-        axAppendReal(text, range.high);
-    }
-    return text;
 }
 
 /// Walks a record and the contents of its files, and knows for each member where it is read.

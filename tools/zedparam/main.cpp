@@ -48,6 +48,8 @@ int run(int argc, char** argv)
     addShowCommand(app, exitCode);
     addCheckCommand(app, exitCode);
     addSaveCommand(app, exitCode);
+    addTypesCommand(app, exitCode);
+    addExplainCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {

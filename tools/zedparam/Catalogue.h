@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "AxKeyword.h"
+
+class JsonWriter;
+
+/// What there is to know of one keyword of one type.
+struct KeywordInfo
+{
+    std::string path; ///< from the record or component inwards, such as "dr-thresholds/translation"
+    std::vector<std::string> aliases;
+    std::string kind;        ///< such as "real" or "list of emitter-beam-entry"
+    std::string defaultText; ///< as in parameter text; empty for records and lists
+    std::string unit;
+    std::string help;
+    AxRange range;
+    std::string from; ///< the type that declares it, else its class
+
+    std::string_view keyword() const { return std::string_view(path).substr(path.rfind('/') + 1); }
+    bool isNested() const { return path.find('/') != std::string::npos; }
+    /// Kind, unit and range in words.
+    std::string valueText() const;
+};
+
+/// One type of record or component with all its keywords in their order, those of nested records after their own.
+struct TypeInfo
+{
+    std::string name;
+    std::string className;
+    bool isRecord = false;
+    std::vector<KeywordInfo> keywords;
+
+    std::size_t ownKeywords() const;
+};
+
+/// Every type that the factories know, records first.
+std::vector<TypeInfo> const& knownTypes();
+
+/// The object members "kind" to "from", into an object that was begun.
+void writeKeyword(JsonWriter& json, KeywordInfo const& keyword);

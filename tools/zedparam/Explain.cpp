@@ -1,0 +1,150 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "AxNearest.h"
+#include "Catalogue.h"
+#include "Json.h"
+
+namespace
+{
+/// One meaning of a keyword: the type that declares it, and where it is found.
+struct Meaning
+{
+    KeywordInfo const* info;
+    std::vector<TypeInfo const*> types;
+    std::vector<KeywordInfo const*> uses; ///< one for each of the types
+};
+
+bool answersTo(KeywordInfo const& info, std::string_view keyword)
+{
+    return info.keyword() == keyword || std::ranges::find(info.aliases, keyword) != info.aliases.end();
+}
+
+std::vector<Meaning> meaningsOf(std::string_view keyword)
+{
+    std::vector<Meaning> meanings;
+    for (TypeInfo const& type : knownTypes())
+    {
+        for (KeywordInfo const& info : type.keywords)
+        {
+            if (!answersTo(info, keyword))
+            {
+                continue;
+            }
+            auto known =
+                std::ranges::find_if(meanings, [&info](Meaning const& other)
+                                     { return other.info->from == info.from && other.info->path == info.path; });
+            if (known == meanings.end())
+            {
+                known = meanings.insert(known, {&info, {}, {}});
+            }
+            known->types.push_back(&type);
+            known->uses.push_back(&info);
+        }
+    }
+    return meanings;
+}
+
+void tellUnknown(std::string const& keyword)
+{
+    std::set<std::string_view> known;
+    for (TypeInfo const& type : knownTypes())
+    {
+        for (KeywordInfo const& info : type.keywords)
+        {
+            known.insert(info.keyword());
+        }
+    }
+    std::fprintf(stderr, "zedparam: no type has the keyword \"%s\"", keyword.c_str());
+    std::vector<std::string_view> const candidates(known.begin(), known.end());
+    if (std::string_view const nearest = axNearest(keyword, candidates); !nearest.empty())
+    {
+        std::fprintf(stderr, "; did you mean \"%s\"?", std::string(nearest).c_str());
+    }
+    std::fprintf(stderr, "\n");
+}
+
+void printMeaning(Meaning const& meaning)
+{
+    KeywordInfo const& info = *meaning.info;
+    std::printf("%s: %s\n  %s\n", info.path.c_str(), info.valueText().c_str(), info.help.c_str());
+    std::printf("  declared by %s\n", info.from.c_str());
+    for (std::string const& alias : info.aliases)
+    {
+        std::printf("  also written %s in %s\n", alias.c_str(), meaning.types.front()->name.c_str());
+    }
+    std::string const& usual = meaning.uses.front()->defaultText;
+    if (!usual.empty())
+    {
+        std::printf("  default %s\n", usual.c_str());
+    }
+    std::printf("  in %zu %s", meaning.types.size(), meaning.types.size() == 1 ? "type" : "types");
+    for (std::size_t i = 0; i < meaning.types.size(); ++i)
+    {
+        std::string const& its = meaning.uses[i]->defaultText;
+        std::string const note = its == usual ? std::string() : " (default " + its + ")";
+        std::printf("%s\n    %s%s", i == 0 ? ":" : ",", meaning.types[i]->name.c_str(), note.c_str());
+    }
+    std::printf("\n");
+}
+
+void printJson(std::vector<Meaning> const& meanings)
+{
+    JsonWriter json;
+    json.beginArray();
+    for (Meaning const& meaning : meanings)
+    {
+        json.beginObject().member("keyword", meaning.info->path);
+        writeKeyword(json, *meaning.info);
+        json.key("types").beginObject();
+        for (std::size_t i = 0; i < meaning.types.size(); ++i)
+        {
+            json.member(meaning.types[i]->name, meaning.uses[i]->defaultText);
+        }
+        json.endObject().endObject();
+    }
+    json.endArray().print();
+}
+} // namespace
+
+void addExplainCommand(CLI::App& app, int& exitCode)
+{
+    struct Options
+    {
+        std::string keyword;
+        bool json = false;
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App* command = app.add_subcommand("explain", "What a keyword means, and which types have it.");
+    command->add_option("KEYWORD", options->keyword, "The keyword, such as max-speed")->required();
+    command->add_flag("--json", options->json, "Print JSON; under \"types\" stands the default of each");
+    command->callback(
+        [options, &exitCode]
+        {
+            std::vector<Meaning> const meanings = meaningsOf(options->keyword);
+            if (meanings.empty())
+            {
+                tellUnknown(options->keyword);
+                exitCode = HasFindings;
+                return;
+            }
+            if (options->json)
+            {
+                printJson(meanings);
+                return;
+            }
+            for (Meaning const& meaning : meanings)
+            {
+                std::printf("%s", &meaning == meanings.data() ? "" : "\n");
+                printMeaning(meaning);
+            }
+        });
+}
