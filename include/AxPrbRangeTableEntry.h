@@ -32,8 +32,8 @@ public:
     /// That of the first outcome of the name, 0.0 when there is none.
     double probability(AxString const& name) const;
 
-    /// Replaces range and outcomes of a row, one after another, reusing the outcomes that are there; those left over
-    /// are deleted when it ends.
+    /// Replaces range and outcomes of a row, one after another, reusing the outcomes that are there; the row keeps
+    /// those left over for the next time.
     class ZEDOBJPARAM_API Refill
     {
     public:
@@ -67,4 +67,5 @@ public:
 
 private:
     double myRange = 0.0;
+    AxList mySpares; // outcomes that a fuller answer takes again, owned
 };

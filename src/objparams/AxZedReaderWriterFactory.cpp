@@ -1,6 +1,7 @@
 #include "AxZedReaderWriterFactory.h"
 
 #include "AxAggregatedMovementDescriptor.h"
+#include "AxDmgMunitionTable.h"
 #include "AxEmbarkationSlotEntry.h"
 #include "AxFormationTable.h"
 #include "AxIntegerResource.h"
@@ -96,6 +97,7 @@ void AxZedReaderWriterFactory::addDefaultRwCreators()
     row("AxLoadPoint", opsOf<AxLoadPoint>(), xmlTypeOf<AxLoadPoint>());
     row(pluralOf<AxLoadPoint>(), opsOf<ListOf<AxLoadPoint>>(), none);
     row(pluralOf<AxEmbarkationSlotEntry>(), opsOf<ListOf<AxEmbarkationSlotEntry>>(), none);
+    row("AxDmgMunitionTable", opsOf<AxDmgMunitionTable>(), list);
     row("AxEmbarkationSlotEntry", opsOf<AxEmbarkationSlotEntry>(), xmlTypeOf<AxEmbarkationSlotEntry>());
     row("AxZedSubObjectParameterEntry", opsOf<AxZedSubObjectParameterEntry>(),
         xmlTypeOf<AxZedSubObjectParameterEntry>());

@@ -21,8 +21,7 @@ AxPrbRangeTableEntry::Refill::~Refill()
     {
         AxListItem* const surplus = myNext;
         myNext = surplus->next();
-        delete element(surplus);
-        static_cast<AxList&>(myRow).remove(surplus);
+        myRow.moveTo(myRow.mySpares, surplus);
     }
     myRow.setFlag(Specified, true);
     myRow.valueAssigned();
@@ -30,6 +29,11 @@ AxPrbRangeTableEntry::Refill::~Refill()
 
 void AxPrbRangeTableEntry::Refill::add(AxSymbolString name, double probability)
 {
+    if (!myNext && !myRow.mySpares.isEmpty())
+    {
+        myNext = myRow.mySpares.first();
+        myRow.mySpares.moveTo(myRow, myNext);
+    }
     if (!myNext)
     {
         if (auto* const outcome = axTryNew<AxRwReal>(name, nullptr))
@@ -83,6 +87,10 @@ AxPrbRangeTableEntry::AxPrbRangeTableEntry(AxPrbRangeTableEntry const& other)
 AxPrbRangeTableEntry::~AxPrbRangeTableEntry()
 {
     AxRwList::removeAndDeleteAll();
+    for (AxListItem const* item = mySpares.first(); item; item = item->next())
+    {
+        delete element(item);
+    }
 }
 
 AxPrbRangeTableEntry& AxPrbRangeTableEntry::operator=(AxPrbRangeTableEntry const& other)

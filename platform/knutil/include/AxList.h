@@ -22,17 +22,17 @@ public:
     /// Grows by one with each item added or removed; lets whoever derives something from the list see that it is old.
     std::uint32_t changeCount() const { return myChangeCount; }
 
-    AxListItem* add(void* data) { return link(myLast, nullptr, data); }
-    AxListItem* addToStart(void* data) { return link(nullptr, myFirst, data); }
+    AxListItem* add(void* data) { return insert(myLast, nullptr, data); }
+    AxListItem* addToStart(void* data) { return insert(nullptr, myFirst, data); }
 
     /// `item` is of this list; null means the end for `insertBefore` and the start for `insertAfter`.
     AxListItem* insertBefore(AxListItem* item, void* data)
     {
-        return link(item != nullptr ? item->myPrevious : myLast, item, data);
+        return insert(item != nullptr ? item->myPrevious : myLast, item, data);
     }
     AxListItem* insertAfter(AxListItem* item, void* data)
     {
-        return link(item, item != nullptr ? item->myNext : myFirst, data);
+        return insert(item, item != nullptr ? item->myNext : myFirst, data);
     }
 
     /// Takes an item of this list out and destroys it; its data stays. Null is ignored.
@@ -42,11 +42,15 @@ public:
         {
             return;
         }
-        (item->myPrevious != nullptr ? item->myPrevious->myNext : myFirst) = item->myNext;
-        (item->myNext != nullptr ? item->myNext->myPrevious : myLast) = item->myPrevious;
+        unlink(item);
         delete item;
-        --myCount;
-        ++myChangeCount;
+    }
+
+    /// Moves an item of this list to the end of `other`. The item stays valid; nothing is allocated.
+    void moveTo(AxList& other, AxListItem* item)
+    {
+        unlink(item);
+        other.link(item, other.myLast, nullptr);
     }
 
     /// Destroys all items; their data stays.
@@ -57,14 +61,28 @@ public:
     }
 
 private:
-    AxListItem* link(AxListItem* previous, AxListItem* next, void* data)
+    AxListItem* insert(AxListItem* previous, AxListItem* next, void* data)
     {
-        auto* item = new AxListItem(previous, next, data);
+        return link(new AxListItem(data), previous, next);
+    }
+
+    AxListItem* link(AxListItem* item, AxListItem* previous, AxListItem* next)
+    {
+        item->myPrevious = previous;
+        item->myNext = next;
         (previous != nullptr ? previous->myNext : myFirst) = item;
         (next != nullptr ? next->myPrevious : myLast) = item;
         ++myCount;
         ++myChangeCount;
         return item;
+    }
+
+    void unlink(AxListItem* item)
+    {
+        (item->myPrevious != nullptr ? item->myPrevious->myNext : myFirst) = item->myNext;
+        (item->myNext != nullptr ? item->myNext->myPrevious : myLast) = item->myPrevious;
+        --myCount;
+        ++myChangeCount;
     }
 
     void clear()

@@ -20,10 +20,10 @@ public:
 private:
     friend class AxList;
 
-    AxListItem(AxListItem* previous, AxListItem* next, void* data) : myPrevious(previous), myNext(next), myData(data) {}
+    explicit AxListItem(void* data) : myData(data) {}
     ~AxListItem() = default;
 
-    AxListItem* myPrevious;
-    AxListItem* myNext;
+    AxListItem* myPrevious = nullptr;
+    AxListItem* myNext = nullptr;
     void* myData;
 };

@@ -3,6 +3,7 @@
 #include "AxReadFrame.h"
 #include "AxReaderWriter.h"
 #include "AxReaderWriterFactory.h"
+#include "AxReaderWriterFile.h"
 #include "AxRegistryShape.h"
 #include "AxRwList.h"
 #include "AxTextReader.h"
@@ -88,6 +89,13 @@ bool isConsumed(AxReaderWriter& record, AxlObj const* item, std::string const& w
         env->addValue(AxString(printed(rest->car())), node);
     }
     return record.unrecognizedItem(env, node, files, bindings);
+}
+
+/// Whether the item would put in place the content of a member that names a file.
+bool isInlineBesideFile(AxReaderWriter const& member, AxlObj const& item)
+{
+    auto const* const file = dynamic_cast<AxReaderWriterFile const*>(&member);
+    return file && !file->filename().isNull() && item.cdr()->car()->isPair();
 }
 } // namespace
 
@@ -235,7 +243,16 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
         }
         return;
     }
-    if (frame.markSeen(place))
+    bool const isRepeated = frame.markSeen(place);
+    if (isRepeated && isInlineBesideFile(*member, *item))
+    {
+        AxDiagnostics::report(
+            diagnostic(AxSeverity::Warning, "file-and-inline", head,
+                       "\"" + std::string(head->text()) + "\" is given in the text and by a file; the file counts"));
+        keepItem(member->AxReaderWriter::name(), printed(item));
+        return;
+    }
+    if (isRepeated)
     {
         AxDiagnostics::report(
             diagnostic(AxSeverity::Warning, "repeated-keyword", head,

@@ -24,7 +24,7 @@ constexpr Row theRows[] = {
     {"AxLoadPoint", "loadPoint", true},
     {"loadPoints", "", true},
     {"embarkationSlots", "", true},
-    {"AxDmgMunitionTable", "list", false},
+    {"AxDmgMunitionTable", "list", true},
     {"AxEmbarkationSlotEntry", "embarkationSlot", true},
     {"AxZedSubObjectParameterEntry", "AxZedSubObjectParameterEntry", true},
     {"AxZedSubObjectParameterList", "AxZedSubObjectParameterList", true},
