@@ -3,9 +3,11 @@
 #include "AxComponentSystemDescriptor.h"
 #include "AxDefaultComponentDescriptorFactory.h"
 #include "AxDefaultParameterFactory.h"
+#include "AxDmgMunitionTable.h"
 #include "AxMovingObjectParameters.h"
 #include "AxObjectSensorDescriptor.h"
 #include "AxRangeProbabilityTable.h"
+#include "AxScriptEnableControllerDescriptor.h"
 #include "AxSinkScope.h"
 #include "AxSxpParameterDb.h"
 #include "AxSxpParameterDbEntry.h"
@@ -83,6 +85,30 @@ TEST_F(ExampleForce, AmmunitionTableGivesSabotForTanksAndHeatForTheRest)
     };
     EXPECT_EQ(first(AxEntityType(1, 1, 222, 1, 2, 6, 0)), "120mm-sabot");
     EXPECT_EQ(first(AxEntityType(1, 1, 222, 2, 2, 1, 0)), "120mm-heat");
+}
+
+TEST_F(ExampleForce, ArmorAnswersByMunitionSurfaceAngleAndMiss)
+{
+    std::unique_ptr<AxSxpParameterDb> const database = loadAll(theForce + "force.opd");
+    AxComponentSystemDescriptor const* armor =
+        database->lookup(theTank)->systemDescriptorList().lookupComponentSystemDescriptor("armor");
+    auto const& assessor = dynamic_cast<AxScriptEnableControllerDescriptor const&>(
+        *armor->systemDefinition()->controllerDescriptorList().lookupComponentDescriptor("damage-assessor"));
+    auto const& table = dynamic_cast<AxDmgMunitionTable const&>(*assessor.scriptVariables().find("damage")->rwValue());
+    AxSimMunition heat;
+    heat.setMunitionType(AxObjectType(2, 2, 225, 2, 13, 3, 0, 1));
+    AxSimMunition sabot;
+    sabot.setMunitionType(AxObjectType(2, 2, 225, 2, 13, 8, 0, 1));
+    AxPrbRangeTableEntry row;
+    EXPECT_TRUE(table.getProbabilities(sabot, "front", 50.0, 0.0, &row, true));
+    EXPECT_EQ(row.probability("catastrophic"), 0.05) << "more than 45, up to 75 degrees";
+    EXPECT_TRUE(table.getProbabilities(heat, "side", 10.0, 0.8, &row, true));
+    EXPECT_EQ(row.probability("mobility"), 0.3) << "a near miss";
+    EXPECT_TRUE(table.getProbabilities(heat, "side", 10.0, 2.0, &row, false));
+    EXPECT_DOUBLE_EQ(row.probability("mobility"), 0.2) << "0.3 - 0.05 r";
+    EXPECT_FALSE(table.getProbabilities(sabot, "side", 10.0, 2.0, &row, false)) << "a rod has no blast";
+    EXPECT_EQ(table.getMaximumDamageRadius(heat), 8.0) << "where the line of the rear ends";
+    EXPECT_EQ(table.getMaximumSuppressionRadius(heat), 25.0);
 }
 
 TEST_F(ExampleForce, SystemsTakeTheValuesThatTheRecordSets)

@@ -2,18 +2,22 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 #include <utility>
 #include <vector>
 
 #include "AxNumberText.h"
+#include "AxPrbRangeList.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwInt.h"
 #include "AxRwList.h"
+#include "AxRwProperty.h"
 #include "AxRwReal.h"
 #include "AxRwUnsigned.h"
 #include "AxZedObjectParameters.h"
 #include "Findings.h"
 #include "RangeText.h"
+#include "RowCheck.h"
 #include "Source.h"
 
 namespace
@@ -69,6 +73,10 @@ public:
     void run(AxZedObjectParameters& record)
     {
         visitBelow(record);
+        for (std::size_t const place : myFilesWithRows)
+        {
+            checkRows(myFiles[place], myFindings);
+        }
         for (auto const& [name, value] : record.unboundVariables())
         {
             reportVariable(name.string());
@@ -94,11 +102,20 @@ private:
         }
         if (auto const* list = dynamic_cast<AxRwList const*>(&rw))
         {
+            if (dynamic_cast<AxPrbRangeList const*>(list) != nullptr)
+            {
+                myFilesWithRows.insert(myFile);
+            }
             for (AxListItem const* item = list->first(); item != nullptr; item = item->next())
             {
                 AxReaderWriter& element = *AxRwList::element(item);
                 visit(element.name(), element);
             }
+        }
+        auto const* property = dynamic_cast<AxRwProperty const*>(&rw);
+        if (property != nullptr && property->rwValue() != nullptr)
+        {
+            visitBelow(*property->rwValue());
         }
         auto const* file = dynamic_cast<AxReaderWriterFile const*>(&rw);
         if (file != nullptr && file->content() != nullptr && file->contentKind() != Kind::Member)
@@ -182,7 +199,8 @@ private:
 
     std::vector<std::string> myFiles; // the record's own first
     std::size_t myFile = 0;           // the one that is walked
-    std::vector<SourceStep> myPath;   // from its first expression inwards
+    std::set<std::size_t> myFilesWithRows;
+    std::vector<SourceStep> myPath; // from its first expression inwards
     Findings& myFindings;
 };
 } // namespace

@@ -87,26 +87,17 @@ AxlObj const* Source::reference(std::string_view variable) const
                    });
 }
 
-AxlObj const* Source::probability(double range, std::string_view outcome, double value) const
+void Source::forEachList(std::function<void(AxlObj const& list)> const& visit) const
 {
-    auto const inRow = [&](AxlObj const& row) -> AxlObj const*
-    {
-        AxlObj const* items = row.cdr();
-        if (!items->car()->isNumber() || items->car()->flonum() != range)
-        {
-            return nullptr;
-        }
-        for (items = items->cdr(); items->isPair(); items = items->cdr())
-        {
-            AxlObj const& item = *items->car();
-            if (item.car()->text() == outcome && item.cdr()->car()->isNumber() && item.cdr()->car()->flonum() == value)
+    firstOf(*myExpression,
+            [&](AxlObj const& cell) -> AxlObj const*
             {
-                return item.cdr()->car();
-            }
-        }
-        return nullptr;
-    };
-    return firstOf(*myExpression, inRow);
+                if (cell.isPair())
+                {
+                    visit(cell);
+                }
+                return nullptr;
+            });
 }
 
 void Source::setPlace(AxDiagnostic& finding, AxlObj const* cell)

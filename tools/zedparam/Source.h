@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,8 +30,8 @@ public:
     AxlObj const* value(std::vector<SourceStep> const& path) const;
     /// The first `$variable`, or string with `$(variable)` in it.
     AxlObj const* reference(std::string_view variable) const;
-    /// The probability of an outcome in the first row of that range that gives it so.
-    AxlObj const* probability(double range, std::string_view outcome, double value) const;
+    /// Shows `visit` every list, each before those in it.
+    void forEachList(std::function<void(AxlObj const& list)> const& visit) const;
 
     /// Sets line and column to those of `cell` unless it is null.
     static void setPlace(AxDiagnostic& finding, AxlObj const* cell);

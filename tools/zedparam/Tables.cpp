@@ -2,19 +2,17 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "AxAmmoSelectTable.h"
-#include "AxDetectionPrbRangeLookupEntry.h"
+#include "AxDmgSurfaceTable.h"
 #include "AxFormationTable.h"
-#include "AxNumberText.h"
 #include "AxRangeProbabilityTable.h"
 #include "AxReaderWriterFile.h"
 #include "AxSourceScope.h"
 #include "Database.h"
 #include "Findings.h"
 #include "Progress.h"
-#include "Source.h"
+#include "RowCheck.h"
 
 namespace
 {
@@ -30,43 +28,6 @@ bool load(fs::path const& path, AxReaderWriter& table)
     return file.load({}, {});
 }
 
-void checkRow(std::string const& path, AxPrbRangeTableEntry const& row, Findings& findings)
-{
-    for (AxRwReal const* outcome : row)
-    {
-        if (!(outcome->value() >= 0.0 && outcome->value() <= 1.0))
-        {
-            AxDiagnostic finding;
-            finding.severity = AxSeverity::Warning;
-            finding.code = "out-of-range";
-            finding.file = path;
-            finding.text = "probability of \"" + outcome->name().string().string() + "\" at ";
-            axAppendReal(finding.text, row.range());
-            finding.text += " m is ";
-            axAppendReal(finding.text, outcome->value());
-            finding.text += ", expected 0 to 1";
-            Source::setPlace(finding, Source(path).probability(row.range(), outcome->name().view(), outcome->value()));
-            findings.add(std::move(finding));
-        }
-    }
-}
-
-void checkRows(std::string const& path, AxRangeProbabilityTable const& table, Findings& findings)
-{
-    for (AxListItem const* item = table.first(); item != nullptr; item = item->next())
-    {
-        auto const* entry = dynamic_cast<AxDetectionPrbRangeLookupEntry const*>(AxRwList::element(item));
-        if (entry == nullptr)
-        {
-            continue;
-        }
-        AxPrbRangeList const& rows = entry->determinant().rangeList();
-        for (AxListItem const* row = rows.first(); row != nullptr; row = row->next())
-        {
-            checkRow(path, *AxPrbRangeList::row(row), findings);
-        }
-    }
-}
 } // namespace
 
 std::vector<fs::path> tableFiles(Database const& database)
@@ -99,7 +60,7 @@ std::size_t checkTables(std::vector<fs::path> const& files, Findings& findings)
         {
             AxRangeProbabilityTable table("table", nullptr);
             loaded += load(file, table);
-            checkRows(file.string(), table, findings);
+            checkRows(file.string(), findings);
         }
         else if (file.extension() == ".asl")
         {
@@ -110,6 +71,12 @@ std::size_t checkTables(std::vector<fs::path> const& files, Findings& findings)
         {
             AxFormationTable table("table", nullptr);
             loaded += load(file, table);
+        }
+        else if (file.extension() == ".dmg")
+        {
+            AxDmgSurfaceTable table("table", nullptr);
+            loaded += load(file, table);
+            checkRows(file.string(), findings);
         }
         progress.step();
     }
