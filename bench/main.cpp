@@ -1,4 +1,5 @@
 #include "BenchRecord.h"
+#include "Damage_bench.h"
 #include "Lookup_bench.h"
 #include "Record_bench.h"
 
@@ -33,6 +34,7 @@ int main(int argc, char** argv)
     {
         setUpFactories();
         registerLargestDescriptor();
+        registerDamageQueries();
         registerLookups(typesFile);
         benchmark::RunSpecifiedBenchmarks();
         benchmark::Shutdown();

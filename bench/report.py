@@ -61,6 +61,7 @@ def jobs(found):
             yield f"growth of {kind}, {sizes[0]} to {sizes[-1]}", most, least, None if kind == "exact" else 1 / 2
     for size in sizes:
         yield f"add one of {size} entries", f"insert-{size}/ours", None, None
+    yield "damage query", "damage-query/ours", None, 1000
     yield "load one of 10000 record files", "record-files/ours", "record-files/protobuf", 4
     yield "database file, per entry", "database-file/ours", "database-file/protobuf", 3
 
