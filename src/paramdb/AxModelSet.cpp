@@ -1,0 +1,356 @@
+#include "AxModelSet.h"
+
+#include "AxReaderWriterFactory.h"
+#include "AxSimulationObjectGroupModelSetEntry.h"
+
+#include <algorithm>
+
+namespace
+{
+/// Elements are read through cells, one by one, so that a fault leaves those in front of it.
+AxTypeOps typeOps()
+{
+    AxTypeOps ops = AxTypeOps::withCreator<AxModelSet>();
+    ops.readElement = [](AxRwList&, AxTextReader&, AxFilenameList const&, AxBindingsList const&) { return false; };
+    return ops;
+}
+
+AxTypeEntry<AxModelSet> const typeEntry(typeOps());
+
+int equalFields(AxObjectType const& a, AxObjectType const& b)
+{
+    int count = 0;
+    for (std::size_t i = 0; i < AxObjectType::theNumFields; ++i)
+    {
+        count += a.fields()[i] == b.fields()[i] ? 1 : 0;
+    }
+    return count;
+}
+
+/// The shift by 23 is part of the format of the identifiers, which scenarios store.
+std::uint32_t labelHash(std::string_view label)
+{
+    std::uint32_t hash = 0;
+    for (char const byte : label)
+    {
+        hash = (hash << 4) + static_cast<unsigned char>(byte);
+        std::uint32_t const high = hash & 0xF0000000U;
+        hash = (hash ^ (high >> 23)) & ~high;
+    }
+    return hash;
+}
+
+template <class Fits>
+AxModelSetEntry* firstOf(AxModelSet const& models, Fits const& fits)
+{
+    for (AxModelSetEntry* entry : models)
+    {
+        if (fits(entry))
+        {
+            return entry;
+        }
+    }
+    return nullptr;
+}
+/// All values, but not an empty identifier: scenarios know the entry by the one it has.
+void takeOver(AxModelSetEntry& known, AxModelSetEntry const& entry)
+{
+    using Group = AxSimulationObjectGroupModelSetEntry;
+    AxString const id = known.uniqueId();
+    auto* const knownGroup = dynamic_cast<Group*>(&known);
+    auto const* const group = dynamic_cast<Group const*>(&entry);
+    if (knownGroup && group)
+    {
+        *knownGroup = *group;
+    }
+    else
+    {
+        known = entry;
+    }
+    if (known.uniqueId().isNull() && !id.isNull())
+    {
+        known.setUniqueId(id);
+    }
+}
+} // namespace
+
+AxModelSet::AxModelSet(AxSymbolString name, AxReaderWriterRegistry* registry) : AxRwList(name, registry) {}
+
+AxModelSet::AxModelSet(AxModelSet const& other) : AxModelSet(other.AxReaderWriter::name(), nullptr)
+{
+    *this = other;
+}
+
+AxModelSet::~AxModelSet()
+{
+    AxRwList::removeAndDeleteAll();
+}
+
+AxModelSet& AxModelSet::operator=(AxModelSet const& other)
+{
+    if (this != &other)
+    {
+        clear();
+        copyList(other);
+        assign(other);
+    }
+    return *this;
+}
+
+AxModelSet* AxModelSet::create(AxSymbolString name, AxReaderWriterRegistry* registry)
+{
+    return new AxModelSet(name, registry);
+}
+
+void AxModelSet::copyList(AxModelSet const& other)
+{
+    AxListItem const* const last = other.last(); // other may be this set
+    for (AxListItem const* item = last ? other.first() : nullptr; item; item = item == last ? nullptr : item->next())
+    {
+        auto const* const entry = static_cast<AxModelSetEntry const*>(element(item));
+        add(entry->clone());
+        addCategoriesFrom(*entry);
+    }
+    myNextGroupType = std::max(myNextGroupType, other.myNextGroupType);
+}
+
+void AxModelSet::addToEnd(AxReaderWriter* rw)
+{
+    auto* const entry = dynamic_cast<AxModelSetEntry*>(rw);
+    if (!entry)
+    {
+        return;
+    }
+    bool const isIndexed = myIndexedChange == changeCount();
+    AxRwList::addToEnd(entry);
+    if (isIndexed)
+    {
+        myIndex.emplace(entry->objectType(), entry);
+        myIndexedChange = changeCount();
+    }
+}
+
+void AxModelSet::removeAndDeleteAll()
+{
+    AxRwList::removeAndDeleteAll();
+    myCategories.clear();
+}
+
+AxlObjPtr AxModelSet::getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    bool const isGroup = item->car()->text() == AxSimulationObjectGroupModelSetEntry::theElementWord().view();
+    std::unique_ptr<AxModelSetEntry> entry;
+    if (isGroup)
+    {
+        entry = std::make_unique<AxSimulationObjectGroupModelSetEntry>(AxSymbolString(), nullptr);
+    }
+    else
+    {
+        entry = std::make_unique<AxModelSetEntry>(AxSymbolString(), nullptr);
+    }
+    entry->getSelf(item, files, bindings);
+    if (myKeepsAll)
+    {
+        AxRwList::addToEnd(entry.release());
+    }
+    else
+    {
+        adopt(std::move(entry));
+    }
+    return item;
+}
+
+AxModelSetEntry* AxModelSet::addModel(AxModelSetEntry* entry, bool copy)
+{
+    if (!entry)
+    {
+        return nullptr;
+    }
+    auto* const group = dynamic_cast<AxSimulationObjectGroupModelSetEntry*>(entry);
+    if (group && group->objectType().isNull())
+    {
+        group->setObjectType(myNextGroupType);
+    }
+    if (AxModelSetEntry* const known = find(entry->objectType()))
+    {
+        takeOver(*known, *entry);
+        addCategoriesFrom(*known);
+        return known;
+    }
+    AxModelSetEntry* const added = copy ? entry->clone() : entry;
+    if (added->uniqueId().isNull())
+    {
+        AxString const base = createUniqueID(*added);
+        AxString id = base;
+        for (int number = 1; findByUniqueID(id); ++number)
+        {
+            id = base + "-" + AxString(std::to_string(number));
+        }
+        added->setUniqueId(id);
+    }
+    add(added);
+    addCategoriesFrom(*added);
+    if (group)
+    {
+        updateNextSimulationObjectGroupObjectType(added->objectType());
+    }
+    return added;
+}
+
+void AxModelSet::adopt(std::unique_ptr<AxModelSetEntry> entry)
+{
+    if (addModel(entry.get(), false) == entry.get())
+    {
+        static_cast<void>(entry.release());
+    }
+}
+
+bool AxModelSet::removeModel(AxObjectType const& type)
+{
+    return removeModel(find(type));
+}
+
+bool AxModelSet::removeModel(AxModelSetEntry* entry)
+{
+    AxListItem* const item = entry ? itemOf(entry) : nullptr;
+    if (!item)
+    {
+        return false;
+    }
+    remove(entry, item);
+    delete entry;
+    myCategories.clear();
+    for (AxModelSetEntry const* left : *this)
+    {
+        addCategoriesFrom(*left);
+    }
+    return true;
+}
+
+void AxModelSet::refreshIndex() const
+{
+    if (myIndexedChange != changeCount())
+    {
+        myIndex.clear();
+        for (AxModelSetEntry* entry : *this)
+        {
+            myIndex.emplace(entry->objectType(), entry);
+        }
+        myIndexedChange = changeCount();
+    }
+}
+
+AxModelSetEntry* AxModelSet::find(AxObjectType const& type) const
+{
+    refreshIndex();
+    auto const found = myIndex.find(type);
+    if (found != myIndex.end() && found->second->objectType() == type)
+    {
+        return found->second;
+    }
+    // A caller may have given an entry another type since.
+    return myTypesAreKnown
+               ? nullptr
+               : firstOf(*this, [&type](AxModelSetEntry const* entry) { return entry->objectType() == type; });
+}
+
+AxModelSetEntry* AxModelSet::findMatchingPattern(AxObjectType const& type) const
+{
+    AxModelSetEntry* best = nullptr;
+    int most = -1;
+    for (AxModelSetEntry* entry : *this)
+    {
+        if (!type.matchPattern(entry->objectType()))
+        {
+            continue;
+        }
+        if (int const count = equalFields(type, entry->objectType()); count >= most)
+        {
+            most = count;
+            best = entry;
+        }
+    }
+    return best;
+}
+
+AxModelSetEntry* AxModelSet::findByLabel(AxString const& label) const
+{
+    return firstOf(*this, [&label](AxModelSetEntry const* entry) { return entry->label() == label; });
+}
+
+AxModelSetEntry* AxModelSet::findByUniqueID(AxString const& id) const
+{
+    return firstOf(*this, [&id](AxModelSetEntry const* entry) { return entry->uniqueId() == id; });
+}
+
+AxSimulationObjectGroupModelSetEntry* AxModelSet::findSimulationObjectGroup(AxString const& name) const
+{
+    using Group = AxSimulationObjectGroupModelSetEntry;
+    auto const isIt = [&name](AxModelSetEntry const* entry)
+    { return entry->label() == name && dynamic_cast<Group const*>(entry); };
+    return static_cast<Group*>(firstOf(*this, isIt));
+}
+
+AxObjectType AxModelSet::objectTypeFor(AxString const& label) const
+{
+    AxModelSetEntry const* const entry = findByLabel(label);
+    return entry ? entry->objectType() : AxObjectType::nullType();
+}
+
+void AxModelSet::entitiesForObjectType(AxObjectType const& type, std::list<AxString>& out) const
+{
+    for (AxModelSetEntry const* entry : *this)
+    {
+        if (entry->objectType().matchPattern(type))
+        {
+            out.push_back(entry->label());
+        }
+    }
+}
+
+AxString AxModelSet::createUniqueID(AxString const& label)
+{
+    return AxString("ModelSet-" + std::to_string(labelHash(label.string())) + '-' + label.string());
+}
+
+std::set<AxString> AxModelSet::categories() const
+{
+    std::set<AxString> all;
+    for (auto const& [palette, categories] : myCategories)
+    {
+        all.insert(categories.begin(), categories.end());
+    }
+    return all;
+}
+
+std::set<AxString> const& AxModelSet::categoriesForPalette(AxString const& palette) const
+{
+    static std::set<AxString> const none;
+    auto const found = myCategories.find(palette);
+    return found == myCategories.end() ? none : found->second;
+}
+
+void AxModelSet::addCategoriesFrom(AxModelSetEntry const& entry)
+{
+    for (AxString const& palette : entry.onPalettes())
+    {
+        myCategories[palette].insert(entry.categories().begin(), entry.categories().end());
+    }
+}
+
+void AxModelSet::updateNextSimulationObjectGroupObjectType(AxObjectType const& used)
+{
+    if (used < myNextGroupType)
+    {
+        return;
+    }
+    constexpr std::int32_t last = 255;
+    AxObjectType::Fields fields = used.fields();
+    std::size_t i = fields.size() - 1;
+    for (; i > 0 && fields[i] >= last; --i)
+    {
+        fields[i] = 0;
+    }
+    ++fields[i];
+    myNextGroupType = AxObjectType(fields);
+}

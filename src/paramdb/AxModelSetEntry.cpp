@@ -1,0 +1,65 @@
+#include "AxModelSetEntry.h"
+
+#include "AxReaderWriterFactory.h"
+
+static AxTypeEntry<AxModelSetEntry> const typeEntry{AxTypeOps::withCreator<AxModelSetEntry>()};
+
+namespace
+{
+std::vector<AxString> const& defaultPalettes()
+{
+    static std::vector<AxString> const palettes{"EntityCreationPalette"};
+    return palettes;
+}
+} // namespace
+
+AxModelSetEntry::AxModelSetEntry(AxSymbolString name, AxReaderWriterRegistry* registry) : AxRecordOf(name, registry)
+{
+    myOnPalettes = defaultPalettes();
+}
+
+AxModelSetEntry::~AxModelSetEntry() = default;
+
+AxModelSetEntry& AxModelSetEntry::operator=(AxModelSetEntry const& other)
+{
+    AxRecordOf::operator=(other);
+    myPlatform = other.myPlatform;
+    return *this;
+}
+
+AxModelSetEntry* AxModelSetEntry::clone() const
+{
+    auto* const made = new AxModelSetEntry(AxReaderWriter::name(), nullptr);
+    *made = *this;
+    return made;
+}
+
+AxSymbolString AxModelSetEntry::elementWord() const
+{
+    static AxSymbolString const word("model");
+    return word;
+}
+
+void AxModelSetEntry::addOnPalette(AxString const& palette)
+{
+    if (!myOnPalettes.contains(palette))
+    {
+        myOnPalettes.add(palette);
+    }
+}
+
+void AxModelSetEntry::setOnlyOnPalette(AxString const& palette)
+{
+    assignSpecified(myOnPalettes, std::vector<AxString>{palette});
+}
+
+void AxModelSetEntry::putSelf(std::string& out, int indent, bool all, AxFilename const& file)
+{
+    writeAs(elementWord(), out, indent, all, file);
+}
+
+void AxModelSetEntry::reset()
+{
+    AxRecordOf::reset();
+    myOnPalettes = defaultPalettes();
+}

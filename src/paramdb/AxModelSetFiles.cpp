@@ -1,0 +1,182 @@
+#include "AxModelSet.h"
+#include "AxParameterDbFiles.h"
+#include "AxReadWholeFile.h"
+#include "AxReplaceFile.h"
+#include "AxSimulationObjectGroupModelSetEntry.h"
+#include "AxStreams.h"
+#include "AxTextReader.h"
+#include "AxlSyntaxError.h"
+
+#include <algorithm>
+#include <boost/filesystem/operations.hpp>
+#include <cstring>
+#include <exception>
+
+namespace
+{
+namespace fs = boost::filesystem;
+
+/// The regular files of that extension, sorted by name. False, after a report, for what is no readable directory.
+bool filesIn(AxFilename const& directory, char const* extension, std::vector<AxFilename>& files)
+{
+    boost::system::error_code error;
+    fs::directory_iterator walk(directory.native(), error);
+    for (fs::directory_iterator const end; !error && walk != end; walk.increment(error))
+    {
+        boost::system::error_code unknown;
+        if (walk->path().extension() == extension && fs::is_regular_file(walk->path(), unknown))
+        {
+            files.push_back(directory.combine(AxFilename(walk->path().filename().string())));
+        }
+    }
+    if (error)
+    {
+        AxDiagnostics::report(
+            axFault("unreadable-directory", directory, "cannot be read as a directory: " + error.message()));
+        return false;
+    }
+    std::sort(files.begin(), files.end());
+    return true;
+}
+
+bool failedToParse(AxDiagnostic fault, AxFilename const& file)
+{
+    AxDiagnostics::reportStated(std::move(fault), axFormat("Error parsing %s\n", file.native().c_str()));
+    return false;
+}
+
+bool parse(AxReaderWriter& rw, std::string const& text, AxFilename const& file)
+{
+    AxSourceScope const scope(file);
+    try
+    {
+        AxlInputStream stream(text);
+        AxTextReader reader(stream);
+        reader.read(rw, {file.directory()}, AxReaderWriter::nullVariableReference());
+        if (reader.unclosed())
+        {
+            return failedToParse(
+                AxlSyntaxError("unclosed-list", "list is never closed", reader.unclosedLine(), reader.unclosedColumn())
+                    .diagnostic(),
+                file);
+        }
+        if (rw.invalid())
+        {
+            AxWarn("Error parsing %s\n", file.native().c_str());
+            return false;
+        }
+        return true;
+    }
+    catch (AxlSyntaxError const& error)
+    {
+        return failedToParse(error.diagnostic(), file);
+    }
+    catch (std::exception const& error)
+    {
+        return failedToParse(axFault("read-failed", file, error.what()), file);
+    }
+}
+} // namespace
+
+class AxModelSet::Loading
+{
+public:
+    explicit Loading(AxModelSet& models) : myModels(models)
+    {
+        models.myIndexedChange = models.changeCount() - 1;
+        models.refreshIndex();
+        models.myTypesAreKnown = true;
+    }
+    Loading(Loading const&) = delete;
+    Loading& operator=(Loading const&) = delete;
+    ~Loading() { myModels.myTypesAreKnown = false; }
+
+private:
+    AxModelSet& myModels;
+};
+
+bool AxModelSet::load(AxFilename const& file)
+{
+    std::string text;
+    int error = 0;
+    if (!axReadWholeFile(file, text, error))
+    {
+        std::string const why = std::strerror(error);
+        AxDiagnostics::reportStated(axFault("unreadable-file", file, "cannot be read: " + why),
+                                    axFormat("AxModelSet::load() :          error opening %s for reading: %s\n",
+                                             file.native().c_str(), why.c_str()));
+        return false;
+    }
+    AxModelSet read(AxReaderWriter::name(), nullptr);
+    read.myKeepsAll = true;
+    bool const isRead = parse(read, text, file);
+    takeIn(read);
+    return isRead;
+}
+
+void AxModelSet::takeIn(AxModelSet& read)
+{
+    if (AxReaderWriter::name().isNull())
+    {
+        setName(read.AxReaderWriter::name().string());
+    }
+    if (read.myVersion.valueSpecified())
+    {
+        myVersion = read.myVersion;
+    }
+    if (read.myComment.valueSpecified())
+    {
+        myComment = read.myComment;
+    }
+    for (auto const& [after, item] : read.keptItems())
+    {
+        keepItem(after, item);
+    }
+    Loading const scope(*this);
+    while (AxListItem* const item = read.first())
+    {
+        std::unique_ptr<AxModelSetEntry> entry(static_cast<AxModelSetEntry*>(element(item)));
+        read.AxList::remove(item);
+        adopt(std::move(entry));
+    }
+}
+
+bool AxModelSet::save(AxFilename const& file)
+{
+    AxSymbolString const head = AxReaderWriter::name().isNull() ? AxSymbolString("model-set") : AxReaderWriter::name();
+    std::string text;
+    writeAs(head, text, 0, false, file);
+    text += '\n';
+    int error = 0;
+    if (axReplaceFile(file, text, error))
+    {
+        return true;
+    }
+    AxDiagnostics::report(axFault("unwritable-file", file, std::string("cannot be written: ") + std::strerror(error)));
+    return false;
+}
+
+bool AxModelSet::loadSimulationObjectGroupFiles(AxFilename const& directory)
+{
+    std::vector<AxFilename> files;
+    return filesIn(directory, ".sog", files) && addGroups(files);
+}
+
+bool AxModelSet::addGroups(std::vector<AxFilename> const& files)
+{
+    Loading const scope(*this);
+    bool areAllRead = true;
+    for (AxFilename const& file : files)
+    {
+        auto group = std::make_unique<AxSimulationObjectGroupModelSetEntry>(AxSymbolString(), nullptr);
+        if (group->load(file))
+        {
+            adopt(std::move(group));
+        }
+        else
+        {
+            areAllRead = false;
+        }
+    }
+    return areAllRead;
+}

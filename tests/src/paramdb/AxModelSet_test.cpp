@@ -1,0 +1,328 @@
+#include "AxModelSet.h"
+
+#include "AxSimulationObjectGroupModelSetEntry.h"
+#include "DatabaseFixture.h"
+
+#include <random>
+
+namespace
+{
+using Group = AxSimulationObjectGroupModelSetEntry;
+
+class AxModelSetTest : public DatabaseFixture
+{
+protected:
+    AxModelSetEntry* add(char const* type, char const* label, char const* category = nullptr)
+    {
+        auto entry = std::make_unique<AxModelSetEntry>("", nullptr);
+        entry->setObjectType(typeOf(type));
+        entry->setLabel(label);
+        if (category)
+        {
+            entry->categories().add(category);
+        }
+        AxModelSetEntry* const added = models.addModel(entry.get(), false);
+        if (added == entry.get())
+        {
+            static_cast<void>(entry.release());
+        }
+        return added;
+    }
+    bool load(std::string const& items) { return models.load(put("all.models", "(model-set " + items + ")\n")); }
+    std::string labels() const
+    {
+        std::string text;
+        for (AxModelSetEntry const* entry : models)
+        {
+            text += (text.empty() ? "" : " ") + entry->label().string();
+        }
+        return text;
+    }
+    static std::string labelOf(AxModelSetEntry const* entry) { return entry ? entry->label().string() : "none"; }
+    static std::string joined(std::set<AxString> const& words)
+    {
+        std::string text;
+        for (AxString const& word : words)
+        {
+            text += (text.empty() ? "" : " ") + word.string();
+        }
+        return text;
+    }
+
+    AxModelSet models{"model-set", nullptr};
+};
+} // namespace
+
+TEST_F(AxModelSetTest, NewEntryMayBeCreatedFromOnePalette)
+{
+    AxModelSetEntry const entry("", nullptr);
+    EXPECT_TRUE(entry.canCreate());
+    EXPECT_FALSE(entry.canAggregate());
+    EXPECT_TRUE(entry.includeInBvSpCalcs());
+    EXPECT_EQ(entry.onPalettes().value(), std::vector<AxString>{"EntityCreationPalette"});
+    EXPECT_TRUE(entry.objectType().isNull());
+    EXPECT_EQ(entry.writtenText(), "(model)\n");
+}
+
+TEST_F(AxModelSetTest, EntryReadsAndWritesItsKeywordsInOrder)
+{
+    AxModelSetEntry entry("", nullptr);
+    std::string const text = "(model\n  (can-create false)\n  (can-aggregate true)\n  (label \"M1A2\")\n"
+                             "  (unique-id \"ModelSet-329026-M1A2\")\n  (keywords \"tank heavy\")\n"
+                             "  (menu-icon \"tank.png\")\n  (default-overlay-layer \"Vehicles\")\n"
+                             "  (object-type 1 1 1 225 1 1 3 0)\n  (force-types 1 3)\n"
+                             "  (on-palettes \"Armour\" \"EntityCreationPalette\")\n  (categories \"Tank\")\n"
+                             "  (deployable-countries \"US\")\n  (include-in-bv-sp-calcs false))\n";
+    ASSERT_TRUE(entry.readText(text, "m.models", {}, {}));
+    EXPECT_EQ(entry.writtenText(), text);
+    AxModelSetEntry back("", nullptr);
+    EXPECT_TRUE(back.fromXml(entry.toXml()));
+    EXPECT_EQ(back.writtenText(), text);
+    EXPECT_EQ(warned(), "");
+}
+
+TEST_F(AxModelSetTest, EntryIsTakenOnAndOffPalettes)
+{
+    AxModelSetEntry entry("", nullptr);
+    entry.addOnPalette("Armour");
+    entry.addOnPalette("Armour");
+    EXPECT_EQ(entry.onPalettes().size(), 2U);
+    entry.removeOnPalette("EntityCreationPalette");
+    EXPECT_EQ(entry.writtenText(), "(model\n  (on-palettes \"Armour\"))\n");
+    entry.setOnlyOnPalette("Ships");
+    EXPECT_EQ(entry.onPalettes().value(), std::vector<AxString>{"Ships"});
+    entry.reset();
+    EXPECT_EQ(entry.onPalettes().value(), std::vector<AxString>{"EntityCreationPalette"});
+    ASSERT_TRUE(entry.readText("(model (on-palettes))", "m.models", {}, {}));
+    EXPECT_TRUE(entry.onPalettes().empty());
+}
+
+TEST_F(AxModelSetTest, CloneCarriesThePlatform)
+{
+    AxModelSetEntry entry("", nullptr);
+    entry.setPlatform("m1a2");
+    entry.setLabel("M1A2");
+    std::unique_ptr<AxModelSetEntry> const clone(entry.clone());
+    EXPECT_EQ(clone->platform(), "m1a2");
+    EXPECT_TRUE(clone->equals(entry));
+}
+
+TEST_F(AxModelSetTest, IdentifiersFollowTheStoredFormat)
+{
+    struct Case
+    {
+        char const* label;
+        char const* id;
+    };
+    for (Case const& row : {Case{"M1A2", "ModelSet-329026-M1A2"}, Case{"T-72B", "ModelSet-5704290-T-72B"},
+                            Case{"Infantry squad", "ModelSet-48900180-Infantry squad"}, Case{"", "ModelSet-0-"},
+                            Case{"\xff", "ModelSet-255-\xff"}})
+    {
+        EXPECT_EQ(AxModelSet::createUniqueID(AxString(row.label)), row.id);
+    }
+}
+
+TEST_F(AxModelSetTest, EqualLabelsGetNumberedIdentifiers)
+{
+    EXPECT_EQ(add("1:1:1:225:1:1:1:0", "M1A2")->uniqueId(), "ModelSet-329026-M1A2");
+    EXPECT_EQ(add("1:1:1:225:1:1:2:0", "M1A2")->uniqueId(), "ModelSet-329026-M1A2-1");
+    EXPECT_EQ(add("1:1:1:225:1:1:3:0", "M1A2")->uniqueId(), "ModelSet-329026-M1A2-2");
+}
+
+TEST_F(AxModelSetTest, FindsByTypeLabelAndIdentifier)
+{
+    AxModelSetEntry* const pattern = add("1:1:1:225:1:-1:-1:-1", "Some tank");
+    AxModelSetEntry* const exact = add("1:1:1:225:1:1:3:0", "M1A2");
+    EXPECT_EQ(models.find(tank), exact);
+    EXPECT_EQ(models.find(typeOf("1:1:1:225:1:1:2:0")), nullptr);
+    EXPECT_EQ(models.findMatchingPattern(typeOf("1:1:1:225:1:1:2:0")), pattern);
+    EXPECT_EQ(models.findMatchingPattern(tank), exact);
+    EXPECT_EQ(models.findMatchingPattern(typeOf("1:1:2:225:1:1:2:0")), nullptr);
+    EXPECT_EQ(models.findByLabel("M1A2"), exact);
+    EXPECT_EQ(models.findByLabel("m1a2"), nullptr);
+    EXPECT_EQ(models.findByUniqueID("ModelSet-329026-M1A2"), exact);
+    EXPECT_EQ(models.objectTypeFor("M1A2"), tank);
+    EXPECT_TRUE(models.objectTypeFor("T-72").isNull());
+    std::list<AxString> fitting;
+    models.entitiesForObjectType(typeOf("1:1:1:225:1:1:-1:-1"), fitting);
+    EXPECT_EQ(fitting, std::list<AxString>{"M1A2"});
+}
+
+TEST_F(AxModelSetTest, OfEquallyGoodPatternsTheLaterAnswers)
+{
+    add("1:1:1:225:1:-1:-1:-1", "first");
+    add("1:1:1:225:-1:1:-1:-1", "second");
+    EXPECT_EQ(labelOf(models.findMatchingPattern(tank)), "second");
+    add("-1:-1:-1:-1:-1:-1:-1:-1", "any");
+    EXPECT_EQ(labelOf(models.findMatchingPattern(tank)), "second");
+    EXPECT_EQ(labelOf(models.findMatchingPattern(typeOf("7:2:3:4:5:6:7:8"))), "any");
+}
+
+TEST_F(AxModelSetTest, PatternLookUpIsTheWalkOverAllEntries)
+{
+    std::mt19937 random(7);
+    auto const field = [&random] { return static_cast<int>(random() % 3) - 1; };
+    auto const type = [&field]
+    { return AxObjectType(field(), field(), field(), field(), field(), field(), field(), field()); };
+    for (int i = 0; i < 400; ++i)
+    {
+        AxModelSetEntry entry("", nullptr);
+        entry.setObjectType(type());
+        models.addModel(&entry, true);
+    }
+    for (int i = 0; i < 500; ++i)
+    {
+        AxObjectType const asked = type();
+        AxModelSetEntry const* best = nullptr;
+        AxModelSetEntry const* first = nullptr;
+        int most = 0;
+        for (AxModelSetEntry const* entry : models)
+        {
+            AxObjectType::Fields const& theirs = entry->objectType().fields();
+            int equal = 0;
+            bool fits = true;
+            for (std::size_t f = 0; f < theirs.size(); ++f)
+            {
+                equal += theirs[f] == asked.fields()[f] ? 1 : 0;
+                fits = fits && (theirs[f] == -1 || theirs[f] == asked.fields()[f]);
+            }
+            if (fits && (!best || equal >= most))
+            {
+                best = entry;
+                most = equal;
+            }
+            first = !first && entry->objectType() == asked ? entry : first;
+        }
+        ASSERT_EQ(models.findMatchingPattern(asked), best) << asked.string();
+        ASSERT_EQ(models.find(asked), first) << asked.string();
+    }
+}
+
+TEST_F(AxModelSetTest, ExactLookUpFollowsEveryChange)
+{
+    AxModelSetEntry* const entry = add("1:1:1:225:1:1:3:0", "M1A2");
+    EXPECT_EQ(models.find(tank), entry);
+    entry->setObjectType(tanks);
+    EXPECT_EQ(models.find(tank), nullptr);
+    EXPECT_EQ(models.find(tanks), entry);
+    auto* const twin = new AxModelSetEntry("", nullptr);
+    twin->setObjectType(tanks);
+    models.addToStart(twin);
+    EXPECT_EQ(models.find(tanks), twin);
+    models.remove(twin, nullptr);
+    EXPECT_EQ(models.find(tanks), entry);
+    delete twin;
+    EXPECT_TRUE(models.removeModel(tanks));
+    EXPECT_FALSE(models.removeModel(tanks));
+    EXPECT_EQ(models.count(), 0);
+}
+
+TEST_F(AxModelSetTest, AKnownTypeTakesOverTheValuesInItsPlace)
+{
+    AxModelSetEntry* const tankEntry = add("1:1:1:225:1:1:3:0", "M1A2", "Tank");
+    add("1:1:1:222:1:2:6:0", "T-72B");
+    AxModelSetEntry again("", nullptr);
+    again.setObjectType(tank);
+    again.setLabel("M1A2 SEP");
+    EXPECT_EQ(models.addModel(&again, false), tankEntry);
+    EXPECT_EQ(labels(), "M1A2 SEP T-72B");
+    EXPECT_EQ(tankEntry->uniqueId(), "ModelSet-329026-M1A2") << "scenarios know it by this";
+    EXPECT_TRUE(tankEntry->categories().empty());
+    EXPECT_EQ(joined(models.categories()), "Tank") << "an update only merges";
+    again.setUniqueId("mine");
+    models.addModel(&again, true);
+    EXPECT_EQ(tankEntry->uniqueId(), "mine");
+}
+
+TEST_F(AxModelSetTest, CategoriesAreThoseOfTheEntriesOnEachPalette)
+{
+    AxModelSetEntry* const tankEntry = add("1:1:1:225:1:1:3:0", "M1A2", "Tank");
+    AxModelSetEntry ship("", nullptr);
+    ship.setObjectType(typeOf("1:1:3:225:4:1:1:0"));
+    ship.setOnlyOnPalette("Ships");
+    ship.categories() = std::vector<AxString>{"Destroyer", "Warship"};
+    models.addModel(&ship, true);
+    EXPECT_EQ(joined(models.categoriesForPalette("EntityCreationPalette")), "Tank");
+    EXPECT_EQ(joined(models.categoriesForPalette("Ships")), "Destroyer Warship");
+    EXPECT_EQ(joined(models.categoriesForPalette("none")), "");
+    EXPECT_EQ(joined(models.categories()), "Destroyer Tank Warship");
+    models.removeModel(tankEntry);
+    EXPECT_EQ(joined(models.categories()), "Destroyer Warship");
+    models.clear();
+    EXPECT_EQ(joined(models.categories()), "");
+}
+
+TEST_F(AxModelSetTest, GroupsWithoutATypeGetTheNextFreeOne)
+{
+    Group group("", nullptr);
+    group.setLabel("Patrol");
+    EXPECT_EQ(models.addModel(&group, true)->objectType().string(), "5:0:0:0:0:0:0:1");
+    Group last("", nullptr);
+    last.setObjectType(typeOf("5:0:0:0:0:0:9:255"));
+    models.addModel(&last, true);
+    EXPECT_EQ(models.nextAvailableSimulationObjectGroupObjectType().string(), "5:0:0:0:0:0:10:0");
+    models.updateNextSimulationObjectGroupObjectType(tank);
+    EXPECT_EQ(models.nextAvailableSimulationObjectGroupObjectType().string(), "5:0:0:0:0:0:10:0");
+    models.clear();
+    EXPECT_EQ(models.nextAvailableSimulationObjectGroupObjectType().string(), "5:0:0:0:0:0:10:0");
+}
+
+TEST_F(AxModelSetTest, GroupsAreFoundByTheirLabels)
+{
+    add("1:1:1:225:1:1:3:0", "Patrol");
+    Group group("", nullptr);
+    group.setLabel("Patrol");
+    AxModelSetEntry* const added = models.addModel(&group, true);
+    EXPECT_EQ(models.findSimulationObjectGroup("Patrol"), added);
+    EXPECT_EQ(models.findSimulationObjectGroup("M1A2"), nullptr);
+}
+
+TEST_F(AxModelSetTest, SavedAndLoadedTheSetIsEqualAndWritesTheSame)
+{
+    std::string const text = "(model-set\n  (version 2)\n  (comment \"desert vehicles\")\n"
+                             "  (model\n    (label \"M1A2\")\n    (unique-id \"ModelSet-329026-M1A2\")\n"
+                             "    (object-type 1 1 1 225 1 1 3 0)\n    (colour \"sand\"))\n"
+                             "  (simulation-object-group\n    (label \"Patrol\")\n    (unique-id \"p1\")\n"
+                             "    (object-type 5 0 0 0 0 0 0 7)\n    (filename \"patrol.sog\")))\n";
+    ASSERT_TRUE(models.load(put("all.models", text)));
+    EXPECT_NE(warned().find("unknown keyword \"colour\""), std::string::npos);
+    EXPECT_EQ(models.version(), 2);
+    EXPECT_EQ(models.comment(), "desert vehicles");
+    EXPECT_EQ(models.nextAvailableSimulationObjectGroupObjectType().string(), "5:0:0:0:0:0:0:8");
+    ASSERT_TRUE(models.save(AxFilename(path("again.models"))));
+    EXPECT_EQ(get("again.models"), text);
+    AxModelSet again("", nullptr);
+    EXPECT_TRUE(again.load(AxFilename(path("again.models"))));
+    EXPECT_TRUE(again == models);
+    AxModelSet const copy(models);
+    EXPECT_TRUE(copy == models);
+    AxModelSet tree("model-set", nullptr);
+    EXPECT_TRUE(tree.fromXml(models.toXml()));
+    EXPECT_EQ(tree.writtenText(), text);
+}
+
+TEST_F(AxModelSetTest, LoadingAddsToWhatIsThere)
+{
+    add("1:1:1:225:1:1:3:0", "M1A2");
+    EXPECT_TRUE(load("(model (label \"T-72B\") (object-type 1 1 1 222 1 2 6 0))"
+                     "(model (label \"M1A2 SEP\") (object-type 1 1 1 225 1 1 3 0)) 12"));
+    EXPECT_EQ(labels(), "M1A2 SEP T-72B");
+    EXPECT_EQ(models.findByLabel("T-72B")->uniqueId(), "ModelSet-5704290-T-72B");
+    EXPECT_NE(models.writtenText().find("\n  12"), std::string::npos) << "what is no entry is kept";
+}
+
+TEST_F(AxModelSetTest, FilesThatFailAreToldInOneLine)
+{
+    EXPECT_FALSE(models.load(AxFilename(path("none.models"))));
+    EXPECT_EQ(warned(), "AxModelSet::load() :          error opening " + path("none.models") +
+                            " for reading: No such file or directory\n");
+    EXPECT_FALSE(load("(model (label \"M1A2\") (object-type 1 1 1 225 1 1 3 0)) (model (label \"T-72B)"));
+    EXPECT_EQ(warned(), "Error parsing " + path("all.models") + "\n");
+    EXPECT_EQ(labels(), "M1A2") << "what was read before";
+    EXPECT_FALSE(models.load(put("open.models", "(model-set (model (label \"T-80\")")));
+    EXPECT_EQ(warned(), "Error parsing " + path("open.models") + "\n");
+    EXPECT_FALSE(models.load(put("empty.models", "; nothing\n")));
+    EXPECT_NE(warned().find("Error parsing " + path("empty.models") + "\n"), std::string::npos);
+    EXPECT_FALSE(models.save(AxFilename(path("no/such/dir.models"))));
+    EXPECT_NE(warned().find("cannot be written"), std::string::npos);
+}
