@@ -75,7 +75,9 @@ public:
     // ---- Files. What is read is added by `addModel`. False after a report; what could be read is there. ----
     bool load(AxFilename const& file);
     bool save(AxFilename const& file);
-    /// The group files (.sog) of a directory, sorted by name; not of those below it.
+    /// All files of a directory that hold entries, not of those below it.
+    bool loadFromDataFiles(AxFilename const& directory);
+    /// The group files (.sog), sorted by name.
     bool loadSimulationObjectGroupFiles(AxFilename const& directory);
 
     /// Ignores anything but entries.

@@ -53,14 +53,7 @@ bool parse(AxReaderWriter& rw, std::string const& text, AxFilename const& file)
         AxlInputStream stream(text);
         AxTextReader reader(stream);
         reader.read(rw, {file.directory()}, AxReaderWriter::nullVariableReference());
-        if (reader.unclosed())
-        {
-            return failedToParse(
-                AxlSyntaxError("unclosed-list", "list is never closed", reader.unclosedLine(), reader.unclosedColumn())
-                    .diagnostic(),
-                file);
-        }
-        if (rw.invalid())
+        if (rw.invalid() || reader.unclosed())
         {
             AxWarn("Error parsing %s\n", file.native().c_str());
             return false;
@@ -154,6 +147,11 @@ bool AxModelSet::save(AxFilename const& file)
     }
     AxDiagnostics::report(axFault("unwritable-file", file, std::string("cannot be written: ") + std::strerror(error)));
     return false;
+}
+
+bool AxModelSet::loadFromDataFiles(AxFilename const& directory)
+{
+    return loadSimulationObjectGroupFiles(directory);
 }
 
 bool AxModelSet::loadSimulationObjectGroupFiles(AxFilename const& directory)

@@ -4,10 +4,13 @@
 #include "AxDefaultComponentDescriptorFactory.h"
 #include "AxDefaultParameterFactory.h"
 #include "AxDmgMunitionTable.h"
+#include "AxModelSet.h"
 #include "AxMovingObjectParameters.h"
 #include "AxObjectSensorDescriptor.h"
 #include "AxRangeProbabilityTable.h"
 #include "AxScriptEnableControllerDescriptor.h"
+#include "AxSimulationObjectBaseState.h"
+#include "AxSimulationObjectGroupModelSetEntry.h"
 #include "AxSinkScope.h"
 #include "AxSxpParameterDb.h"
 #include "AxSxpParameterDbEntry.h"
@@ -146,6 +149,29 @@ TEST_F(ExampleForce, ComesBackEqualFromASave)
         EXPECT_TRUE(record->equals(*entry.parameters())) << entry.objectType().string().string();
     }
     fs::remove_all(copy);
+}
+
+TEST_F(ExampleForce, EachModelHasAnEntryAndEachObjectOfAGroupAModel)
+{
+    AxModelSet models("model-set", nullptr);
+    ASSERT_TRUE(models.load(AxFilename(theForce + "force.models")));
+    auto const database = loadAll(theForce + "force.opd");
+    for (AxModelSetEntry* model : models)
+    {
+        auto* group = dynamic_cast<AxSimulationObjectGroupModelSetEntry*>(model);
+        if (group == nullptr)
+        {
+            EXPECT_NE(database->lookupParameterDbEntry(model->objectType(), nullptr), nullptr)
+                << model->label().string();
+            continue;
+        }
+        ASSERT_TRUE(group->readAllSimulationObject());
+        EXPECT_EQ(group->simulationObjects().size(), 4U);
+        EXPECT_EQ(models.findMatchingPattern(group->simulationObjects()[1]->objectType())->label(), "M1A2");
+        AxSimulationObjectGroupModelSetEntry inFile("", nullptr);
+        ASSERT_TRUE(inFile.load(AxFilename(theForce + "groups/tank-patrol.sog")));
+        EXPECT_EQ(inFile.objectType(), group->objectType());
+    }
 }
 
 TEST_F(ExampleForce, CollectionPassesValuesDown)

@@ -22,3 +22,4 @@ void addCheckCommand(CLI::App& app, int& exitCode);
 void addSaveCommand(CLI::App& app, int& exitCode);
 void addTypesCommand(CLI::App& app, int& exitCode);
 void addExplainCommand(CLI::App& app, int& exitCode);
+void addModelsCommand(CLI::App& app, int& exitCode);

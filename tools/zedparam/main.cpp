@@ -50,6 +50,7 @@ int run(int argc, char** argv)
     addSaveCommand(app, exitCode);
     addTypesCommand(app, exitCode);
     addExplainCommand(app, exitCode);
+    addModelsCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {
