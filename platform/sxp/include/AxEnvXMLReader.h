@@ -13,11 +13,13 @@
 /// Encodings are UTF-8, UTF-16, ISO-8859-1, US-ASCII and windows-1252. A document type declaration is dropped with a
 /// warning; entity declarations are refused and nothing outside the text is ever opened.
 ///
-/// Every failure answers null, sets `*ok` (which may be null) to false and is reported once with its place.
+/// Every failure answers null, sets `*ok` (which may be null) to false and, if `reports`, is reported once with its
+/// place.
 class ZEDOBJPARAM_API AxEnvXMLReader
 {
 public:
-    static AxEnvironmentPtr readFile(AxFilename const& file, bool* ok = nullptr);
+    static AxEnvironmentPtr readFile(AxFilename const& file, bool* ok = nullptr, bool reports = true);
     /// `name` stands for the file in reports.
-    static AxEnvironmentPtr readText(std::string_view text, AxFilename const& name, bool* ok = nullptr);
+    static AxEnvironmentPtr readText(std::string_view text, AxFilename const& name, bool* ok = nullptr,
+                                     bool reports = true);
 };

@@ -33,7 +33,7 @@ bool equalsIgnoringCase(std::string_view a, std::string_view b)
 class XmlParse
 {
 public:
-    explicit XmlParse(AxFilename const& file);
+    XmlParse(AxFilename const& file, bool reports);
     AxEnvironmentPtr read(std::string_view text);
 
 private:
@@ -88,7 +88,7 @@ private:
     AxEnvListPtr openList();
     void endText();
     static void dropLayout(AxEnvObject& object);
-    AxDiagnostic diagnostic(AxSeverity severity, char const* code, std::string text) const;
+    void report(AxSeverity severity, char const* code, std::string text) const;
     void fail(char const* code, std::string text);
 
     struct ParserDeleter
@@ -97,6 +97,7 @@ private:
     };
 
     AxFilename const& myFile;
+    bool myReports;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> myParser;
     AxEnvironmentPtr myEnvironment = boost::make_shared<AxEnvironment>();
     std::vector<OpenElement> myOpen;
@@ -106,7 +107,8 @@ private:
     bool myFailed = false;
 };
 
-XmlParse::XmlParse(AxFilename const& file) : myFile(file), myParser(XML_ParserCreate(nullptr))
+XmlParse::XmlParse(AxFilename const& file, bool reports)
+    : myFile(file), myReports(reports), myParser(XML_ParserCreate(nullptr))
 {
     if (myParser == nullptr)
     {
@@ -151,8 +153,12 @@ AxEnvironmentPtr XmlParse::read(std::string_view text)
     return myFailed ? AxEnvironmentPtr() : myEnvironment;
 }
 
-AxDiagnostic XmlParse::diagnostic(AxSeverity severity, char const* code, std::string text) const
+void XmlParse::report(AxSeverity severity, char const* code, std::string text) const
 {
+    if (!myReports)
+    {
+        return;
+    }
     AxDiagnostic finding;
     finding.severity = severity;
     finding.code = code;
@@ -160,7 +166,7 @@ AxDiagnostic XmlParse::diagnostic(AxSeverity severity, char const* code, std::st
     finding.line = static_cast<unsigned>(XML_GetCurrentLineNumber(myParser.get()));
     finding.column = static_cast<unsigned>(XML_GetCurrentColumnNumber(myParser.get())) + 1;
     finding.text = std::move(text);
-    return finding;
+    AxDiagnostics::report(std::move(finding));
 }
 
 void XmlParse::fail(char const* code, std::string text)
@@ -168,7 +174,7 @@ void XmlParse::fail(char const* code, std::string text)
     if (!myFailed)
     {
         myFailed = true;
-        AxDiagnostics::report(diagnostic(AxSeverity::Error, code, std::move(text)));
+        report(AxSeverity::Error, code, std::move(text));
         XML_StopParser(myParser.get(), XML_FALSE);
     }
 }
@@ -319,8 +325,7 @@ void XmlParse::instruction(char const* target, char const* data)
 
 void XmlParse::doctype(char const* name, char const*)
 {
-    AxDiagnostics::report(diagnostic(AxSeverity::Warning, "xml-doctype",
-                                     "document type declaration \"" + std::string(name) + "\" is dropped"));
+    report(AxSeverity::Warning, "xml-doctype", "document type declaration \"" + std::string(name) + "\" is dropped");
 }
 
 int XmlParse::onEncoding(void* self, char const* name, XML_Encoding* encoding)
@@ -340,33 +345,40 @@ int XmlParse::onEncoding(void* self, char const* name, XML_Encoding* encoding)
     if (!parse.myFailed)
     {
         parse.myFailed = true;
-        AxDiagnostics::report(parse.diagnostic(AxSeverity::Error, "xml-encoding",
-                                               "encoding \"" + std::string(name) + "\" is not supported"));
+        parse.report(AxSeverity::Error, "xml-encoding", "encoding \"" + std::string(name) + "\" is not supported");
     }
     return XML_STATUS_ERROR;
 }
 
-AxEnvironmentPtr guardedRead(std::string_view text, AxFilename const& name)
+void reportFile(AxFilename const& file, char const* code, std::string text)
+{
+    AxDiagnostic finding;
+    finding.code = code;
+    finding.file = file.string().string();
+    finding.text = std::move(text);
+    AxDiagnostics::report(std::move(finding));
+}
+
+AxEnvironmentPtr guardedRead(std::string_view text, AxFilename const& name, bool reports)
 {
     try
     {
-        return XmlParse(name).read(text);
+        return XmlParse(name, reports).read(text);
     }
     catch (std::exception const& error)
     {
-        AxDiagnostic finding;
-        finding.code = "xml-error";
-        finding.file = name.string().string();
-        finding.text = error.what();
-        AxDiagnostics::report(std::move(finding));
+        if (reports)
+        {
+            reportFile(name, "xml-error", error.what());
+        }
         return {};
     }
 }
 } // namespace
 
-AxEnvironmentPtr AxEnvXMLReader::readText(std::string_view text, AxFilename const& name, bool* ok)
+AxEnvironmentPtr AxEnvXMLReader::readText(std::string_view text, AxFilename const& name, bool* ok, bool reports)
 {
-    AxEnvironmentPtr environment = guardedRead(text, name);
+    AxEnvironmentPtr environment = guardedRead(text, name, reports);
     if (ok != nullptr)
     {
         *ok = environment != nullptr;
@@ -374,22 +386,21 @@ AxEnvironmentPtr AxEnvXMLReader::readText(std::string_view text, AxFilename cons
     return environment;
 }
 
-AxEnvironmentPtr AxEnvXMLReader::readFile(AxFilename const& file, bool* ok)
+AxEnvironmentPtr AxEnvXMLReader::readFile(AxFilename const& file, bool* ok, bool reports)
 {
     std::string text;
     int error = 0;
     if (axReadWholeFile(file, text, error))
     {
-        return readText(text, file, ok);
+        return readText(text, file, ok, reports);
     }
     if (ok != nullptr)
     {
         *ok = false;
     }
-    AxDiagnostic finding;
-    finding.code = "unreadable-file";
-    finding.file = file.string().string();
-    finding.text = std::string("cannot be read: ") + std::strerror(error);
-    AxDiagnostics::report(std::move(finding));
+    if (reports)
+    {
+        reportFile(file, "unreadable-file", std::string("cannot be read: ") + std::strerror(error));
+    }
     return {};
 }

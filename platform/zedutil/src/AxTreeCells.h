@@ -42,6 +42,8 @@ bool isNumeral(std::string_view word);
 /// Nodes as a piece of XML in a text, and back.
 namespace AxXmlFragment
 {
+/// A node and all below it, with their places.
+AxEnvValuePtr copyOf(AxEnvValue const& node);
 std::string ofNode(AxEnvValue const& node);
 std::string ofAttribute(AxEnvObject::Attribute const& attribute);
 /// Adds what the text says to `node`; false, and a report, when it is no XML.

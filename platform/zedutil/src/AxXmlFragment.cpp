@@ -8,29 +8,6 @@ namespace
 {
 constexpr char const* theWrapper = "x";
 
-AxEnvValuePtr copyOf(AxEnvValue const& node)
-{
-    if (!node.isObject())
-    {
-        return boost::make_shared<AxEnvValue>(node.value());
-    }
-    auto const& object = static_cast<AxEnvObject const&>(node);
-    auto copy = boost::make_shared<AxEnvObject>(object.type());
-    if (object.hasName())
-    {
-        copy->setName(object.name());
-    }
-    for (AxEnvObject::Attribute const& attribute : object.attributes())
-    {
-        copy->setAttribute(attribute.name, attribute.value->value());
-    }
-    for (AxEnvValuePtr const& child : object.children())
-    {
-        copy->add(copyOf(*child));
-    }
-    return copy;
-}
-
 /// The document with `root`, from behind `open` up to the last `close`.
 std::string between(AxEnvObjectPtr const& root, std::string const& open, std::string const& close)
 {
@@ -53,6 +30,33 @@ bool isAttribute(std::string const& text)
            text.back() == '"';
 }
 } // namespace
+
+AxEnvValuePtr AxXmlFragment::copyOf(AxEnvValue const& node)
+{
+    if (!node.isObject())
+    {
+        auto const text = boost::make_shared<AxEnvValue>(node.value());
+        text->setPlace(node.line(), node.column());
+        return text;
+    }
+    auto const& object = static_cast<AxEnvObject const&>(node);
+    auto const copy = boost::make_shared<AxEnvObject>(object.type());
+    copy->setPlace(node.line(), node.column());
+    if (object.hasName())
+    {
+        copy->setName(object.name());
+    }
+    for (AxEnvObject::Attribute const& attribute : object.attributes())
+    {
+        AxEnvValuePtr const value = copy->setAttribute(attribute.name, attribute.value->value());
+        value->setPlace(attribute.value->line(), attribute.value->column());
+    }
+    for (AxEnvValuePtr const& child : object.children())
+    {
+        copy->add(copyOf(*child));
+    }
+    return copy;
+}
 
 std::string AxXmlFragment::ofNode(AxEnvValue const& node)
 {
