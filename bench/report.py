@@ -40,6 +40,8 @@ def jobs(found):
     yield "read its keywords in any order", "read-shuffled/ours", "read-shuffled/protobuf", 5.5
     yield "write it", "write/ours", "write/protobuf", 7
     yield "write it", "write/ours", "write/json", 1.5
+    yield "read it from XML", "read-xml/ours", "read-xml/pugixml-and-text", 1 / 1.5
+    yield "scan a data root, per file", "entity-scan/ours", None, None
     yield "copy it", "copy/ours", "copy/protobuf", 1 / 1.2
     yield "copy it over another", "copy-again/ours", "copy-again/protobuf", None
     yield "compare two equal ones", "compare/ours", "compare/protobuf", 25

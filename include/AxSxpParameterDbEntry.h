@@ -68,6 +68,9 @@ private:
 
     AxZedObjectParameters* readRecord(AxlInputStream& stream, AxEnvironmentPtr const& env, AxEnvValuePtr* value);
     std::vector<AxFilename> directories() const;
+    using FilePtr = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
+    /// Opens the file that is read now; null after a warning.
+    FilePtr openFile(AxFilename const& file, std::vector<AxFilename> const& searched);
     AxZedObjectParameters* readTextFile(AxFilename const& file);
     AxZedObjectParameters* readEntityFile(AxFilename const& file);
     AxZedObjectParameters* hold(AxZedObjectParameters* record);

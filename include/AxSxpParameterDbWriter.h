@@ -48,6 +48,8 @@ protected:
     virtual AxFilename generateOpeDirectory(AxFilename const& fileDir, AxFilename const& parameterDir);
     // ---- End of the virtual operations. ----
 
+    /// Writes a file as part of the `write` that is running, else by itself. False after a warning.
+    static bool writeText(AxFilename const& file, std::string const& text);
     /// What `write` installs; `context` is the writer.
     static void prePutSelfCb(AxReaderWriter* rw, std::string& out, void* context);
 };

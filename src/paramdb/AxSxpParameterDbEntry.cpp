@@ -1,5 +1,6 @@
 #include "AxSxpParameterDbEntry.h"
 
+#include "AxEntityFiles.h"
 #include "AxExtFileInputStream.h"
 #include "AxParameterDbFiles.h"
 #include "AxReaderWriterFactory.h"
@@ -9,6 +10,7 @@
 #include "AxTextReader.h"
 #include "AxZedObjectParameterFactory.h"
 #include "AxZedObjectParameters.h"
+#include "AxZedXmlUtils.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
@@ -56,6 +58,35 @@ struct AxSxpParameterDbEntry::Reading
 
 private:
     Reading*& myCurrent;
+};
+
+/// What a record's text may refer to: files beside it and along the paths, variables of its database.
+struct AxSxpParameterDbEntry::Sources
+{
+    explicit Sources(AxSxpParameterDbEntry const& entry)
+    {
+        if (entry.myReading != nullptr)
+        {
+            files.push_back(entry.myReading->file.directory());
+        }
+        files.insert(files.end(), entry.mySearchPaths.begin(), entry.mySearchPaths.end());
+        if (!entry.myPath.isNull())
+        {
+            files.push_back(entry.myPath);
+        }
+        if (entry.myVariableBindings)
+        {
+            bindings.push_back(entry.myVariableBindings.get());
+        }
+        if (!entry.myDatabaseDirectory.isNull())
+        {
+            axBindDatabaseDirectory(database, entry.myDatabaseDirectory);
+            bindings.push_back(&database);
+        }
+    }
+    AxFilenameList files;
+    AxRwVariableBindings database{"opd-variables"};
+    AxBindingsList bindings;
 };
 
 AxSxpParameterDbEntry::AxSxpParameterDbEntry() : myVersion(theCurrentVersion) {}
@@ -178,18 +209,10 @@ AxZedObjectParameters* AxSxpParameterDbEntry::loadFromFile(AxFilename const& fil
     }
 }
 
-AxZedObjectParameters* AxSxpParameterDbEntry::readEntityFile(AxFilename const& file)
+AxSxpParameterDbEntry::FilePtr AxSxpParameterDbEntry::openFile(AxFilename const& file,
+                                                               std::vector<AxFilename> const& searched)
 {
-    AxDiagnostics::report(faultOfFile(
-        "entity-file", file, "entity files cannot be read by this build: \"" + myPath.combine(file).native() + '"'));
-    return nullptr;
-}
-
-AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& file)
-{
-    AxFilename found;
-    std::vector<AxFilename> const searched = directories();
-    AxFilePtr const open(AxReaderWriterFile::loadHighestPriorityFile(file, searched, found, true));
+    FilePtr open(AxReaderWriterFile::loadHighestPriorityFile(file, searched, myReading->file, true), &std::fclose);
     if (!open)
     {
         char const* const reason = std::strerror(errno);
@@ -200,10 +223,58 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& fil
         }
         AxDiagnostics::reportStated(std::move(fault),
                                     axFormat("Could not open parameter file %s: %s\n", file.c_str(), reason));
+    }
+    return open;
+}
+
+AxZedObjectParameters* AxSxpParameterDbEntry::readEntityFile(AxFilename const& file)
+{
+    std::vector<AxFilename> searched;
+    for (AxFilename const& directory : {myPath, myDatabaseDirectory})
+    {
+        if (!directory.isNull())
+        {
+            searched.push_back(directory);
+        }
+    }
+    if (!openFile(file, searched))
+    {
         return nullptr;
     }
-    myReading->file = found;
-    AxSourceScope const scope(found);
+    AxSourceScope const scope(myReading->file);
+    AxEnvironmentPtr const env = AxEntityFiles::tree(myReading->file);
+    if (!env)
+    {
+        return nullptr;
+    }
+    // A database that was saved and loaded again no longer knows which of its entries are patterns.
+    AxEnvValuePtr element = typeIsMatchType() ? AxZedXmlUtils::findObjectElementByMatchType(env, objectType())
+                                              : AxZedXmlUtils::findObjectElementByObjectType(env, objectType());
+    if (!element)
+    {
+        element = typeIsMatchType() ? AxZedXmlUtils::findObjectElementByObjectType(env, objectType())
+                                    : AxZedXmlUtils::findObjectElementByMatchType(env, objectType());
+    }
+    if (!element)
+    {
+        std::string const type = objectType().string().string();
+        AxDiagnostics::reportStated(faultOfFile("no-element", myReading->file,
+                                                "no element of the type " + type + " in \"" + file.native() + '"'),
+                                    axFormat("Entry not found for type %s in file %s\n", type.c_str(), file.c_str()));
+        return nullptr;
+    }
+    Sources const sources(*this);
+    return AxZedXmlUtils::createParameters(env, element, sources.files, sources.bindings);
+}
+
+AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& file)
+{
+    FilePtr const open = openFile(file, directories());
+    if (!open)
+    {
+        return nullptr;
+    }
+    AxSourceScope const scope(myReading->file);
     AxZedObjectParameters* const record = readParameterEntry(open.get(), AxEnvironmentPtr(), nullptr);
     if (record != nullptr && record->invalid())
     {
@@ -249,35 +320,6 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readParameterEntry(std::FILE* file
         return nullptr;
     }
 }
-
-/// What a record's text may refer to: files beside it and along the paths, variables of its database.
-struct AxSxpParameterDbEntry::Sources
-{
-    explicit Sources(AxSxpParameterDbEntry const& entry)
-    {
-        if (entry.myReading != nullptr)
-        {
-            files.push_back(entry.myReading->file.directory());
-        }
-        files.insert(files.end(), entry.mySearchPaths.begin(), entry.mySearchPaths.end());
-        if (!entry.myPath.isNull())
-        {
-            files.push_back(entry.myPath);
-        }
-        if (entry.myVariableBindings)
-        {
-            bindings.push_back(entry.myVariableBindings.get());
-        }
-        if (!entry.myDatabaseDirectory.isNull())
-        {
-            axBindDatabaseDirectory(database, entry.myDatabaseDirectory);
-            bindings.push_back(&database);
-        }
-    }
-    AxFilenameList files;
-    AxRwVariableBindings database{"opd-variables"};
-    AxBindingsList bindings;
-};
 
 AxZedObjectParameters* AxSxpParameterDbEntry::readRecord(AxlInputStream& stream, AxEnvironmentPtr const& env,
                                                          AxEnvValuePtr* value)

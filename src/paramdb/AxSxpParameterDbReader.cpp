@@ -11,6 +11,7 @@
 #include "AxTextReader.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedObjectParametersList.h"
+#include "AxZedXmlUtils.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
@@ -19,6 +20,7 @@
 #include <cerrno>
 #include <cstring>
 #include <exception>
+#include <set>
 #include <typeinfo>
 
 namespace
@@ -193,13 +195,41 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
 
 void AxSxpParameterDbReader::addEntityFiles(AxFilename const& dataRoot, AxSxpParameterDbFileData& data)
 {
-    std::vector<AxFilename> const entities = AxReaderWriterFile::findFilesByExtension(dataRoot, ".entity");
-    if (!entities.empty())
+    for (AxFilename const& file : AxReaderWriterFile::findFilesByExtension(dataRoot, ".entity"))
     {
-        AxDiagnostics::report(axFaultAt("entity-file", data.dataRootLine(), data.dataRootColumn(),
-                                        "entity files cannot be read by this build; " +
-                                            std::to_string(entities.size()) + " left out, the first is \"" +
-                                            entities.front().native() + '"'));
+        AxSourceScope const scope(file);
+        AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
+        std::list<AxEnvValuePtr> elements;
+        AxZedXmlUtils::getObjectElements(env, elements);
+        std::set<AxObjectType> types;
+        for (AxEnvValuePtr const& element : elements)
+        {
+            std::vector<AxObjectType> matchTypes;
+            AxZedXmlUtils::getMatchTypes(env, element, matchTypes);
+            for (AxObjectType const& type : matchTypes)
+            {
+                data.addEntry(type, file, true, nullptr);
+            }
+            AxObjectType const type = AxZedXmlUtils::getObjectType(env, element);
+            if (!type.isNull())
+            {
+                data.addEntry(type, file, false, nullptr);
+            }
+            if (!type.isNull() && !types.insert(type).second)
+            {
+                AxDiagnostics::report(axFaultAt("repeated-type", element->line(), element->column(),
+                                                "the type " + type.string().string() +
+                                                    " stands in the file before; the later element answers",
+                                                AxSeverity::Warning));
+            }
+            else if (type.isNull() && matchTypes.empty())
+            {
+                AxDiagnostics::report(axFaultAt("no-object-type", element->line(), element->column(),
+                                                "the element has no object type and no match type, so that nothing "
+                                                "finds it",
+                                                AxSeverity::Warning));
+            }
+        }
     }
 }
 

@@ -42,18 +42,6 @@ bool cannotWrite(AxFilename const& file, int error)
     return false;
 }
 
-/// Writes a file as part of the save that is running, else by itself.
-bool writeText(AxFilename const& file, std::string const& text)
-{
-    int error = 0;
-    if (AxRunningSave* const save = AxRunningSave::current())
-    {
-        return save->files().stage(file, text, error) || cannotWrite(file, error);
-    }
-    AxFileTransaction alone;
-    return (alone.stage(file, text, error) && alone.commit(error)) || cannotWrite(file, error);
-}
-
 bool copyFile(AxFilename const& from, AxFilename const& to, AxFileTransaction& files)
 {
     std::string text;
@@ -323,6 +311,17 @@ void AxSxpParameterDbWriter::writeEntry(AxSxpParameterDbFileData* data, AxSxpPar
         entry->setFilename(before);
         fileEntry->setFilename(before);
     }
+}
+
+bool AxSxpParameterDbWriter::writeText(AxFilename const& file, std::string const& text)
+{
+    int error = 0;
+    if (AxRunningSave* const save = AxRunningSave::current())
+    {
+        return save->files().stage(file, text, error) || cannotWrite(file, error);
+    }
+    AxFileTransaction alone;
+    return (alone.stage(file, text, error) && alone.commit(error)) || cannotWrite(file, error);
 }
 
 bool AxSxpParameterDbWriter::writeParameterFile(AxFilename const& file, AxZedObjectParameters* record) const

@@ -136,6 +136,7 @@ void AxSystemElement::fromRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr con
         record->removeAttribute(theDefinition);
         record->insert(0, name);
     }
+    record->removeAttribute("type"); // that of an element of a list of many types
     record->setType(theTag);
 }
 

@@ -92,7 +92,10 @@ void addRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr const& element, AxZed
     }
     AxZedXmlUtils::writeVariableBindings(env, element, variables);
     addType(env, element, "objectType", record.objectType());
-    addType(env, element, "matchType", record.matchType());
+    if (!(record.matchType() == record.objectType()))
+    {
+        addType(env, element, "matchType", record.matchType());
+    }
     record.putSelf(env, element);
     AxEnvObjectPtr const platform = element->children().back()->castToObject();
     platform->setType("platform");

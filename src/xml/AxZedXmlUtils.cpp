@@ -7,8 +7,7 @@
 #include "AxRwVariableBindings.h"
 #include "AxSystemElement.h"
 
-#include <boost/make_shared.hpp>
-#include <exception>
+#include <algorithm>
 
 namespace
 {

@@ -174,6 +174,25 @@ TEST_F(ExampleForce, EachModelHasAnEntryAndEachObjectOfAGroupAModel)
     }
 }
 
+TEST_F(ExampleForce, EntityFilesHoldTheSameForce)
+{
+    std::unique_ptr<AxSxpParameterDb> const texts = loadAll(theForce + "force.opd");
+    std::unique_ptr<AxSxpParameterDb> const entities = loadAll(theForce + "entities.opd");
+    EXPECT_EQ(entities->numParameterEntries(), texts->numParameterEntries());
+    for (AxListItem const* item = texts->parameterList().first(); item != nullptr; item = item->next())
+    {
+        auto const& entry = *static_cast<AxZedParameterDbEntry const*>(item->data());
+        AxObjectType matched;
+        AxZedObjectParameters const* record = entities->lookup(entry.objectType(), &matched);
+        ASSERT_NE(record, nullptr) << entry.objectType().string().string();
+        EXPECT_EQ(matched, entry.objectType());
+        EXPECT_TRUE(record->equals(*entry.parameters())) << matched.string().string();
+        EXPECT_EQ(record->writtenText(), entry.parameters()->writtenText());
+        EXPECT_EQ(record->writtenText(true), entry.parameters()->writtenText(true));
+        EXPECT_EQ(record->parameterType(), entry.parameters()->parameterType());
+    }
+}
+
 TEST_F(ExampleForce, CollectionPassesValuesDown)
 {
     AxZedObjectParametersDB collection("parameter-list", nullptr);

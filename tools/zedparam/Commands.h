@@ -23,3 +23,4 @@ void addSaveCommand(CLI::App& app, int& exitCode);
 void addTypesCommand(CLI::App& app, int& exitCode);
 void addExplainCommand(CLI::App& app, int& exitCode);
 void addModelsCommand(CLI::App& app, int& exitCode);
+void addConvertCommand(CLI::App& app, int& exitCode);

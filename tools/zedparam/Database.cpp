@@ -8,11 +8,17 @@
 #include "Progress.h"
 #include "ShownPath.h"
 
-std::unique_ptr<Database> Database::open(std::string const& file)
+std::unique_ptr<Database> Database::openNone()
 {
     installedFactories();
     auto database = std::make_unique<Database>();
-    if (!database->init() || !database->load(AxFilename(file)))
+    return database->init() ? std::move(database) : nullptr;
+}
+
+std::unique_ptr<Database> Database::open(std::string const& file)
+{
+    std::unique_ptr<Database> database = openNone();
+    if (database == nullptr || !database->load(AxFilename(file)))
     {
         return nullptr;
     }

@@ -13,6 +13,8 @@ class Database : public AxSxpParameterDb
 public:
     /// Sets the library up and loads the database file; null, after findings, when that fails.
     static std::unique_ptr<Database> open(std::string const& file);
+    /// The library set up, and a database without entries.
+    static std::unique_ptr<Database> openNone();
 
     std::vector<AxSxpParameterDbEntry*> entries() const;
     /// Reads the record of each entry.

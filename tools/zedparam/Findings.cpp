@@ -39,8 +39,9 @@ Findings::Findings(Print print)
           [this](AxDiagnostic const& finding)
           {
               add(finding);
-              myConsequenceMayFollow = true;
-              myEchoFollows = finding.severity != AxSeverity::Info;
+              bool const isFinding = finding.severity != AxSeverity::Info;
+              myConsequenceMayFollow = isFinding || (myConsequenceMayFollow && !myFindings.empty());
+              myEchoFollows = isFinding;
           }))
 {
     myWarnings.emplace(AxWarn, [this](std::string const& line) { takeWarning(line); });
@@ -63,7 +64,10 @@ void Findings::add(AxDiagnostic diagnostic)
     {
         std::fprintf(stderr, "%s\n", diagnostic.format().c_str());
     }
-    myFindings.push_back(std::move(diagnostic));
+    if (diagnostic.severity != AxSeverity::Info)
+    {
+        myFindings.push_back(std::move(diagnostic));
+    }
 }
 
 void Findings::takeWarning(std::string const& line)

@@ -10,9 +10,9 @@
 
 class JsonWriter;
 
-/// Takes what the library reports for as long as it lives. A warning that comes without a place is a finding as well,
-/// unless it comes after a finding, without another between them, and is about the same file: then it tells the
-/// consequence. What is told of a whole file stands at its beginning.
+/// Takes what the library reports for as long as it lives; what is news only is printed and not kept. A warning that
+/// comes without a place is a finding as well, unless it comes after a finding, without another between them, and is
+/// about the same file: then it tells the consequence. What is told of a whole file stands at its beginning.
 class Findings
 {
 public:

@@ -15,6 +15,7 @@
 #include "AxRwReal.h"
 #include "AxRwUnsigned.h"
 #include "AxZedObjectParameters.h"
+#include "ElementSource.h"
 #include "Findings.h"
 #include "RangeText.h"
 #include "RowCheck.h"
@@ -72,6 +73,7 @@ public:
 
     void run(AxZedObjectParameters& record)
     {
+        myElement = record.objectNode();
         visitBelow(record);
         for (std::size_t const place : myFilesWithRows)
         {
@@ -175,8 +177,24 @@ private:
             axAppendReal(text, value);
             AxDiagnostic finding =
                 warning("out-of-range", myFiles[myFile], text + ", expected " + rangeText(description->range));
-            Source::setPlace(finding, Source(myFiles[myFile]).value(myPath));
+            if (myFile == 0 && myElement)
+            {
+                setPlace(finding, ElementSource(myElement).value(myPath));
+            }
+            else
+            {
+                Source::setPlace(finding, Source(myFiles[myFile]).value(myPath));
+            }
             myFindings.add(std::move(finding));
+        }
+    }
+
+    static void setPlace(AxDiagnostic& finding, AxEnvValue const* node)
+    {
+        if (node != nullptr)
+        {
+            finding.line = node->line();
+            finding.column = node->column();
         }
     }
 
@@ -184,8 +202,16 @@ private:
     {
         AxDiagnostic finding =
             warning("unbound-variable", myFiles.front(), "nothing binds the variable \"" + name + "\"");
+        if (myElement)
+        {
+            setPlace(finding, ElementSource(myElement).reference(name));
+        }
         for (std::string const& file : myFiles)
         {
+            if (finding.line != 0)
+            {
+                break;
+            }
             Source const source(file);
             if (AxlObj const* cell = source.reference(name))
             {
@@ -201,6 +227,7 @@ private:
     std::size_t myFile = 0;           // the one that is walked
     std::set<std::size_t> myFilesWithRows;
     std::vector<SourceStep> myPath; // from its first expression inwards
+    AxEnvValuePtr myElement;        // of the record when it comes from an entity file
     Findings& myFindings;
 };
 } // namespace

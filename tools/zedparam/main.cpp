@@ -51,6 +51,7 @@ int run(int argc, char** argv)
     addTypesCommand(app, exitCode);
     addExplainCommand(app, exitCode);
     addModelsCommand(app, exitCode);
+    addConvertCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {

@@ -35,6 +35,8 @@ public:
     /// Adds the attribute, or gives the one that is there another value in its place; "name" sets the name. Answers the
     /// value's node, null for "name".
     AxEnvValuePtr setAttribute(AxString const& name, AxString const& value);
+    /// The same for a name that is not there yet, which is not looked for.
+    AxEnvValuePtr appendAttribute(AxString name, AxString value);
     bool removeAttribute(AxString const& name);
     /// Removes the attribute whose node this is.
     bool removeAttribute(AxEnvValuePtr const& value);

@@ -49,8 +49,18 @@ AxEnvValuePtr AxEnvObject::setAttribute(AxString const& name, AxString const& va
         found->value->setValue(value);
         return found->value;
     }
-    AxEnvValuePtr node = boost::make_shared<AxEnvValue>(value);
-    myAttributes.push_back({name, node});
+    return appendAttribute(name, value);
+}
+
+AxEnvValuePtr AxEnvObject::appendAttribute(AxString name, AxString value)
+{
+    if (isNameAttribute(name))
+    {
+        setName(value);
+        return {};
+    }
+    AxEnvValuePtr node = boost::make_shared<AxEnvValue>(std::move(value));
+    myAttributes.push_back({std::move(name), node});
     node->myParent = this;
     return node;
 }

@@ -29,12 +29,83 @@ bool equalsIgnoringCase(std::string_view a, std::string_view b)
                       [](unsigned char one, unsigned char other) { return std::tolower(one) == std::tolower(other); });
 }
 
+/// Lines and columns of byte offsets, fast when they are asked for in rising order. The parser itself could tell them,
+/// but not those of attributes, and counts characters where everything else here counts bytes.
+class TextPlaces
+{
+public:
+    struct Place
+    {
+        std::uint32_t line;
+        std::uint32_t column;
+    };
+
+    explicit TextPlaces(std::string_view text) : myText(text) { restart(); }
+
+    Place at(std::size_t offset)
+    {
+        offset = std::min(offset, myText.size());
+        if (offset < myLineBegin)
+        {
+            restart();
+        }
+        while (myLineEnd < offset)
+        {
+            ++myLine;
+            myLineBegin = myLineEnd + 1;
+            myLineEnd = std::min(myText.find('\n', myLineBegin), myText.size());
+        }
+        return {myLine, static_cast<std::uint32_t>(offset - std::min(offset, myLineBegin)) + 1};
+    }
+
+private:
+    void restart()
+    {
+        myLine = 1;
+        myLineBegin = myText.starts_with("\xEF\xBB\xBF") ? 3 : 0;
+        myLineEnd = std::min(myText.find('\n'), myText.size());
+    }
+
+    std::string_view myText;
+    std::uint32_t myLine; // that of the offset asked for last
+    std::size_t myLineBegin;
+    std::size_t myLineEnd;
+};
+
+/// The offsets, from the "<", at which the attributes of a start tag begin.
+class AttributeOffsets
+{
+public:
+    explicit AttributeOffsets(std::string_view tag) : myTag(tag), myAt(tag.find_first_of(theBlanks)) {}
+
+    std::size_t next()
+    {
+        std::size_t const begin = std::min(myTag.find_first_not_of(theBlanks, myAt), myTag.size());
+        std::size_t const quote = myTag.find_first_of("\"'", begin);
+        std::size_t const end = quote < myTag.size() ? myTag.find(myTag[quote], quote + 1) : quote;
+        myAt = end < myTag.size() ? end + 1 : end;
+        return begin;
+    }
+
+private:
+    static constexpr char const* theBlanks = " \t\r\n";
+    std::string_view myTag;
+    std::size_t myAt;
+};
+
+/// Whether bytes 0 to 127 of the text are ASCII and stand for themselves.
+bool isByteWise(std::string_view text)
+{
+    return text.substr(0, 4).find('\0') == std::string_view::npos && !text.starts_with("\xFE\xFF") &&
+           !text.starts_with("\xFF\xFE");
+}
+
 /// Fills one environment from the events of one parser.
 class XmlParse
 {
 public:
-    XmlParse(AxFilename const& file, bool reports);
-    AxEnvironmentPtr read(std::string_view text);
+    XmlParse(std::string_view text, AxFilename const& file, bool reports);
+    AxEnvironmentPtr read();
 
 private:
     /// An element whose end has not been seen.
@@ -84,6 +155,8 @@ private:
     void doctype(char const* name, char const*);
 
     void setHandlers();
+    TextPlaces::Place currentPlace() const;
+    std::size_t currentOffset() const;
     void place(AxEnvValue& node);
     AxEnvListPtr openList();
     void endText();
@@ -96,6 +169,9 @@ private:
         void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
     };
 
+    std::string_view myText;
+    bool myIsByteWise;
+    mutable TextPlaces myPlaces;
     AxFilename const& myFile;
     bool myReports;
     std::unique_ptr<XML_ParserStruct, ParserDeleter> myParser;
@@ -103,12 +179,17 @@ private:
     std::vector<OpenElement> myOpen;
     /// Text of the value that is being gathered; null between values.
     AxEnvValuePtr myValue;
-    std::string myText;
+    std::string myGathered;
     bool myFailed = false;
 };
 
-XmlParse::XmlParse(AxFilename const& file, bool reports)
-    : myFile(file), myReports(reports), myParser(XML_ParserCreate(nullptr))
+XmlParse::XmlParse(std::string_view text, AxFilename const& file, bool reports)
+    : myText(text),
+      myIsByteWise(isByteWise(text)),
+      myPlaces(text),
+      myFile(file),
+      myReports(reports),
+      myParser(XML_ParserCreate(nullptr))
 {
     if (myParser == nullptr)
     {
@@ -138,14 +219,14 @@ void XmlParse::setHandlers()
     XML_SetUnknownEncodingHandler(parser, onEncoding, this);
 }
 
-AxEnvironmentPtr XmlParse::read(std::string_view text)
+AxEnvironmentPtr XmlParse::read()
 {
-    if (text.size() > axLimits.fileSize)
+    if (myText.size() > axLimits.fileSize)
     {
         fail("file-limit", "text is longer than " + std::to_string(axLimits.fileSize) + " bytes");
         return {};
     }
-    XML_Status status = XML_Parse(myParser.get(), text.data(), static_cast<int>(text.size()), XML_TRUE);
+    XML_Status status = XML_Parse(myParser.get(), myText.data(), static_cast<int>(myText.size()), XML_TRUE);
     if (status != XML_STATUS_OK)
     {
         fail("xml-syntax", XML_ErrorString(XML_GetErrorCode(myParser.get())));
@@ -163,8 +244,9 @@ void XmlParse::report(AxSeverity severity, char const* code, std::string text) c
     finding.severity = severity;
     finding.code = code;
     finding.file = myFile.string().string();
-    finding.line = static_cast<unsigned>(XML_GetCurrentLineNumber(myParser.get()));
-    finding.column = static_cast<unsigned>(XML_GetCurrentColumnNumber(myParser.get())) + 1;
+    TextPlaces::Place const found = currentPlace();
+    finding.line = found.line;
+    finding.column = found.column;
     finding.text = std::move(text);
     AxDiagnostics::report(std::move(finding));
 }
@@ -179,10 +261,25 @@ void XmlParse::fail(char const* code, std::string text)
     }
 }
 
+TextPlaces::Place XmlParse::currentPlace() const
+{
+    if (myIsByteWise)
+    {
+        return myPlaces.at(currentOffset());
+    }
+    return {static_cast<std::uint32_t>(XML_GetCurrentLineNumber(myParser.get())),
+            static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(myParser.get())) + 1};
+}
+
+std::size_t XmlParse::currentOffset() const
+{
+    return static_cast<std::size_t>(std::max<XML_Index>(XML_GetCurrentByteIndex(myParser.get()), 0));
+}
+
 void XmlParse::place(AxEnvValue& node)
 {
-    node.setPlace(static_cast<std::uint32_t>(XML_GetCurrentLineNumber(myParser.get())),
-                  static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(myParser.get())) + 1);
+    TextPlaces::Place const place = currentPlace();
+    node.setPlace(place.line, place.column);
 }
 
 AxEnvListPtr XmlParse::openList()
@@ -216,12 +313,17 @@ void XmlParse::start(char const* tag, char const** attributes)
         fail("attribute-limit", "element has more than " + std::to_string(axLimits.xmlAttributes) + " attributes");
         return;
     }
+    std::size_t const begin = currentOffset();
+    auto const length = static_cast<std::size_t>(XML_GetCurrentByteCount(myParser.get()));
+    AttributeOffsets offsets(myText.substr(std::min(begin, myText.size()), length));
     for (int i = 0; i < count; i += 2)
     {
-        AxEnvValuePtr value = object->setAttribute(attributes[i], attributes[i + 1]);
+        AxEnvValuePtr value = object->appendAttribute(attributes[i], attributes[i + 1]);
+        std::size_t const offset = begin + offsets.next();
         if (value != nullptr)
         {
-            place(*value);
+            TextPlaces::Place const found = myIsByteWise ? myPlaces.at(offset) : currentPlace();
+            value->setPlace(found.line, found.column);
         }
     }
     if (myOpen.empty())
@@ -276,8 +378,8 @@ void XmlParse::characters(std::string_view text)
         myValue = boost::make_shared<AxEnvValue>();
         place(*myValue);
     }
-    myText += text;
-    if (myText.size() > axLimits.tokenSize)
+    myGathered += text;
+    if (myGathered.size() > axLimits.tokenSize)
     {
         fail("token-limit", "text is longer than " + std::to_string(axLimits.tokenSize) + " bytes");
     }
@@ -295,14 +397,14 @@ void XmlParse::endText()
     {
         return;
     }
-    if (!isBlank(myText))
+    if (!isBlank(myGathered))
     {
         myOpen.back().keepsText = true;
     }
-    myValue->setValue(AxString(std::move(myText)));
+    myValue->setValue(AxString(std::move(myGathered)));
     openList()->add(myValue);
     myValue.reset();
-    myText.clear();
+    myGathered.clear();
 }
 
 void XmlParse::comment(char const* text, char const*)
@@ -363,7 +465,7 @@ AxEnvironmentPtr guardedRead(std::string_view text, AxFilename const& name, bool
 {
     try
     {
-        return XmlParse(name, reports).read(text);
+        return XmlParse(text, name, reports).read();
     }
     catch (std::exception const& error)
     {

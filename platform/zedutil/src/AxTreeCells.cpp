@@ -338,6 +338,12 @@ AxlObjPtr AxTreeCells::attributeCell(std::string_view text, AxEnvValue const& pl
                               : AxlCellPool::adopt(AxlCellPool::newSymbol(AxSymbolString(text), placeOf(place)));
     }
     std::string_view const word = member ? trimmed(text) : text;
+    double number = 0.0;
+    if (axParseReal(word, number) && !isTextKind(member))
+    {
+        bool const isInteger = word.find_first_of(".eE") == std::string_view::npos;
+        return AxlCellPool::adopt(AxlCellPool::newSpelledNumber(number, isInteger, word, placeOf(place)));
+    }
     if (isNumeral(word) && !isTextKind(member))
     {
         return placed(parsed(word)->car(), placeOf(place));
@@ -353,6 +359,30 @@ AxlObjPtr AxTreeCells::attributeItem(AxEnvObject const& object, AxEnvObject::Att
     return listOf({nameCell(AxSymbolString(attribute.name), placeOf(place)),
                    attributeCell(attribute.value->value().string(), place, member)},
                   placeOf(place));
+}
+
+bool AxTreeCells::hasItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide)
+{
+    AxEnvObject const* const object = child.isObject() ? static_cast<AxEnvObject const*>(&child) : nullptr;
+    if (!object || object->isReserved())
+    {
+        return false;
+    }
+    if (object->type() == theTextTag)
+    {
+        return !textItem(*object).nil();
+    }
+    if ((parent.type() == theAttributesTag && object->type() == "attribute") ||
+        (parent.type() == theObjectTypesTag && object->type() == "objectType"))
+    {
+        return true;
+    }
+    if (memberFor(guide, *object))
+    {
+        return !isNullType(*object);
+    }
+    bool const isNamed = !guide || dynamic_cast<AxRwList const*>(guide) || !object->name().isNull();
+    return isNamed && !(guide && guide->isValue());
 }
 
 AxlObjPtr AxTreeCells::childItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide)

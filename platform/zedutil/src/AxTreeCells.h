@@ -22,6 +22,8 @@ AxlObjPtr attributeItem(AxEnvObject const& object, AxEnvObject::Attribute const&
                         AxReaderWriter const* member);
 /// The item of a child of `parent`; nil for one that has none: text, comments, nameless unknown elements.
 AxlObjPtr childItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide);
+/// Whether that child has an item, which is told without making it.
+bool hasItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide);
 /// The member of a record or list that an attribute, or a child by its name or tag, belongs to; or null.
 AxReaderWriter* memberFor(AxReaderWriter const* record, AxString const& keyword);
 AxReaderWriter* memberFor(AxReaderWriter const* record, AxEnvObject const& child);

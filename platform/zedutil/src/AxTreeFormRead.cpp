@@ -133,11 +133,11 @@ void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, A
             }
             continue;
         }
-        AxlObjPtr const item = AxTreeCells::childItem(*child, *node, &rw);
-        if (!item.nil())
+        if (AxTreeCells::hasItem(*child, *node, &rw))
         {
             if (!isText && rw.flag(AxReaderWriter::KeepsItems))
             {
+                AxlObjPtr const item = AxTreeCells::childItem(*child, *node, &rw);
                 keepXml(rw, AxTreeCells::printed(item.get()), AxXmlFragment::ofNode(*child), last);
             }
             continue;
@@ -181,8 +181,7 @@ void AxTreeForm::finishList(AxRwList& list, AxEnvironmentPtr const& env, AxEnvOb
             finish(*member, env, object, files, bindings);
             continue;
         }
-        AxlObjPtr const item = AxTreeCells::childItem(*child, *node, &list);
-        if (item.nil())
+        if (!AxTreeCells::hasItem(*child, *node, &list))
         {
             if (!object)
             {
@@ -191,8 +190,10 @@ void AxTreeForm::finishList(AxRwList& list, AxEnvironmentPtr const& env, AxEnvOb
             }
             continue;
         }
-        auto const place =
-            kept.empty() ? kept.end() : std::find(kept.begin(), kept.end(), AxTreeCells::printed(item.get()));
+        auto const place = kept.empty()
+                               ? kept.end()
+                               : std::find(kept.begin(), kept.end(),
+                                           AxTreeCells::printed(AxTreeCells::childItem(*child, *node, &list).get()));
         if (place != kept.end())
         {
             kept.erase(place);

@@ -95,6 +95,34 @@ TEST(AxEnvXML, GivesEveryNodeItsPlace)
     EXPECT_EQ(child->column(), 3U);
 }
 
+TEST(AxEnvXML, GivesEveryAttributeItsPlaceInBytes)
+{
+    struct Case
+    {
+        std::string text;
+        char const* attribute;
+        unsigned line;
+        unsigned column;
+    };
+    std::string inUtf16 = "\xFF\xFE";
+    for (char const byte : std::string("<a x='1'/>"))
+    {
+        inUtf16 += {byte, '\0'};
+    }
+    for (Case const& one : {Case{"<a x='1' name='>' y = \"'\"/>", "y", 1, 19},
+                            {"<a x='1'\r\n\t y='2'\n/>", "y", 2, 3},
+                            {"<!--\n-->\n<a\n\nx='1\n' y='2'\n/>", "y", 6, 3},
+                            {"<a x='\xC3\xA4' y='2'/>", "y", 1, 11},
+                            {"\xEF\xBB\xBF<a x='1'/>", "x", 1, 4},
+                            {inUtf16, "x", 1, 1}})
+    {
+        AxEnvValuePtr const value = rootOf(read(one.text))->attributeNode(one.attribute);
+        ASSERT_TRUE(value) << one.text;
+        EXPECT_EQ(value->line(), one.line) << one.text;
+        EXPECT_EQ(value->column(), one.column) << one.text;
+    }
+}
+
 TEST(AxEnvXML, AnyTreeReadsBackEqual)
 {
     std::mt19937 engine(7);

@@ -1,0 +1,52 @@
+#include "AxEntityFiles.h"
+
+#include "AxZedXmlUtils.h"
+
+#include <boost/weak_ptr.hpp>
+#include <map>
+#include <string>
+#include <sys/stat.h>
+#include <tuple>
+
+namespace
+{
+/// What tells one content of a file from another: size, inode, time of the last change.
+using Version = std::tuple<off_t, ino_t, time_t, long>;
+
+struct Parsed
+{
+    Version version;
+    boost::weak_ptr<AxEnvironment> tree;
+};
+
+Version versionOf(AxFilename const& file)
+{
+    struct stat status
+    {
+    };
+    stat(file.native().c_str(), &status);
+    return {status.st_size, status.st_ino, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+} // namespace
+
+AxEnvironmentPtr AxEntityFiles::tree(AxFilename const& file)
+{
+    static std::map<std::string, Parsed> parsed;
+
+    Version const version = versionOf(file);
+    auto const known = parsed.find(file.native());
+    if (known != parsed.end() && known->second.version == version)
+    {
+        if (AxEnvironmentPtr const shared = known->second.tree.lock())
+        {
+            return shared;
+        }
+    }
+    std::erase_if(parsed, [](auto const& entry) { return entry.second.tree.expired(); });
+    AxEnvironmentPtr const tree = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
+    if (tree)
+    {
+        parsed[file.native()] = {version, tree};
+    }
+    return tree;
+}

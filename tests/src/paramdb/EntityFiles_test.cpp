@@ -1,0 +1,191 @@
+#include "AxMovingObjectParameters.h"
+#include "DatabaseFixture.h"
+
+namespace
+{
+/// A database whose records stand in entity files below "data".
+class EntityFiles : public DatabaseFixture
+{
+protected:
+    static std::string object(std::string const& types, std::string const& platform)
+    {
+        return "<simObject name=\"m1\">" + types + "<platform parameter-type=\"moving-object-param\" " + platform +
+               "/></simObject>";
+    }
+    static std::string exact(char const* type) { return std::string("<objectType value=\"") + type + "\"/>"; }
+    static std::string match(char const* type) { return std::string("<matchType value=\"") + type + "\"/>"; }
+    static std::string further(char const* type)
+    {
+        return std::string("<objectTypes name=\"additional-match-types\"><objectType value=\"") + type +
+               "\"/></objectTypes>";
+    }
+    AxFilename putDatabase(std::string const& entries = "", std::string const& root = "$(opd-dir)/data") const
+    {
+        return put("d.opd", database(entries, "(variable-bindings (data-root \"" + root + "\")) (version 101)"));
+    }
+    bool load(AxFilename const& file) { return db.load(file); }
+    double speedOf(AxSxpParameterDb& from, AxObjectType const& type, AxObjectType* matched = nullptr) const
+    {
+        auto const* record = dynamic_cast<AxMovingObjectParameters const*>(from.lookup(type, matched));
+        return record != nullptr ? record->maxSpeed() : -1.0;
+    }
+    std::string typesOf(AxSxpParameterDb const& of) const
+    {
+        std::string text;
+        for (AxListItem const* item = of.parameterList().first(); item != nullptr; item = item->next())
+        {
+            auto const& entry = *static_cast<AxSxpParameterDbEntry const*>(item->data());
+            text += entry.objectType().string().string() + (entry.typeIsMatchType() ? "~ " : " ");
+        }
+        return text;
+    }
+};
+
+constexpr char const* theTank = "1:1:1:225:1:1:3:0";
+constexpr char const* theTanks = "1:1:1:225:1:1:-1:-1";
+constexpr char const* theM60s = "1:1:1:225:1:2:-1:-1";
+constexpr char const* theTrucks = "1:1:1:-1:6:-1:-1:-1";
+} // namespace
+
+TEST_F(EntityFiles, EachTypeOfEachElementBecomesAnEntry)
+{
+    put("data/m1.entity",
+        "<f>" + object(exact(theTank) + match(theTanks) + further(theM60s), "max-speed=\"18.5\"") + "</f>");
+    put("data/more/truck.entity", object(match(theTrucks), "max-speed=\"22\""));
+    put("data/more/truck.entity.old", "no XML");
+    ASSERT_TRUE(load(putDatabase()));
+    EXPECT_EQ(typesOf(db), "1:1:1:-1:6:-1:-1:-1~ 1:1:1:225:1:1:-1:-1~ 1:1:1:225:1:1:3:0 1:1:1:225:1:2:-1:-1~ ");
+    AxObjectType matched;
+    EXPECT_EQ(speedOf(db, tank, &matched), 18.5);
+    EXPECT_EQ(matched, tank);
+    EXPECT_EQ(speedOf(db, typeOf("1:1:1:225:1:1:2:0"), &matched), 18.5);
+    EXPECT_EQ(matched, tanks);
+    EXPECT_EQ(speedOf(db, typeOf("1:1:1:222:6:1:0:0"), &matched), 22.0);
+    EXPECT_EQ(speedOf(db, typeOf("1:1:2:222:6:1:0:0")), -1.0);
+    EXPECT_EQ(warned(), "");
+}
+
+TEST_F(EntityFiles, RecordsOfOneFileShareItsTreeUntilTheFileChanges)
+{
+    put("data/a.entity", "<f>" + object(exact(theTank), "") + object(exact(theTanks), "") + "</f>");
+    ASSERT_TRUE(load(putDatabase()));
+    AxZedObjectParameters const* first = db.lookup(tank);
+    AxZedObjectParameters const* second = db.lookup(tanks);
+    ASSERT_TRUE(first && second);
+    EXPECT_EQ(first->xmlEnvironment(), second->xmlEnvironment());
+    EXPECT_EQ(first->objectType(), tank);
+    put("data/a.entity", "<f>" + object(exact(theTank), "max-speed=\"7.25\"") + "</f>");
+    EXPECT_TRUE(entryOf(db, tank)->loadFromFile(entryOf(db, tank)->filename()));
+    EXPECT_EQ(speedOf(db, tank), 7.25);
+}
+
+TEST_F(EntityFiles, RecordsAreReadWhenTheyAreFirstAskedFor)
+{
+    put("data/a.entity", object(exact(theTank), "max-speed=\"1\""));
+    ASSERT_TRUE(load(putDatabase()));
+    put("data/a.entity", object(exact(theTank), "max-speed=\"2\""));
+    EXPECT_EQ(speedOf(db, tank), 2.0);
+    put("data/a.entity", object(exact(theTank), "max-speed=\"3\""));
+    EXPECT_EQ(speedOf(db, tank), 2.0);
+}
+
+TEST_F(EntityFiles, TheLaterFileAnswersAndTheListedEntryGivesWay)
+{
+    put("m1.ope", record("(max-speed 1.0)", "moving-object-param"));
+    put("data/b.entity", object(exact(theTank), "max-speed=\"3\""));
+    put("data/a/z.entity", object(exact(theTank), "max-speed=\"2\""));
+    ASSERT_TRUE(load(putDatabase(entry("1 1 1 225 1 1 3 0", "m1.ope"))));
+    EXPECT_EQ(db.numParameterEntries(), 1);
+    EXPECT_EQ(speedOf(db, tank), 3.0);
+}
+
+TEST_F(EntityFiles, AFaultGivesOneLineAndTheRestLoads)
+{
+    struct Case
+    {
+        std::string text;
+        char const* said;
+    };
+    Case const cases[] = {
+        {"<f><a></f>", "bad.entity:1:9: error: mismatched tag [xml-syntax]"},
+        {"", "bad.entity:1:1: error: no element found [xml-syntax]"},
+        {"<?xml version=\"1.0\" encoding=\"klingon\"?><f/>",
+         "bad.entity:1:1: error: encoding \"klingon\" is not supported [xml-encoding]"},
+        {"<!DOCTYPE f [<!ENTITY a \"aaaa\">]><f>&a;</f>",
+         "bad.entity:1:13: warning: document type declaration \"f\" is dropped [xml-doctype]\n"
+         "bad.entity:1:25: error: entity declarations are not accepted [xml-entity]"},
+        {"<f>\n<simObject/></f>", "bad.entity:2:1: warning: the element has no object type and no match type, so that "
+                                  "nothing finds it [no-object-type]"},
+        {"<f>" + object(exact("1:1:1:225:1:1:4:0"), "") + "\n" + object(exact("1:1:1:225:1:1:4:0"), "") + "</f>",
+         "bad.entity:2:1: warning: the type 1:1:1:225:1:1:4:0 stands in the file before; the later element answers "
+         "[repeated-type]"},
+    };
+    for (Case const& c : cases)
+    {
+        AxSxpParameterDb fresh;
+        fresh.init();
+        put("data/bad.entity", c.text);
+        put("data/good.entity", object(exact(theTank), "max-speed=\"2\""));
+        EXPECT_TRUE(fresh.load(putDatabase()));
+        std::string said = warned();
+        for (std::size_t at; (at = said.find(directory() + "/data/")) != std::string::npos;)
+        {
+            said.erase(at, directory().size() + 6);
+        }
+        EXPECT_EQ(said, std::string(c.said) + '\n');
+        EXPECT_EQ(speedOf(fresh, tank), 2.0);
+    }
+}
+
+TEST_F(EntityFiles, AMissingDataRootIsTold)
+{
+    EXPECT_TRUE(load(putDatabase("", "$(opd-dir)/none")));
+    EXPECT_NE(warned().find("cannot read the directory " + path("none")), std::string::npos);
+    EXPECT_EQ(db.numParameterEntries(), 0);
+}
+
+TEST_F(EntityFiles, RecordsThatCannotBeMadeAreToldAtEachLookUp)
+{
+    AxFilename const file = put("data/a.entity", object(exact(theTank), ""));
+    ASSERT_TRUE(load(putDatabase()));
+    put("data/a.entity", object(exact(theTanks), ""));
+    EXPECT_EQ(db.lookup(tank), nullptr);
+    EXPECT_EQ(warned(), "Entry not found for type 1:1:1:225:1:1:3:0 in file " + file.string().string() + '\n');
+    boost::filesystem::remove(file.native());
+    EXPECT_EQ(db.lookup(tank), nullptr);
+    EXPECT_EQ(warned(), "Could not open parameter file " + file.string().string() + ": No such file or directory\n");
+    put("data/a.entity", "<simObject>" + exact(theTank) + "\n</simObject>");
+    EXPECT_EQ(db.lookup(tank), nullptr);
+    EXPECT_EQ(warned(), file.string().string() + ":1:1: error: expected an element \"platform\" [no-platform]\n");
+    put("data/a.entity", object(exact(theTank), "max-speed=\"4\""));
+    EXPECT_EQ(speedOf(db, tank), 4.0) << "a failed look-up is tried again";
+}
+
+TEST_F(EntityFiles, SavedRecordsBecomeParameterFilesAndTheDataRootGoes)
+{
+    put("data/a.entity", object(exact(theTank) + match(theTanks), "max-speed=\"2\" category=\"tank\""));
+    ASSERT_TRUE(load(putDatabase()));
+    ASSERT_EQ(speedOf(db, tank), 2.0);
+    ASSERT_TRUE(db.save(AxFilename(path("saved.opd"))));
+    EXPECT_EQ(get("saved.opd").find("data-root"), std::string::npos);
+    AxSxpParameterDb saved;
+    saved.init();
+    ASSERT_TRUE(saved.load(AxFilename(path("saved.opd"))));
+    EXPECT_EQ(typesOf(saved), "1:1:1:225:1:1:-1:-1 1:1:1:225:1:1:3:0 ");
+    EXPECT_EQ(speedOf(saved, tank), 2.0);
+    EXPECT_EQ(speedOf(saved, typeOf("1:1:1:225:1:1:9:0")), 2.0) << "still from the entity file, by its match type";
+    EXPECT_EQ(warned(), "");
+}
+
+TEST_F(EntityFiles, UnloadedEntriesStayWithTheDataRoot)
+{
+    put("data/a.entity", object(exact(theTank), "max-speed=\"2\""));
+    ASSERT_TRUE(load(putDatabase()));
+    ASSERT_TRUE(db.save(AxFilename(path("d.opd"))));
+    EXPECT_NE(get("d.opd").find("(data-root \"$(opd-dir)/data\")"), std::string::npos);
+    AxSxpParameterDb saved;
+    saved.init();
+    ASSERT_TRUE(saved.load(AxFilename(path("d.opd"))));
+    EXPECT_EQ(speedOf(saved, tank), 2.0);
+    EXPECT_EQ(saved.numParameterEntries(), 1);
+}

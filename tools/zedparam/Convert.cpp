@@ -1,0 +1,231 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <boost/make_shared.hpp>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "AxEnvXMLWriter.h"
+#include "AxReadWholeFile.h"
+#include "AxReplaceFile.h"
+#include "AxRwVariableBindings.h"
+#include "AxZedObjectParameters.h"
+#include "AxZedXmlUtils.h"
+#include "AxlFunctions.h"
+#include "AxlSyntaxError.h"
+#include "ConvertDatabase.h"
+#include "Database.h"
+#include "Findings.h"
+#include "Json.h"
+#include "RecordJson.h"
+
+namespace
+{
+namespace fs = std::filesystem;
+
+struct Options
+{
+    std::string file;
+    std::string form;
+    std::string output;
+    std::string database;
+    std::string object;
+};
+
+using Records = std::vector<std::unique_ptr<AxZedObjectParameters>>;
+
+/// What a record file may refer to: files beside it, and what its database binds.
+struct Context
+{
+    Context(std::string const& file, Database const& database)
+    {
+        files.push_back(AxFilename(fs::absolute(file).parent_path().string()));
+        for (auto const& set : database.variableBindings())
+        {
+            bindings.push_back(set.get());
+        }
+        if (!database.directory().empty())
+        {
+            std::string const directory = fs::absolute(database.directory()).lexically_normal().string();
+            files.push_back(AxFilename(directory));
+            ofDatabase.setString("opd-dir", AxString(directory));
+            bindings.push_back(&ofDatabase);
+        }
+    }
+    AxFilenameList files{};
+    AxRwVariableBindings ofDatabase{"opd-variables"};
+    AxBindingsList bindings{};
+};
+
+Records readEntities(AxFilename const& file, std::string const& object, Context const& context)
+{
+    Records records;
+    AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
+    std::list<AxEnvValuePtr> elements;
+    AxZedXmlUtils::getObjectElements(env, elements);
+    for (AxEnvValuePtr const& element : elements)
+    {
+        if (!object.empty() && !(AxReaderWriter::getAttribute(env, "name", element) == AxString(object)))
+        {
+            continue;
+        }
+        std::unique_ptr<AxZedObjectParameters> record(
+            AxZedXmlUtils::createParameters(env, element, context.files, context.bindings));
+        if (record == nullptr)
+        {
+            continue;
+        }
+        std::vector<AxObjectType> matchTypes;
+        AxZedXmlUtils::getMatchTypes(env, element, matchTypes);
+        record->setObjectType(AxZedXmlUtils::getObjectType(env, element));
+        record->setMatchType(matchTypes.empty() ? AxObjectType() : matchTypes.front());
+        records.push_back(std::move(record));
+    }
+    return records;
+}
+
+Records readText(AxFilename const& file, Database const& database, Context const& context)
+{
+    Records records;
+    std::string text;
+    int error = 0;
+    if (!axReadWholeFile(file, text, error))
+    {
+        std::fprintf(stderr, "zedparam: cannot read \"%s\": %s\n", file.c_str(), std::strerror(error));
+        return records;
+    }
+    try
+    {
+        AxlInputStream stream(text);
+        std::unique_ptr<AxZedObjectParameters> record(
+            AxZedObjectParameters::createParameters(AxcRead(stream), context.files, context.bindings));
+        if (record != nullptr)
+        {
+            for (AxSxpParameterDbEntry const* entry : database.entries())
+            {
+                std::error_code ignored;
+                if (fs::equivalent(entry->foundFilename().native(), file.native(), ignored))
+                {
+                    record->setObjectType(entry->objectType());
+                }
+            }
+            records.push_back(std::move(record));
+        }
+    }
+    catch (AxlSyntaxError const& fault)
+    {
+        AxDiagnostics::report(fault.diagnostic());
+    }
+    return records;
+}
+
+std::string asJson(Records const& records)
+{
+    JsonWriter json;
+    json.beginArray();
+    for (auto const& record : records)
+    {
+        json.beginObject();
+        json.member("name", record->AxReaderWriter::name().view()).member("kind", record->type().string());
+        if (!record->objectType().isNull())
+        {
+            json.member("object-type", record->objectType().string().string());
+        }
+        json.key("values").beginObject();
+        writeJsonMembers(json, *record, false);
+        json.endObject().endObject();
+    }
+    return json.endArray().text();
+}
+
+/// Empty after a report when it cannot be written.
+std::string asEntities(Records const& records)
+{
+    auto const env = boost::make_shared<AxEnvironment>();
+    AxEnvValuePtr const root = records.size() == 1 ? AxEnvValuePtr() : env->addObject(AxString("entities"));
+    bool isWhole = true;
+    for (auto const& record : records)
+    {
+        isWhole = AxZedXmlUtils::addObject(env, root, *record) && isWhole;
+    }
+    std::string text;
+    return isWhole && AxEnvXMLWriter().writeText(env, text) ? text : std::string();
+}
+
+int convertRecords(Options const& options)
+{
+    Findings findings(Findings::Print::AtOnce);
+    std::unique_ptr<Database> const database =
+        options.database.empty() ? Database::openNone() : Database::open(options.database);
+    if (database == nullptr)
+    {
+        return CouldNotRun;
+    }
+    AxFilename const file(options.file);
+    AxSourceScope const scope(file);
+    Context const context(options.file, *database);
+    Records const records =
+        file.extension() == "entity" ? readEntities(file, options.object, context) : readText(file, *database, context);
+    if (records.empty() || (records.size() > 1 && options.form == "ope"))
+    {
+        std::fprintf(stderr,
+                     records.empty() ? "zedparam: no record in \"%s\" can be converted\n"
+                                     : "zedparam: \"%s\" holds several objects; name one with --object\n",
+                     options.file.c_str());
+        return CouldNotRun;
+    }
+    std::string const text = options.form == "ope"    ? records.front()->writtenText()
+                             : options.form == "json" ? asJson(records)
+                                                      : asEntities(records);
+    int error = 0;
+    if (text.empty())
+    {
+        return CouldNotRun;
+    }
+    if (options.output.empty())
+    {
+        std::fputs(text.c_str(), stdout);
+    }
+    else if (!axReplaceFile(AxFilename(options.output), text, error))
+    {
+        std::fprintf(stderr, "zedparam: cannot write \"%s\": %s\n", options.output.c_str(), std::strerror(error));
+        return CouldNotRun;
+    }
+    return findings.empty() ? Fine : HasFindings;
+}
+
+int convert(Options const& options)
+{
+    bool const isDatabase = options.file.ends_with(AxSxpParameterDb::opdFilenameExtension().string());
+    if (!isDatabase)
+    {
+        return convertRecords(options);
+    }
+    if (options.form == "json" || options.output.empty())
+    {
+        std::fprintf(stderr, "zedparam: a database is converted to \"ope\" or \"entity\", with --output NEW.opd\n");
+        return CouldNotRun;
+    }
+    return convertDatabase(options.file, options.output, options.form == "entity");
+}
+} // namespace
+
+void addConvertCommand(CLI::App& app, int& exitCode)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App* command = app.add_subcommand(
+        "convert", "Writes the record in a file, or all records of a database, in another notation.");
+    command->add_option("FILE", options->file, "A record file (.ope), an entity file (.entity) or a database (.opd)")
+        ->required();
+    command->add_option("--to", options->form, "The notation: ope, entity or json")
+        ->required()
+        ->check(CLI::IsMember({"ope", "entity", "json"}));
+    command->add_option("-o,--output", options->output, "The file to write; none: the standard output");
+    command->add_option("--database", options->database, "The database that binds the variables of a record file");
+    command->add_option("--object", options->object, "Of an entity file, the object of this name alone");
+    command->callback([options, &exitCode] { exitCode = convert(*options); });
+}

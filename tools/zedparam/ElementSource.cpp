@@ -1,0 +1,109 @@
+#include "ElementSource.h"
+
+#include <span>
+#include <string>
+
+#include "AxReaderWriter.h"
+
+namespace
+{
+bool matches(SourceStep const& step, AxString const& name)
+{
+    return step.keyword.isNull() || step.keyword.string() == name || step.rw->hasAlias(AxSymbolString(name));
+}
+
+AxEnvObject const* objectIn(AxEnvValuePtr const& node)
+{
+    return node->isObject() ? static_cast<AxEnvObject const*>(node.get()) : nullptr;
+}
+
+AxEnvValue const* valueBelow(AxEnvObject const& object, std::span<SourceStep const> path)
+{
+    if (path.size() == 1)
+    {
+        for (AxEnvObject::Attribute const& attribute : object.attributes())
+        {
+            if (matches(path.front(), attribute.name))
+            {
+                return attribute.value.get();
+            }
+        }
+    }
+    for (AxEnvValuePtr const& node : object.children())
+    {
+        AxEnvObject const* const child = objectIn(node);
+        AxEnvValue const* found = nullptr;
+        if (child != nullptr && matches(path.front(), child->hasName() ? child->name() : child->type()))
+        {
+            found = path.size() == 1 ? child : valueBelow(*child, path.subspan(1));
+        }
+        else if (child != nullptr && child->type() == "variableBindings")
+        {
+            found = valueBelow(*child, path);
+        }
+        if (found != nullptr)
+        {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+AxEnvValue const* referenceBelow(AxEnvObject const& object, std::string const& whole, std::string const& embedded)
+{
+    for (AxEnvObject::Attribute const& attribute : object.attributes())
+    {
+        std::string const& text = attribute.value->value().string();
+        if (text == whole || text.find(embedded) != std::string::npos)
+        {
+            return attribute.value.get();
+        }
+    }
+    for (AxEnvValuePtr const& node : object.children())
+    {
+        AxEnvObject const* const child = objectIn(node);
+        AxEnvValue const* const found = child != nullptr ? referenceBelow(*child, whole, embedded) : nullptr;
+        if (found != nullptr)
+        {
+            return found;
+        }
+    }
+    return nullptr;
+}
+} // namespace
+
+AxEnvValue const* ElementSource::value(std::vector<SourceStep> const& path) const
+{
+    if (path.empty() || myElement == nullptr)
+    {
+        return nullptr;
+    }
+    // Systems are elements beside that of the record.
+    bool const isInSystem = path.size() > 1 && path.front().keyword == "systems";
+    for (AxEnvValuePtr const& node : myElement->children())
+    {
+        AxEnvObject const* const child = objectIn(node);
+        std::span<SourceStep const> rest(path);
+        AxEnvValue const* found = nullptr;
+        if (child != nullptr && isInSystem && child->type() == "componentSystem" && matches(path[1], child->name()))
+        {
+            found = path.size() == 2 ? child : valueBelow(*child, rest.subspan(2));
+        }
+        else if (child != nullptr && child->type() == "platform")
+        {
+            found = valueBelow(*child, rest);
+        }
+        if (found != nullptr)
+        {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+AxEnvValue const* ElementSource::reference(std::string_view variable) const
+{
+    return myElement == nullptr
+               ? nullptr
+               : referenceBelow(*myElement, "$" + std::string(variable), "$(" + std::string(variable) + ")");
+}
