@@ -460,15 +460,15 @@ bool AxTextReader::readMember(AxReaderWriter& member, AxTypeInfo::Reading readin
     {
         char const* const end = endOfWord(myAt);
         std::string_view const word(myAt, static_cast<std::size_t>(end - myAt));
-        if (word != "true" && word != "false")
+        bool const value = word == "true" || word == "True";
+        if (!value && word != "false" && word != "False")
         {
             return false;
         }
-        bool value = word == "true";
         myAt = end;
         if (closes())
         {
-            static_cast<AxRwBoolean&>(member).takeRead(std::move(value));
+            static_cast<AxRwBoolean&>(member).takeRead(value);
             return true;
         }
         return false;
