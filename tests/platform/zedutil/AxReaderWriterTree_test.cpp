@@ -350,7 +350,7 @@ TEST(AxReaderWriterTree, FaultsAreReportedAtTheirLinesAndNeighboursAreRead)
         double mass;
     };
     Case const cases[] = {
-        {"<m name='m'\n mass='heavy' seats='2'/>", "wrong-kind@1", 5000.0},
+        {"<m name='m'\n mass='heavy' seats='2'/>", "wrong-kind@2", 5000.0},
         {"<m name='m' mass='7'>\n<vector name='place' value='1 2'/></m>", "wrong-kind@2", 7.0},
         {"<m name='m' mass='7'>\n<vector name='place' value='1 (2'/></m>", "wrong-kind@2", 7.0},
         {"<m name='m' mass='7'>\n<vector name='place'/></m>", "wrong-kind@2", 7.0},

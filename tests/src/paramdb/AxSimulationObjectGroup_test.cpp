@@ -80,7 +80,7 @@ TEST_F(AxSimulationObjectGroupTest, UnknownStatesAreToldInOneLineAndKept)
     AxFilename const file = patrol();
     ASSERT_TRUE(group.load(file));
     EXPECT_EQ(warned(), path("patrol.sog") +
-                            ":5:3: warning: unknown keyword \"colour\" in lead "
+                            ":5:70: warning: unknown keyword \"colour\" in lead "
                             "(AxSimulationObjectEntityState) [unknown-keyword]\n" +
                             path("patrol.sog") +
                             ":9:3: warning: unknown simulation object state "

@@ -450,19 +450,6 @@ TEST_F(AxSxpParameterDbTest, DataRootIsLeftOutOnceARecordOfAnEntityFileIsWritten
     }
 }
 
-TEST_F(AxSxpParameterDbTest, EntityFilesAreSaidOnceAndTheRestIsUsable)
-{
-    put("data/a.entity", "<entities/>");
-    put("data/deep/b.entity", "<entities/>");
-    put("m1.ope", record(""));
-    load(entry(theTank, "m1.ope"), "(variable-bindings (data-root \"data\")) (version 101)");
-    ASSERT_EQ(findings.size(), 1U);
-    EXPECT_EQ(findings.front().code, "entity-file");
-    EXPECT_EQ(findings.front().file, path("force.opd"));
-    EXPECT_EQ(findings.front().column, 40U);
-    EXPECT_TRUE(db.lookup(tank));
-}
-
 TEST_F(AxSxpParameterDbTest, ReferencesAreWrittenAsTheyWereOnlyWhereTheyMeanTheSame)
 {
     put("m1.ope", record(""));

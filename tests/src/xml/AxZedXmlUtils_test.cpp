@@ -200,7 +200,7 @@ TEST_F(AxZedXmlUtilsTest, FaultsAreToldAtTheirLines)
         {"<simObject>\n<platform parameter-type='zed-object-parm'/></simObject>", "unknown-type@2", false},
         {"<simObject>\n<platform parameter-type='zed-object-param'/>\n<platform/></simObject>", "repeated-element@3",
          true},
-        {"<simObject>\n<platform parameter-type='zed-object-param'\nmass='heavy'/></simObject>", "wrong-kind@2", true},
+        {"<simObject>\n<platform parameter-type='zed-object-param'\nmass='heavy'/></simObject>", "wrong-kind@3", true},
         {"<simObject>\n<platform parameter-type='zed-object-param' mas='1'/></simObject>", "unknown-keyword@2", true},
         {"<simObject><platform parameter-type='zed-object-param'/><variableBindings>\n<variable name='a'/>\n"
          "<variable value='1'/></variableBindings></simObject>",
