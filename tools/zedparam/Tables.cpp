@@ -5,7 +5,7 @@
 
 #include "AxAmmoSelectTable.h"
 #include "AxDmgSurfaceTable.h"
-#include "AxFormationTable.h"
+#include "AxFormation.h"
 #include "AxRangeProbabilityTable.h"
 #include "AxReaderWriterFile.h"
 #include "AxSourceScope.h"
@@ -69,7 +69,7 @@ std::size_t checkTables(std::vector<fs::path> const& files, Findings& findings)
         }
         else if (file.extension() == ".frm")
         {
-            AxFormationTable table("table", nullptr);
+            AxFormation table("table", nullptr);
             loaded += load(file, table);
         }
         else if (file.extension() == ".dmg")
