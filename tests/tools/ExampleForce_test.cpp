@@ -1,4 +1,6 @@
+#include "AxAggregateObjectParameters.h"
 #include "AxAmmoSelectTable.h"
+#include "AxBallisticGunDescriptor.h"
 #include "AxComponentSystemDefinition.h"
 #include "AxComponentSystemDescriptor.h"
 #include "AxDefaultComponentDescriptorFactory.h"
@@ -18,6 +20,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <list>
 #include <memory>
 #include <string>
 
@@ -58,10 +61,11 @@ protected:
         EXPECT_TRUE(member.load({}, {}));
     }
 
+    AxDefaultParameterFactory myRecords;
+
 private:
     AxSinkScope myWarnings{AxWarn};
     AxDefaultComponentDescriptorFactory myDescriptors;
-    AxDefaultParameterFactory myRecords;
 };
 
 TEST_F(ExampleForce, HitTableAnswersByRangeAndTarget)
@@ -131,6 +135,54 @@ TEST_F(ExampleForce, SystemsTakeTheValuesThatTheRecordSets)
     EXPECT_EQ(rangeOf("commander-sight"), 4500.0);
 }
 
+TEST_F(ExampleForce, GunsOfOneDefinitionShareTheHitTableOfItsFile)
+{
+    std::unique_ptr<AxSxpParameterDb> const database = loadAll(theForce + "force.opd");
+    for (AxObjectType const& type : {theTank, AxObjectType(1, 1, 225, 1, 1, 1, 0, 1)})
+    {
+        AxComponentSystemDescriptor const* system =
+            database->lookup(type)->systemDescriptorList().lookupComponentSystemDescriptor("main-gun");
+        auto const& gun = dynamic_cast<AxBallisticGunDescriptor const&>(
+            *system->systemDefinition()->actuatorDescriptorList().lookupComponentDescriptor("gun"));
+        AxPrbRangeTableEntry row;
+        EXPECT_TRUE(gun.hitProbabilityTable().getProbabilities(AxEntityType(1, 1, 222, 1, 2, 6, 0), 2000.0, &row));
+        EXPECT_DOUBLE_EQ(row.probability("hit"), 0.75) << type.string().string();
+    }
+}
+
+TEST_F(ExampleForce, UnitsTakeTheirPlacesFromFormationFiles)
+{
+    std::unique_ptr<AxSxpParameterDb> const database = loadAll(theForce + "force.opd");
+    auto const* platoon =
+        dynamic_cast<AxAggregateObjectParameters const*>(database->lookup(AxObjectType(1, 1, 225, 3, 2, 0, 0, 4)));
+    ASSERT_NE(platoon, nullptr);
+    AxString found;
+    AxFormation const* wedge = platoon->getFormation("diamond", &found);
+    ASSERT_NE(wedge, nullptr);
+    EXPECT_EQ(found, "wedge") << "the default";
+    EXPECT_EQ(wedge->offset(1), AxVector64(-50.0, 50.0, 0.0));
+    EXPECT_EQ(wedge->offset(3), AxVector64(-150.0, 0.0, 0.0)) << "one step behind the last place";
+    EXPECT_EQ(platoon->getFormation("column", nullptr)->numPositions(), 1);
+}
+
+TEST_F(ExampleForce, EachKindOfRecordAppearsAndEachSubordinateHasAnEntry)
+{
+    std::unique_ptr<AxSxpParameterDb> const database = loadAll(theForce + "force.opd");
+    std::list<AxString> missing = myRecords.typeNames();
+    for (AxListItem const* item = database->parameterList().first(); item != nullptr; item = item->next())
+    {
+        AxZedObjectParameters const& record = *static_cast<AxZedParameterDbEntry const*>(item->data())->parameters();
+        missing.remove(record.parameterType());
+        for (AxZedSubObjectParameterEntry const* subordinate : *record.subordinateObjects())
+        {
+            AxObjectType matched;
+            EXPECT_NE(database->lookup(subordinate->objectType(), &matched), nullptr);
+            EXPECT_EQ(matched, subordinate->objectType()) << "exactly, by no pattern";
+        }
+    }
+    EXPECT_EQ(missing, std::list<AxString>{});
+}
+
 TEST_F(ExampleForce, ComesBackEqualFromASave)
 {
     fs::path const copy = fs::path(testing::TempDir()) / "example-force-copy";
@@ -140,7 +192,7 @@ TEST_F(ExampleForce, ComesBackEqualFromASave)
     EXPECT_TRUE(original->save(AxFilename((copy / "saved.opd").string())));
     std::unique_ptr<AxSxpParameterDb> const saved = loadAll((copy / "saved.opd").string());
 
-    EXPECT_EQ(saved->numParameterEntries(), 23);
+    EXPECT_EQ(saved->numParameterEntries(), 64);
     for (AxListItem const* item = original->parameterList().first(); item != nullptr; item = item->next())
     {
         auto const& entry = *static_cast<AxZedParameterDbEntry const*>(item->data());
