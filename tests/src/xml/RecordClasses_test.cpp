@@ -79,7 +79,7 @@ TEST_F(RecordClassesInXml, ComponentDescriptorsComeBackWithAllTheyHold)
 TEST_F(RecordClassesInXml, DefinitionsAndTablesComeBackWithAllTheyHold)
 {
     for (char const* const file :
-         {"airframe", "autocannon", "day-sight", "gun-120mm", "missile-launcher", "radar", "tracked-hull"})
+         {"fixed-wing", "iff", "jammer", "sensor-turret", "smoke-launcher", "tracked-hull", "unit-command"})
     {
         expectFileSame<AxComponentSystemDefinition>((std::string("systems/") + file + ".sys").c_str());
     }
