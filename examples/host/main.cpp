@@ -73,7 +73,7 @@ bool isEquipped(char const* file)
 /// Puts what the records refer to, and the records that were never read, beside the new database.
 void takeAlong(AxSxpParameterDb& database, fs::path const& from, fs::path const& to)
 {
-    for (char const* folder : {"systems", "rules"})
+    for (char const* folder : {"ammoselect", "damage", "detection", "formation", "hit", "rules", "systems"})
     {
         fs::copy(from / folder, to / folder, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     }

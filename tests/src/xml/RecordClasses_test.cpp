@@ -4,6 +4,7 @@
 #include "AxRangeProbabilityTable.h"
 #include "src/objparams/RecordFixture.h"
 
+#include <filesystem>
 #include <fstream>
 
 namespace
@@ -78,11 +79,13 @@ TEST_F(RecordClassesInXml, ComponentDescriptorsComeBackWithAllTheyHold)
 
 TEST_F(RecordClassesInXml, DefinitionsAndTablesComeBackWithAllTheyHold)
 {
-    for (char const* const file :
-         {"fixed-wing", "iff", "jammer", "sensor-turret", "smoke-launcher", "tracked-hull", "unit-command"})
+    std::filesystem::path const before = std::filesystem::current_path();
+    std::filesystem::current_path(ZEDOBJPARAM_SOURCE_DIR "/examples/force/systems"); // tables are named from there
+    for (std::filesystem::directory_entry const& file : std::filesystem::directory_iterator("."))
     {
-        expectFileSame<AxComponentSystemDefinition>((std::string("systems/") + file + ".sys").c_str());
+        expectFileSame<AxComponentSystemDefinition>(("systems" / file.path().filename()).string().c_str());
     }
+    std::filesystem::current_path(before);
     expectFileSame<AxRangeProbabilityTable>("hit/gun-120mm.hit");
     expectFileSame<AxAmmoSelectTable>("ammoselect/gun-120mm.asl");
 }
