@@ -1,20 +1,17 @@
 #include "AxDmgMunitionTable.h"
 
+#include "AllocationCount.h"
 #include "AxDmgAngleOfIncidenceRangeLookupTable.h"
 #include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
-#include <new>
 #include <random>
 
 namespace
 {
-std::size_t theAllocations = 0;
-
 AxSimMunition munitionOf(AxObjectType const& type, char const* name = "")
 {
     AxSimMunition munition;
@@ -58,26 +55,6 @@ protected:
 
 constexpr char const* theLongName = "a-surface-with-a-long-name";
 } // namespace
-
-void* operator new(std::size_t size)
-{
-    ++theAllocations;
-    if (void* const memory = std::malloc(size ? size : 1))
-    {
-        return memory;
-    }
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 TEST_F(AxDmgMunitionTableTest, DirectAndCollateralDamageComeFromFilesOfTheirOwn)
 {
@@ -253,7 +230,7 @@ TEST_F(AxDmgMunitionTableTest, QueryAllocatesNothingOnceTheRowHasHeldTheFullestA
         return answers;
     };
     EXPECT_EQ(askAll(), 6);
-    std::size_t const before = theAllocations;
+    std::size_t const before = allocationCount();
     EXPECT_EQ(askAll(), 6);
-    EXPECT_EQ(theAllocations, before);
+    EXPECT_EQ(allocationCount(), before);
 }
