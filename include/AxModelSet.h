@@ -75,9 +75,12 @@ public:
     // ---- Files. What is read is added by `addModel`. False after a report; what could be read is there. ----
     bool load(AxFilename const& file);
     bool save(AxFilename const& file);
-    /// All files of a directory that hold entries, not of those below it.
+    /// The entity and group files of a directory, not of those below it.
     bool loadFromDataFiles(AxFilename const& directory);
-    /// The group files (.sog), sorted by name.
+    /// An entry for each object element of the entity files (.entity), in the order of the files' names. Elements
+    /// without an object type are told and left out.
+    bool loadEntityFiles(AxFilename const& directory);
+    /// The group files (.sog), in the order of their names.
     bool loadSimulationObjectGroupFiles(AxFilename const& directory);
 
     /// Ignores anything but entries.
@@ -88,12 +91,14 @@ public:
     char const* readerWriterType() const override { return "AxModelSet"; }
 
 private:
-    /// While one lives, nobody else has the entries, so that the index knows all types.
     class Loading;
 
     void adopt(std::unique_ptr<AxModelSetEntry> entry);
     void takeIn(AxModelSet& read);
     void refreshIndex() const;
+    AxString unusedID(AxString const& base) const;
+    bool addEntities(std::vector<AxFilename> const& files);
+    bool addEntitiesOf(AxFilename const& file);
     bool addGroups(std::vector<AxFilename> const& files);
 
     AxRwInt myVersion{{"version", "", "Version of the file."}, 1, registry()};
@@ -102,6 +107,6 @@ private:
     AxObjectType myNextGroupType{0, 0, 0, 0, 0, 0, 1, 5};
     mutable std::unordered_map<AxObjectType, AxModelSetEntry*> myIndex; // the first entry of each type
     mutable std::uint32_t myIndexedChange = 0;
-    bool myTypesAreKnown = false;
-    bool myKeepsAll = false; // entries are taken in as they are read
+    Loading* myLoading = nullptr; // while it runs, the index knows all types
+    bool myKeepsAll = false;      // entries are taken in as they are read
 };

@@ -56,6 +56,12 @@ public:
     AxString const& platform() const { return myPlatform; }
     void setPlatform(AxString const& platform) { myPlatform = platform; }
 
+    /// Reads an object element of an entity file: its gui information, object type and platform. False for one without
+    /// an object type.
+    virtual bool readFromEnvironment(AxEnvironmentPtr const& env, AxEnvValuePtr const& element);
+    /// Makes the gui information of an object element anew, and its object type when it has none.
+    virtual bool writeToEnvironment(AxEnvironmentPtr const& env, AxEnvValuePtr const& element) const;
+
     using AxReaderWriter::putSelf;
     void putSelf(std::string& out, int indent, bool all, AxFilename const& file) override;
     void reset() override;

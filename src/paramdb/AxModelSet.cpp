@@ -1,5 +1,6 @@
 #include "AxModelSet.h"
 
+#include "AxModelSetLoading.h"
 #include "AxReaderWriterFactory.h"
 #include "AxSimulationObjectGroupModelSetEntry.h"
 
@@ -173,20 +174,23 @@ AxModelSetEntry* AxModelSet::addModel(AxModelSetEntry* entry, bool copy)
     }
     if (AxModelSetEntry* const known = find(entry->objectType()))
     {
+        AxString const id = known->uniqueId();
         takeOver(*known, *entry);
+        if (myLoading && !(known->uniqueId() == id))
+        {
+            myLoading->readIds();
+        }
         addCategoriesFrom(*known);
         return known;
     }
     AxModelSetEntry* const added = copy ? entry->clone() : entry;
     if (added->uniqueId().isNull())
     {
-        AxString const base = createUniqueID(*added);
-        AxString id = base;
-        for (int number = 1; findByUniqueID(id); ++number)
-        {
-            id = base + "-" + AxString(std::to_string(number));
-        }
-        added->setUniqueId(id);
+        added->setUniqueId(unusedID(createUniqueID(*added)));
+    }
+    if (myLoading)
+    {
+        myLoading->add(added->uniqueId());
     }
     add(added);
     addCategoriesFrom(*added);
@@ -195,6 +199,21 @@ AxModelSetEntry* AxModelSet::addModel(AxModelSetEntry* entry, bool copy)
         updateNextSimulationObjectGroupObjectType(added->objectType());
     }
     return added;
+}
+
+AxString AxModelSet::unusedID(AxString const& base) const
+{
+    int first = 0;
+    int& number = myLoading ? myLoading->numberOf(base) : first;
+    auto const candidate = [&base, &number]
+    { return number == 0 ? base : base + "-" + AxString(std::to_string(number)); };
+    AxString id = candidate();
+    while (myLoading ? myLoading->isUsed(id) : findByUniqueID(id) != nullptr)
+    {
+        ++number;
+        id = candidate();
+    }
+    return id;
 }
 
 void AxModelSet::adopt(std::unique_ptr<AxModelSetEntry> entry)
@@ -249,9 +268,8 @@ AxModelSetEntry* AxModelSet::find(AxObjectType const& type) const
         return found->second;
     }
     // A caller may have given an entry another type since.
-    return myTypesAreKnown
-               ? nullptr
-               : firstOf(*this, [&type](AxModelSetEntry const* entry) { return entry->objectType() == type; });
+    return myLoading ? nullptr
+                     : firstOf(*this, [&type](AxModelSetEntry const* entry) { return entry->objectType() == type; });
 }
 
 AxModelSetEntry* AxModelSet::findMatchingPattern(AxObjectType const& type) const

@@ -1,6 +1,7 @@
 #include "AxModelSetEntry.h"
 
 #include "AxReaderWriterFactory.h"
+#include "AxZedXmlUtils.h"
 
 static AxTypeEntry<AxModelSetEntry> const typeEntry{AxTypeOps::withCreator<AxModelSetEntry>()};
 
@@ -51,6 +52,25 @@ void AxModelSetEntry::addOnPalette(AxString const& palette)
 void AxModelSetEntry::setOnlyOnPalette(AxString const& palette)
 {
     assignSpecified(myOnPalettes, std::vector<AxString>{palette});
+}
+
+bool AxModelSetEntry::readFromEnvironment(AxEnvironmentPtr const& env, AxEnvValuePtr const& element)
+{
+    if (!AxZedXmlUtils::readModelSetEntry(env, element, *this))
+    {
+        setObjectType(AxZedXmlUtils::getObjectType(env, element));
+    }
+    AxEnvValuePtr const platform = AxZedXmlUtils::getPlatform(env, element);
+    if (AxEnvObjectPtr const object = platform ? platform->castToObject() : nullptr)
+    {
+        myPlatform = object->name();
+    }
+    return !objectType().isNull();
+}
+
+bool AxModelSetEntry::writeToEnvironment(AxEnvironmentPtr const& env, AxEnvValuePtr const& element) const
+{
+    return AxZedXmlUtils::writeModelSetEntry(env, element, *this);
 }
 
 void AxModelSetEntry::putSelf(std::string& out, int indent, bool all, AxFilename const& file)

@@ -1,10 +1,11 @@
-#include "AxModelSet.h"
+#include "AxModelSetLoading.h"
 #include "AxParameterDbFiles.h"
 #include "AxReadWholeFile.h"
 #include "AxReplaceFile.h"
 #include "AxSimulationObjectGroupModelSetEntry.h"
 #include "AxStreams.h"
 #include "AxTextReader.h"
+#include "AxZedXmlUtils.h"
 #include "AxlSyntaxError.h"
 
 #include <algorithm>
@@ -69,24 +70,50 @@ bool parse(AxReaderWriter& rw, std::string const& text, AxFilename const& file)
         return failedToParse(axFault("read-failed", file, error.what()), file);
     }
 }
+/// Whether a type stands there that cannot be read, which was told then.
+bool hasUnreadableType(AxEnvironmentPtr const& env, AxEnvValuePtr const& element)
+{
+    AxEnvObjectPtr const given = env->getObject(AxString(), "objectType", element);
+    AxString const* const value = given ? given->attribute("value") : nullptr;
+    AxObjectType ignored;
+    return value && value->string().find_first_not_of(" \t\r\n") != std::string::npos &&
+           !AxObjectType::fromString(value->string(), ignored);
+}
+
+/// An object that only serves patterns is no fault.
+void reportNoType(AxEnvironmentPtr const& env, AxEnvValuePtr const& element)
+{
+    std::string const text =
+        "object \"" + element->castToObject()->name().string() + "\" has no object type and is left out of the models";
+    std::vector<AxObjectType> patterns;
+    AxZedXmlUtils::getMatchTypes(env, element, patterns);
+    if (patterns.empty())
+    {
+        AxDiagnostics::report(
+            axFaultAt("no-object-type", element->line(), element->column(), text, AxSeverity::Warning));
+        return;
+    }
+    AxInfo << AxSourceScope::currentFile().native() << ": " << text << AxEndl;
+}
 } // namespace
 
-class AxModelSet::Loading
+AxModelSet::Loading::Loading(AxModelSet& models) : myModels(models)
 {
-public:
-    explicit Loading(AxModelSet& models) : myModels(models)
-    {
-        models.myIndexedChange = models.changeCount() - 1;
-        models.refreshIndex();
-        models.myTypesAreKnown = true;
-    }
-    Loading(Loading const&) = delete;
-    Loading& operator=(Loading const&) = delete;
-    ~Loading() { myModels.myTypesAreKnown = false; }
+    models.myIndexedChange = models.changeCount() - 1;
+    models.refreshIndex();
+    models.myLoading = this;
+    readIds();
+}
 
-private:
-    AxModelSet& myModels;
-};
+void AxModelSet::Loading::readIds()
+{
+    myIds.clear();
+    myNumbers.clear();
+    for (AxModelSetEntry const* entry : myModels)
+    {
+        myIds.insert(entry->uniqueId());
+    }
+}
 
 bool AxModelSet::load(AxFilename const& file)
 {
@@ -125,7 +152,7 @@ void AxModelSet::takeIn(AxModelSet& read)
     {
         keepItem(after, item);
     }
-    Loading const scope(*this);
+    Loading const loading(*this);
     while (AxListItem* const item = read.first())
     {
         std::unique_ptr<AxModelSetEntry> entry(static_cast<AxModelSetEntry*>(element(item)));
@@ -151,7 +178,56 @@ bool AxModelSet::save(AxFilename const& file)
 
 bool AxModelSet::loadFromDataFiles(AxFilename const& directory)
 {
-    return loadSimulationObjectGroupFiles(directory);
+    std::vector<AxFilename> entities;
+    std::vector<AxFilename> groups;
+    if (!filesIn(directory, ".entity", entities) || !filesIn(directory, ".sog", groups))
+    {
+        return false;
+    }
+    bool const areEntitiesRead = addEntities(entities);
+    return addGroups(groups) && areEntitiesRead;
+}
+
+bool AxModelSet::loadEntityFiles(AxFilename const& directory)
+{
+    std::vector<AxFilename> files;
+    return filesIn(directory, ".entity", files) && addEntities(files);
+}
+
+bool AxModelSet::addEntities(std::vector<AxFilename> const& files)
+{
+    Loading const loading(*this);
+    bool areAllRead = true;
+    for (AxFilename const& file : files)
+    {
+        areAllRead = addEntitiesOf(file) && areAllRead;
+    }
+    return areAllRead;
+}
+
+bool AxModelSet::addEntitiesOf(AxFilename const& file)
+{
+    AxSourceScope const scope(file);
+    AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
+    if (!env)
+    {
+        return false;
+    }
+    std::list<AxEnvValuePtr> elements;
+    AxZedXmlUtils::getObjectElements(env, elements);
+    for (AxEnvValuePtr const& element : elements)
+    {
+        auto entry = std::make_unique<AxModelSetEntry>(AxSymbolString(), nullptr);
+        if (entry->readFromEnvironment(env, element))
+        {
+            adopt(std::move(entry));
+        }
+        else if (!hasUnreadableType(env, element))
+        {
+            reportNoType(env, element);
+        }
+    }
+    return true;
 }
 
 bool AxModelSet::loadSimulationObjectGroupFiles(AxFilename const& directory)
@@ -162,7 +238,7 @@ bool AxModelSet::loadSimulationObjectGroupFiles(AxFilename const& directory)
 
 bool AxModelSet::addGroups(std::vector<AxFilename> const& files)
 {
-    Loading const scope(*this);
+    Loading const loading(*this);
     bool areAllRead = true;
     for (AxFilename const& file : files)
     {

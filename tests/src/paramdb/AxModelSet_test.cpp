@@ -1,6 +1,7 @@
 #include "AxModelSet.h"
 
 #include "AxSimulationObjectGroupModelSetEntry.h"
+#include "AxZedXmlUtils.h"
 #include "DatabaseFixture.h"
 
 #include <random>
@@ -164,13 +165,13 @@ TEST_F(AxModelSetTest, PatternLookUpIsTheWalkOverAllEntries)
     auto const field = [&random] { return static_cast<int>(random() % 3) - 1; };
     auto const type = [&field]
     { return AxObjectType(field(), field(), field(), field(), field(), field(), field(), field()); };
-    for (int i = 0; i < 400; ++i)
+    for (int i = 0; i < 150; ++i)
     {
         AxModelSetEntry entry("", nullptr);
         entry.setObjectType(type());
         models.addModel(&entry, true);
     }
-    for (int i = 0; i < 500; ++i)
+    for (int i = 0; i < 200; ++i)
     {
         AxObjectType const asked = type();
         AxModelSetEntry const* best = nullptr;
@@ -309,6 +310,93 @@ TEST_F(AxModelSetTest, LoadingAddsToWhatIsThere)
     EXPECT_EQ(labels(), "M1A2 SEP T-72B");
     EXPECT_EQ(models.findByLabel("T-72B")->uniqueId(), "ModelSet-5704290-T-72B");
     EXPECT_NE(models.writtenText().find("\n  12"), std::string::npos) << "what is no entry is kept";
+}
+
+TEST_F(AxModelSetTest, EntityFilesGiveAnEntryForEachObject)
+{
+    put("data/b.entity",
+        "<entities>\n"
+        "<simObject name=\"m1a2\"><objectType name=\"objectType\" value=\"1:1:1:225:1:1:3:0\"/>"
+        "<platform name=\"abrams\" parameter-type=\"zed-object-param\" mass=\"5\"/>"
+        "<guiInformation name=\"gui\" label=\"M1A2\" menu-icon=\"tank.png\" can-create=\"false\">"
+        "<strings name=\"categories\" value=\"Tank &quot;Main battle&quot;\"/><forces name=\"force-types\" value=\"1 "
+        "3\"/>"
+        "</guiInformation></simObject>\n"
+        "<simObject name=\"any\"><matchType name=\"matchType\" value=\"1:1:1:-1:6:-1:-1:-1\"/></simObject>\n"
+        "<simObject name=\"none\"/>\n</entities>");
+    put("data/a.entity", "<simObject name=\"t72\"><objectType value=\"1:1:1:222:1:2:6:0\"/></simObject>");
+    put("data/below/c.entity", "<simObject><objectType value=\"1:1:1:222:1:2:7:0\"/></simObject>");
+    put("data/g.sog", "<simulationObjectGroup label=\"Patrol\"/>");
+    put("data/z.ope", "(no entity)");
+    EXPECT_TRUE(models.loadFromDataFiles(AxFilename(path("data"))));
+    EXPECT_EQ(warned(), path("data/b.entity") + ":4:1: warning: object \"none\" has no object type and is left out of "
+                                                "the models [no-object-type]\n");
+    EXPECT_NE(news.text().find("object \"any\" has no object type"), std::string::npos);
+    ASSERT_EQ(models.count(), 3);
+    EXPECT_EQ((*models.begin())->objectType().string(), "1:1:1:222:1:2:6:0") << "a file without gui information";
+    EXPECT_EQ(labels(), "M1A2 Patrol");
+    AxModelSetEntry const* const entry = models.find(tank);
+    ASSERT_TRUE(entry);
+    EXPECT_EQ(entry->platform(), "abrams");
+    EXPECT_EQ(entry->uniqueId(), "ModelSet-329026-M1A2");
+    EXPECT_EQ(entry->writtenText(),
+              "(model\n  (can-create false)\n  (label \"M1A2\")\n  (unique-id \"ModelSet-329026-M1A2\")\n"
+              "  (menu-icon \"tank.png\")\n  (object-type 1 1 1 225 1 1 3 0)\n  (force-types 1 3)\n"
+              "  (categories \"Tank\" \"Main battle\"))\n");
+    EXPECT_EQ(joined(models.categories()), "Main battle Tank");
+}
+
+TEST_F(AxModelSetTest, AnEntryIsWrittenIntoItsObjectElement)
+{
+    AxFilename const file = put("m1.entity", "<simObject><objectType name=\"objectType\" value=\"1:1:1:225:1:1:3:0\"/>"
+                                             "<guiInformation name=\"gui\" label=\"old\"/></simObject>");
+    AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
+    AxModelSetEntry entry("", nullptr);
+    ASSERT_TRUE(entry.readFromEnvironment(env, env->root()));
+    entry.setLabel("M1A2");
+    entry.addOnPalette("Armour");
+    ASSERT_TRUE(entry.writeToEnvironment(env, env->root()));
+    AxModelSetEntry again("", nullptr);
+    ASSERT_TRUE(again.readFromEnvironment(env, env->root()));
+    EXPECT_EQ(again.writtenText(), entry.writtenText());
+    EXPECT_EQ(warned(), "");
+}
+
+TEST_F(AxModelSetTest, EntityFilesThatFailAreToldAndTheOthersRead)
+{
+    put("data/a.entity", "<entities><simObject>");
+    put("data/b.entity", "<simObject><objectType value=\"tank\"/></simObject>");
+    put("data/c.entity", "<simObject><objectType value=\"1:1:1:222:1:2:6:0\"/><guiInformation label=\"T-72\" "
+                         "colour=\"sand\"/></simObject>");
+    EXPECT_FALSE(models.loadFromDataFiles(AxFilename(path("data"))));
+    EXPECT_EQ(labels(), "T-72");
+    std::string const lines = warned();
+    for (char const* file : {"data/a.entity:1:", "data/b.entity:1:", "data/c.entity:1:"})
+    {
+        EXPECT_NE(lines.find(path(file)), std::string::npos) << lines;
+    }
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 3) << lines;
+    EXPECT_FALSE(models.loadFromDataFiles(AxFilename(path("none"))));
+    EXPECT_EQ(warned(), path("none") + ": error: cannot be read as a directory: No such file or directory "
+                                       "[unreadable-directory]\n");
+}
+
+TEST_F(AxModelSetTest, IdentifiersOfLoadedEntriesAreNumberedAsThoseOfAddedOnes)
+{
+    std::string items;
+    for (char const* id : {"", "ModelSet-97-a-1", "", "", "", "ModelSet-97-a-2", ""})
+    {
+        AxModelSetEntry entry("", nullptr);
+        entry.setLabel("a");
+        entry.setUniqueId(id);
+        entry.setObjectType(AxObjectType(1, 1, 1, 1, 1, 1, models.count() == 5 ? 2 : models.count()));
+        items += entry.writtenText();
+        models.addModel(&entry, true);
+    }
+    AxModelSet loaded("model-set", nullptr);
+    ASSERT_TRUE(loaded.load(put("all.models", "(model-set " + items + ")")));
+    EXPECT_EQ(loaded.writtenText(), models.writtenText());
+    EXPECT_TRUE(models.findByUniqueID("ModelSet-97-a-3"));
 }
 
 TEST_F(AxModelSetTest, FilesThatFailAreTold)
