@@ -267,8 +267,10 @@ TextPlaces::Place XmlParse::currentPlace() const
     {
         return myPlaces.at(currentOffset());
     }
-    return {static_cast<std::uint32_t>(XML_GetCurrentLineNumber(myParser.get())),
-            static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(myParser.get())) + 1};
+    // In UTF-16 the byte-order mark counts as a character.
+    auto const line = static_cast<std::uint32_t>(XML_GetCurrentLineNumber(myParser.get()));
+    auto const column = static_cast<std::uint32_t>(XML_GetCurrentColumnNumber(myParser.get()));
+    return {line, line == 1 && column > 0 ? column : column + 1};
 }
 
 std::size_t XmlParse::currentOffset() const

@@ -114,7 +114,7 @@ TEST(AxEnvXML, GivesEveryAttributeItsPlaceInBytes)
                             {"<!--\n-->\n<a\n\nx='1\n' y='2'\n/>", "y", 6, 3},
                             {"<a x='\xC3\xA4' y='2'/>", "y", 1, 11},
                             {"\xEF\xBB\xBF<a x='1'/>", "x", 1, 4},
-                            {inUtf16, "x", 1, 2}})
+                            {inUtf16, "x", 1, 1}})
     {
         AxEnvValuePtr const value = rootOf(read(one.text))->attributeNode(one.attribute);
         ASSERT_TRUE(value) << one.text;
