@@ -35,7 +35,7 @@ target_compile_options(
               -Wnon-virtual-dtor
               -Woverloaded-virtual
               "$<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>"
-              "$<$<BOOL:${ZEDOBJPARAM_WERROR}>:-Werror;$<$<CXX_COMPILER_ID:GNU>:-Wno-error=restrict>>"
+              "$<$<BOOL:${ZEDOBJPARAM_WERROR}>:-Werror;$<$<CXX_COMPILER_ID:GNU>:-Wno-error=restrict;-Wno-error=maybe-uninitialized>>"
               "$<$<CONFIG:Debug>:-gsplit-dwarf>")
 
 if(ZEDOBJPARAM_SANITIZE)

@@ -84,6 +84,7 @@ public:
     bool loadSimulationObjectGroupFiles(AxFilename const& directory);
 
     /// Ignores anything but entries.
+    void addToStart(AxReaderWriter* rw) override;
     void addToEnd(AxReaderWriter* rw) override;
     void removeAndDeleteAll() override;
     using AxRwList::getData;

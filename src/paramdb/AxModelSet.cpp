@@ -5,6 +5,7 @@
 #include "AxSimulationObjectGroupModelSetEntry.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace
 {
@@ -113,6 +114,14 @@ void AxModelSet::copyList(AxModelSet const& other)
         addCategoriesFrom(*entry);
     }
     myNextGroupType = std::max(myNextGroupType, other.myNextGroupType);
+}
+
+void AxModelSet::addToStart(AxReaderWriter* rw)
+{
+    if (dynamic_cast<AxModelSetEntry*>(rw))
+    {
+        AxRwList::addToStart(rw);
+    }
 }
 
 void AxModelSet::addToEnd(AxReaderWriter* rw)
@@ -368,6 +377,10 @@ void AxModelSet::updateNextSimulationObjectGroupObjectType(AxObjectType const& u
     for (; i > 0 && fields[i] >= last; --i)
     {
         fields[i] = 0;
+    }
+    if (fields[i] == std::numeric_limits<std::int32_t>::max())
+    {
+        return; // no type comes after it
     }
     ++fields[i];
     myNextGroupType = AxObjectType(fields);

@@ -172,7 +172,13 @@ AxFilename AxSimulationObjectGroupModelSetEntry::foundFile() const
 
 bool AxSimulationObjectGroupModelSetEntry::save()
 {
-    return save(foundFile());
+    AxFilename const name = filename();
+    bool const isSaved = save(foundFile());
+    if (isSaved)
+    {
+        setFilename(name); // as the set tells it, so that both can be moved together
+    }
+    return isSaved;
 }
 
 bool AxSimulationObjectGroupModelSetEntry::save(AxFilename const& file)
