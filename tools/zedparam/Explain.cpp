@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -53,6 +54,21 @@ std::vector<Meaning> meaningsOf(std::string_view keyword)
     return meanings;
 }
 
+/// The types that know each of the other spellings.
+std::map<std::string, std::string> aliasesOf(Meaning const& meaning)
+{
+    std::map<std::string, std::string> typesByAlias;
+    for (std::size_t i = 0; i < meaning.uses.size(); ++i)
+    {
+        for (std::string const& alias : meaning.uses[i]->aliases)
+        {
+            std::string& types = typesByAlias[alias];
+            types.append(types.empty() ? "" : ", ").append(meaning.types[i]->name);
+        }
+    }
+    return typesByAlias;
+}
+
 void tellUnknown(std::string const& keyword)
 {
     std::set<std::string_view> known;
@@ -61,6 +77,7 @@ void tellUnknown(std::string const& keyword)
         for (KeywordInfo const& info : type.keywords)
         {
             known.insert(info.keyword());
+            known.insert(info.aliases.begin(), info.aliases.end());
         }
     }
     std::fprintf(stderr, "zedparam: no type has the keyword \"%s\"", keyword.c_str());
@@ -77,9 +94,9 @@ void printMeaning(Meaning const& meaning)
     KeywordInfo const& info = *meaning.info;
     std::printf("%s: %s\n  %s\n", info.path.c_str(), info.valueText().c_str(), info.help.c_str());
     std::printf("  declared by %s\n", info.from.c_str());
-    for (std::string const& alias : info.aliases)
+    for (auto const& [alias, types] : aliasesOf(meaning))
     {
-        std::printf("  also written %s in %s\n", alias.c_str(), meaning.types.front()->name.c_str());
+        std::printf("  also written %s in %s\n", alias.c_str(), types.c_str());
     }
     std::string const& usual = meaning.uses.front()->defaultText;
     if (!usual.empty())
@@ -103,7 +120,13 @@ void printJson(std::vector<Meaning> const& meanings)
     for (Meaning const& meaning : meanings)
     {
         json.beginObject().member("keyword", meaning.info->path);
-        writeKeyword(json, *meaning.info);
+        KeywordInfo info = *meaning.info;
+        info.aliases.clear();
+        for (auto const& [alias, types] : aliasesOf(meaning))
+        {
+            info.aliases.push_back(alias);
+        }
+        writeKeyword(json, info);
         json.key("types").beginObject();
         for (std::size_t i = 0; i < meaning.types.size(); ++i)
         {
