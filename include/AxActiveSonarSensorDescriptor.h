@@ -13,6 +13,11 @@ class ZEDOBJPARAM_API AxActiveSonarSensorDescriptor
 {
 public:
     AxActiveSonarSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxActiveSonarSensorDescriptor(AxActiveSonarSensorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxActiveSonarSensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxActiveSonarSensorDescriptor() override;
 
     double detectionPeriod() const override { return myDetectionPeriod; }

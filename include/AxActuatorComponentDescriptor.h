@@ -9,6 +9,11 @@ class ZEDOBJPARAM_API AxActuatorComponentDescriptor
 {
 public:
     using AxDescriptorOf::AxDescriptorOf;
+    AxActuatorComponentDescriptor(AxActuatorComponentDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxActuatorComponentDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxActuatorComponentDescriptor() override;
 
     virtual AxSimArtPartDescriptorList& artPartDescriptorList();

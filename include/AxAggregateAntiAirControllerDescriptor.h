@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxAggregateAntiAirControllerDescriptor
 {
 public:
     AxAggregateAntiAirControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregateAntiAirControllerDescriptor(AxAggregateAntiAirControllerDescriptor const& other,
+                                           AxReaderWriterRegistry* registry)
+        : AxAggregateAntiAirControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregateAntiAirControllerDescriptor() override;
 
     virtual double maxAltitude() const { return myMaxAltitude; }

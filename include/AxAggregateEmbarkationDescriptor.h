@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxAggregateEmbarkationDescriptor
 {
 public:
     AxAggregateEmbarkationDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregateEmbarkationDescriptor(AxAggregateEmbarkationDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxAggregateEmbarkationDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregateEmbarkationDescriptor() override;
 
     virtual bool embarkAggregate() const { return myEmbarkAggregate; }

@@ -14,6 +14,12 @@ class ZEDOBJPARAM_API AxAggregateIndirectFireControllerDescriptor
 {
 public:
     AxAggregateIndirectFireControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregateIndirectFireControllerDescriptor(AxAggregateIndirectFireControllerDescriptor const& other,
+                                                AxReaderWriterRegistry* registry)
+        : AxAggregateIndirectFireControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregateIndirectFireControllerDescriptor() override;
 
     virtual AxString const& weaponName() const { return myWeaponName.value(); }

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxAggregateModelResolutionDescriptor
 {
 public:
     AxAggregateModelResolutionDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregateModelResolutionDescriptor(AxAggregateModelResolutionDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxAggregateModelResolutionDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregateModelResolutionDescriptor() override;
 
     virtual AxRwStringList const& aggregatedSystems() const { return myAggregatedSystems; }

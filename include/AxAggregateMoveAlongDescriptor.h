@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxAggregateMoveAlongDescriptor
 {
 public:
     AxAggregateMoveAlongDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregateMoveAlongDescriptor(AxAggregateMoveAlongDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxAggregateMoveAlongDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregateMoveAlongDescriptor() override;
 
     virtual double catchupFactor() const { return myCatchupFactor; }

@@ -10,6 +10,12 @@ class ZEDOBJPARAM_API AxAggregateMoveIntoFormationDescriptor
 {
 public:
     AxAggregateMoveIntoFormationDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregateMoveIntoFormationDescriptor(AxAggregateMoveIntoFormationDescriptor const& other,
+                                           AxReaderWriterRegistry* registry)
+        : AxAggregateMoveIntoFormationDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregateMoveIntoFormationDescriptor() override;
 
     virtual bool stopMovingUponArrival() const { return myStopMovingUponArrival; }

@@ -14,6 +14,13 @@ public:
 
     // ---- The order of the virtual operations is part of the interface. ----
 protected:
+    AxAggregateObjectParameters(AxAggregateObjectParameters const& other, AxSymbolString name,
+                                AxReaderWriterRegistry* parent)
+        : AxAggregateObjectParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
     virtual AxFormationTable* createFormationTable(AxSymbolString name, AxReaderWriterRegistry* registry);
 
 public:

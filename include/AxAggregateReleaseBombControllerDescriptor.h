@@ -14,6 +14,12 @@ class ZEDOBJPARAM_API AxAggregateReleaseBombControllerDescriptor
 {
 public:
     AxAggregateReleaseBombControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregateReleaseBombControllerDescriptor(AxAggregateReleaseBombControllerDescriptor const& other,
+                                               AxReaderWriterRegistry* registry)
+        : AxAggregateReleaseBombControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregateReleaseBombControllerDescriptor() override;
 
     virtual AxString const& weaponName() const { return myWeaponName.value(); }

@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxAggregatedMoveToDescriptor
 {
 public:
     AxAggregatedMoveToDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregatedMoveToDescriptor(AxAggregatedMoveToDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxAggregatedMoveToDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregatedMoveToDescriptor() override;
 
     virtual double atDistance() const { return myAtDistance; }

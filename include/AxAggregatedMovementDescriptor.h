@@ -14,6 +14,11 @@ public:
     class MobilityEntry;
 
     AxAggregatedMovementDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAggregatedMovementDescriptor(AxAggregatedMovementDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxAggregatedMovementDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAggregatedMovementDescriptor() override;
 
     virtual bool clampToGround() const { return myClampToGround; }

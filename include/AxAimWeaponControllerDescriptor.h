@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxAimWeaponControllerDescriptor
 {
 public:
     AxAimWeaponControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAimWeaponControllerDescriptor(AxAimWeaponControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxAimWeaponControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAimWeaponControllerDescriptor() override;
 
     virtual double maxAimAzimuth() const { return myMaxAimAzimuth; }

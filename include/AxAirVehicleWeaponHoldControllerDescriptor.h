@@ -10,6 +10,12 @@ class ZEDOBJPARAM_API AxAirVehicleWeaponHoldControllerDescriptor
 {
 public:
     AxAirVehicleWeaponHoldControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAirVehicleWeaponHoldControllerDescriptor(AxAirVehicleWeaponHoldControllerDescriptor const& other,
+                                               AxReaderWriterRegistry* registry)
+        : AxAirVehicleWeaponHoldControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAirVehicleWeaponHoldControllerDescriptor() override;
 
     virtual double minWeaponFireAltitude() const { return myMinWeaponFireAltitude; }

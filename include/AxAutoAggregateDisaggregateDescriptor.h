@@ -10,6 +10,12 @@ class ZEDOBJPARAM_API AxAutoAggregateDisaggregateDescriptor
 {
 public:
     AxAutoAggregateDisaggregateDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAutoAggregateDisaggregateDescriptor(AxAutoAggregateDisaggregateDescriptor const& other,
+                                          AxReaderWriterRegistry* registry)
+        : AxAutoAggregateDisaggregateDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAutoAggregateDisaggregateDescriptor() override;
 
     virtual double transitionTimeCheck() const { return myTransitionTimeCheck; }

@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxAutomotiveActuatorDescriptor
 {
 public:
     AxAutomotiveActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAutomotiveActuatorDescriptor(AxAutomotiveActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxAutomotiveActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAutomotiveActuatorDescriptor() override;
 
     virtual bool checkTerrainCollisions() const { return myCheckTerrainCollisions; }

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxAzimuthMountComponentDescriptor
 {
 public:
     AxAzimuthMountComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxAzimuthMountComponentDescriptor(AxAzimuthMountComponentDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxAzimuthMountComponentDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxAzimuthMountComponentDescriptor() override;
 
     virtual double maxSlewRate() const { return myMaxSlewRate; }

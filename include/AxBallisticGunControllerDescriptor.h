@@ -16,6 +16,12 @@ class ZEDOBJPARAM_API AxBallisticGunControllerDescriptor
 {
 public:
     AxBallisticGunControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxBallisticGunControllerDescriptor(AxBallisticGunControllerDescriptor const& other,
+                                       AxReaderWriterRegistry* registry)
+        : AxBallisticGunControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxBallisticGunControllerDescriptor() override;
 
     virtual double loadAmmoTime() const { return myLoadAmmoTime; }

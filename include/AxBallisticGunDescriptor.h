@@ -18,6 +18,11 @@ class ZEDOBJPARAM_API AxBallisticGunDescriptor
 {
 public:
     AxBallisticGunDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxBallisticGunDescriptor(AxBallisticGunDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxBallisticGunDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxBallisticGunDescriptor() override;
 
     virtual double elevationRate() const { return myMaxElevationRate; }

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxBaseWeaponControllerDescriptor
 {
 public:
     AxBaseWeaponControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxBaseWeaponControllerDescriptor(AxBaseWeaponControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxBaseWeaponControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxBaseWeaponControllerDescriptor() override;
 
     virtual double maxVehicleSpeedToFire() const { return myMaxVehicleSpeedToFire; }

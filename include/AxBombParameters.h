@@ -17,6 +17,13 @@ public:
     virtual double cepRadius() const { return myCepRadius; }
     virtual void setCepRadius(double metres) { assignSpecified(myCepRadius, metres); }
 
+protected:
+    AxBombParameters(AxBombParameters const& other, AxSymbolString name, AxReaderWriterRegistry* parent)
+        : AxBombParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwReal myMaxRange{{"max-range", "m", "Largest distance flown.", {0.0, axUnbounded}}, 28000.0, registry()};
     AxRwReal myMaxRangeAltitude{

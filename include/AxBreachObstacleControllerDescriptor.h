@@ -10,5 +10,11 @@ class ZEDOBJPARAM_API AxBreachObstacleControllerDescriptor
 {
 public:
     AxBreachObstacleControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxBreachObstacleControllerDescriptor(AxBreachObstacleControllerDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxBreachObstacleControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxBreachObstacleControllerDescriptor() override;
 };

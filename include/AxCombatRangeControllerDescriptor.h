@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxCombatRangeControllerDescriptor
 {
 public:
     AxCombatRangeControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxCombatRangeControllerDescriptor(AxCombatRangeControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxCombatRangeControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxCombatRangeControllerDescriptor() override;
 
     virtual AxString const& rangeName() const { return myRangeName.value(); }

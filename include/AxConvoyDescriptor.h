@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxConvoyDescriptor
 {
 public:
     AxConvoyDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxConvoyDescriptor(AxConvoyDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxConvoyDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxConvoyDescriptor() override;
 
     virtual double separationDistance() const { return mySeparationDistance; }

@@ -11,5 +11,11 @@ class ZEDOBJPARAM_API AxCreateEngineeringObjectControllerDescriptor
 {
 public:
     AxCreateEngineeringObjectControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxCreateEngineeringObjectControllerDescriptor(AxCreateEngineeringObjectControllerDescriptor const& other,
+                                                  AxReaderWriterRegistry* registry)
+        : AxCreateEngineeringObjectControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxCreateEngineeringObjectControllerDescriptor() override;
 };

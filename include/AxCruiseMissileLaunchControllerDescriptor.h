@@ -15,6 +15,12 @@ class ZEDOBJPARAM_API AxCruiseMissileLaunchControllerDescriptor
 {
 public:
     AxCruiseMissileLaunchControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxCruiseMissileLaunchControllerDescriptor(AxCruiseMissileLaunchControllerDescriptor const& other,
+                                              AxReaderWriterRegistry* registry)
+        : AxCruiseMissileLaunchControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxCruiseMissileLaunchControllerDescriptor() override;
 
     virtual AxObjectType const& munitionType() const { return myMunitionType.value(); }

@@ -15,6 +15,14 @@ public:
     virtual bool gravityAligned() const { return myGravityAligned; }
     virtual void setGravityAligned(bool aligned) { assignSpecified(myGravityAligned, aligned); }
 
+protected:
+    AxCulturalFeatureParameters(AxCulturalFeatureParameters const& other, AxSymbolString name,
+                                AxReaderWriterRegistry* parent)
+        : AxCulturalFeatureParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwBoolean myGravityAligned{
         {"gravity-aligned", "", "Whether it stands upright whatever the slope."}, true, registry()};

@@ -11,5 +11,11 @@ class ZEDOBJPARAM_API AxDamageAdjudicationComponentDescriptor
 {
 public:
     AxDamageAdjudicationComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxDamageAdjudicationComponentDescriptor(AxDamageAdjudicationComponentDescriptor const& other,
+                                            AxReaderWriterRegistry* registry)
+        : AxDamageAdjudicationComponentDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxDamageAdjudicationComponentDescriptor() override;
 };

@@ -10,8 +10,8 @@
 /// AxActuatorComponentDescriptor, "turret-component-descriptor">`, says `using AxDescriptorOf::AxDescriptorOf;`, and
 /// binds its members by in-class initialisers. Without a type name it keeps that of `Base`. A class whose constructor
 /// assigns defaults declares `(AxSymbolString, AxReaderWriterRegistry*)` itself, which serves all forms of names, and
-/// leaves the `using` out. Classes that are copied by value add a constructor `(Derived const& other,
-/// AxReaderWriterRegistry* registry)` that calls `assign(other)`.
+/// leaves the `using` out. The copy constructor `(Derived const& other, AxReaderWriterRegistry* registry)` delegates to
+/// that of a name and calls `assign(other)`, once the members are there to be assigned.
 template <class Derived, class Base, AxFixedText typeName = "">
 class AxDescriptorOf : public Base
 {

@@ -10,5 +10,11 @@ class ZEDOBJPARAM_API AxDestroyEngineeringObjectControllerDescriptor
 {
 public:
     AxDestroyEngineeringObjectControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxDestroyEngineeringObjectControllerDescriptor(AxDestroyEngineeringObjectControllerDescriptor const& other,
+                                                   AxReaderWriterRegistry* registry)
+        : AxDestroyEngineeringObjectControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxDestroyEngineeringObjectControllerDescriptor() override;
 };

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxDetonationControllerDescriptor
 {
 public:
     AxDetonationControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxDetonationControllerDescriptor(AxDetonationControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxDetonationControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxDetonationControllerDescriptor() override;
 
     virtual AxString const& fuseType() const { return myFuseType.value(); }

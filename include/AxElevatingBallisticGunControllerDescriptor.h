@@ -13,6 +13,12 @@ class ZEDOBJPARAM_API AxElevatingBallisticGunControllerDescriptor
 {
 public:
     AxElevatingBallisticGunControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxElevatingBallisticGunControllerDescriptor(AxElevatingBallisticGunControllerDescriptor const& other,
+                                                AxReaderWriterRegistry* registry)
+        : AxElevatingBallisticGunControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxElevatingBallisticGunControllerDescriptor() override;
 
     virtual double maxElevationRate() const { return myMaxElevationRate; }

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxElevationMountComponentDescriptor
 {
 public:
     AxElevationMountComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxElevationMountComponentDescriptor(AxElevationMountComponentDescriptor const& other,
+                                        AxReaderWriterRegistry* registry)
+        : AxElevationMountComponentDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxElevationMountComponentDescriptor() override;
 
     virtual double nominalElevation() const { return myNominalElevation; }

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxEmbarkationDescriptor
 {
 public:
     AxEmbarkationDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxEmbarkationDescriptor(AxEmbarkationDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxEmbarkationDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxEmbarkationDescriptor() override;
 
     virtual double responseTimeout() const { return myResponseTimeout; }

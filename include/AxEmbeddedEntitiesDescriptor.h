@@ -9,6 +9,11 @@ class ZEDOBJPARAM_API AxEmbeddedEntitiesDescriptor
 {
 public:
     AxEmbeddedEntitiesDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxEmbeddedEntitiesDescriptor(AxEmbeddedEntitiesDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxEmbeddedEntitiesDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxEmbeddedEntitiesDescriptor() override;
 
     virtual bool useRadioMessaging() const { return myUseRadioMessaging; }

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxEmitterComponentDescriptor
 {
 public:
     AxEmitterComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxEmitterComponentDescriptor(AxEmitterComponentDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxEmitterComponentDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxEmitterComponentDescriptor() override;
 
     virtual AxVector64 const& mountLocation() const { return myMountLocation.value(); }

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxEngagementReportGeneratorControllerDescriptor
 {
 public:
     AxEngagementReportGeneratorControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxEngagementReportGeneratorControllerDescriptor(AxEngagementReportGeneratorControllerDescriptor const& other,
+                                                    AxReaderWriterRegistry* registry)
+        : AxEngagementReportGeneratorControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxEngagementReportGeneratorControllerDescriptor() override;
 
     virtual bool forwardSubordinateReports() const { return myForwardSubordinateReports; }

@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxEngineeringObjectSensorDescriptor
 {
 public:
     AxEngineeringObjectSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxEngineeringObjectSensorDescriptor(AxEngineeringObjectSensorDescriptor const& other,
+                                        AxReaderWriterRegistry* registry)
+        : AxEngineeringObjectSensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxEngineeringObjectSensorDescriptor() override;
 
     virtual double rangeEngineeringObjects() const { return myRangeEngineeringObjects; }

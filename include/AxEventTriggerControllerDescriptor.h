@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxEventTriggerControllerDescriptor
 {
 public:
     AxEventTriggerControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxEventTriggerControllerDescriptor(AxEventTriggerControllerDescriptor const& other,
+                                       AxReaderWriterRegistry* registry)
+        : AxEventTriggerControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxEventTriggerControllerDescriptor() override;
 
     virtual int detectionLevelToTrigger() const { return myDetectionLevelToTrigger; }

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxFallingFromSkyActuatorDescriptor
 {
 public:
     AxFallingFromSkyActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFallingFromSkyActuatorDescriptor(AxFallingFromSkyActuatorDescriptor const& other,
+                                       AxReaderWriterRegistry* registry)
+        : AxFallingFromSkyActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFallingFromSkyActuatorDescriptor() override;
 
     virtual double dragCoefficient() const { return myDragCoefficient; }

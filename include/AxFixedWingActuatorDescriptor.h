@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxFixedWingActuatorDescriptor
 {
 public:
     AxFixedWingActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFixedWingActuatorDescriptor(AxFixedWingActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxFixedWingActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFixedWingActuatorDescriptor() override;
 
     virtual double maxThrustAcceleration() const { return myMaxThrustAcceleration; }

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxFixedWingDefaultControllerDescriptor
 {
 public:
     AxFixedWingDefaultControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFixedWingDefaultControllerDescriptor(AxFixedWingDefaultControllerDescriptor const& other,
+                                           AxReaderWriterRegistry* registry)
+        : AxFixedWingDefaultControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFixedWingDefaultControllerDescriptor() override;
 
     virtual double radius() const { return myRadius; }

@@ -46,6 +46,14 @@ public:
     /// The defaults of aircraft for what all moving objects have. The constructor calls it.
     virtual void setDefaults();
 
+protected:
+    AxFixedWingEntityParameters(AxFixedWingEntityParameters const& other, AxSymbolString name,
+                                AxReaderWriterRegistry* parent)
+        : AxFixedWingEntityParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwReal myMinSpeed{{"min-speed", "m/s", "Smallest speed in flight.", {0.0, axUnbounded}}, 100.0, registry()};
     AxRwReal myMaxAltitude{{"max-altitude", "m", "Largest altitude.", {0.0, axUnbounded}}, 12000.0, registry()};

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxFixedWingFlyIntoControllerDescriptor
 {
 public:
     AxFixedWingFlyIntoControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFixedWingFlyIntoControllerDescriptor(AxFixedWingFlyIntoControllerDescriptor const& other,
+                                           AxReaderWriterRegistry* registry)
+        : AxFixedWingFlyIntoControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFixedWingFlyIntoControllerDescriptor() override;
 
     virtual double directFlyElevationAngle() const { return myDirectFlyElevationAngle; }

@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxFixedWingFollowEntityControllerDescriptor
 {
 public:
     AxFixedWingFollowEntityControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFixedWingFollowEntityControllerDescriptor(AxFixedWingFollowEntityControllerDescriptor const& other,
+                                                AxReaderWriterRegistry* registry)
+        : AxFixedWingFollowEntityControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFixedWingFollowEntityControllerDescriptor() override;
 
     virtual double taxiingNearCatchUpFactor() const { return myTaxiingNearCatchUpFactor; }

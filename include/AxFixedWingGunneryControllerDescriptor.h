@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxFixedWingGunneryControllerDescriptor
 {
 public:
     AxFixedWingGunneryControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFixedWingGunneryControllerDescriptor(AxFixedWingGunneryControllerDescriptor const& other,
+                                           AxReaderWriterRegistry* registry)
+        : AxFixedWingGunneryControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFixedWingGunneryControllerDescriptor() override;
 
     virtual double maxAlignmentAngle() const { return myMaxAlignmentAngle; }

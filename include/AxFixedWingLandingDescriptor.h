@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxFixedWingLandingDescriptor
 {
 public:
     AxFixedWingLandingDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFixedWingLandingDescriptor(AxFixedWingLandingDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxFixedWingLandingDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFixedWingLandingDescriptor() override;
 
     virtual double landingSpeedRatio() const { return myLandingSpeedRatio; }

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxFixedWingPilotControllerDescriptor
 {
 public:
     AxFixedWingPilotControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFixedWingPilotControllerDescriptor(AxFixedWingPilotControllerDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxFixedWingPilotControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFixedWingPilotControllerDescriptor() override;
 
     virtual double maxTurnrateCutoffAngle() const { return myMaxTurnrateCutoffAngle; }

@@ -9,6 +9,11 @@ class ZEDOBJPARAM_API AxFixedWingTakeoffDescriptor
 {
 public:
     AxFixedWingTakeoffDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFixedWingTakeoffDescriptor(AxFixedWingTakeoffDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxFixedWingTakeoffDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFixedWingTakeoffDescriptor() override;
 
     virtual double takeoffDistance() const { return myTakeoffDistance; }

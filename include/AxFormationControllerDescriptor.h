@@ -9,6 +9,11 @@ class ZEDOBJPARAM_API AxFormationControllerDescriptor
 {
 public:
     AxFormationControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxFormationControllerDescriptor(AxFormationControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxFormationControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxFormationControllerDescriptor() override;
 
     virtual bool autoPromoteInFormation() const { return myAutoPromoteInFormation; }

@@ -10,5 +10,11 @@ class ZEDOBJPARAM_API AxGlobalEnvironmentActuatorDescriptor
 {
 public:
     AxGlobalEnvironmentActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxGlobalEnvironmentActuatorDescriptor(AxGlobalEnvironmentActuatorDescriptor const& other,
+                                          AxReaderWriterRegistry* registry)
+        : AxGlobalEnvironmentActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxGlobalEnvironmentActuatorDescriptor() override;
 };

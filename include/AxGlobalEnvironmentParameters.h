@@ -19,6 +19,14 @@ public:
         assignSpecified(mySendRepositoryUpdateWhenTimeChangedBySeconds, seconds);
     }
 
+protected:
+    AxGlobalEnvironmentParameters(AxGlobalEnvironmentParameters const& other, AxSymbolString name,
+                                  AxReaderWriterRegistry* parent)
+        : AxGlobalEnvironmentParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwReal mySendRepositoryUpdateWhenTimeChangedBySeconds{
         {"send-repository-update-when-time-changed-by-seconds",

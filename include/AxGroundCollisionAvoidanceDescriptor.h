@@ -10,6 +10,12 @@ class ZEDOBJPARAM_API AxGroundCollisionAvoidanceDescriptor
 {
 public:
     AxGroundCollisionAvoidanceDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxGroundCollisionAvoidanceDescriptor(AxGroundCollisionAvoidanceDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxGroundCollisionAvoidanceDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxGroundCollisionAvoidanceDescriptor() override;
 
     virtual double timeToCollide() const { return myTimeToCollide; }

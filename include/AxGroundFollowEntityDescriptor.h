@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxGroundFollowEntityDescriptor
 {
 public:
     AxGroundFollowEntityDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxGroundFollowEntityDescriptor(AxGroundFollowEntityDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxGroundFollowEntityDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxGroundFollowEntityDescriptor() override;
 
     virtual double nearCatchUpFactor() const { return myNearCatchUpFactor; }

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxGroundMoveDirectionControllerDescriptor
 {
 public:
     AxGroundMoveDirectionControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxGroundMoveDirectionControllerDescriptor(AxGroundMoveDirectionControllerDescriptor const& other,
+                                              AxReaderWriterRegistry* registry)
+        : AxGroundMoveDirectionControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxGroundMoveDirectionControllerDescriptor() override;
 
     virtual double highSpeedMinPivotAngle() const { return myHighSpeedMinPivotAngle; }

@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxGroundMoveToDescriptor
 {
 public:
     AxGroundMoveToDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxGroundMoveToDescriptor(AxGroundMoveToDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxGroundMoveToDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxGroundMoveToDescriptor() override;
 
     virtual double nearDistance() const { return myNearDistance; }

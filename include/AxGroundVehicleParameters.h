@@ -16,6 +16,14 @@ public:
     virtual AxSoilList const& soilList() const { return mySoilList; }
     virtual void setSoilList(AxSoilList const& list) { assignSpecified(mySoilList, list); }
 
+protected:
+    AxGroundVehicleParameters(AxGroundVehicleParameters const& other, AxSymbolString name,
+                              AxReaderWriterRegistry* parent)
+        : AxGroundVehicleParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxSoilList mySoilList{{"soil-list", "", "What soils do to speed and acceleration; empty: nothing."}, registry()};
 };

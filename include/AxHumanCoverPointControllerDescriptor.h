@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxHumanCoverPointControllerDescriptor
 {
 public:
     AxHumanCoverPointControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxHumanCoverPointControllerDescriptor(AxHumanCoverPointControllerDescriptor const& other,
+                                          AxReaderWriterRegistry* registry)
+        : AxHumanCoverPointControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxHumanCoverPointControllerDescriptor() override;
 
     virtual double atDistance() const { return myAtDistance; }

@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxHumanFleeControllerDescriptor
 {
 public:
     AxHumanFleeControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxHumanFleeControllerDescriptor(AxHumanFleeControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxHumanFleeControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxHumanFleeControllerDescriptor() override;
 
     virtual double angleBetweenPoints() const { return myAngleBetweenPoints; }

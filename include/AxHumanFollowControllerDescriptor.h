@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxHumanFollowControllerDescriptor
 {
 public:
     AxHumanFollowControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxHumanFollowControllerDescriptor(AxHumanFollowControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxHumanFollowControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxHumanFollowControllerDescriptor() override;
 
     virtual double distanceReplanThreshold() const { return myDistanceReplanThreshold; }

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxHumanGunActuatorDescriptor
 {
 public:
     AxHumanGunActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxHumanGunActuatorDescriptor(AxHumanGunActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxHumanGunActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxHumanGunActuatorDescriptor() override;
 
     virtual double maxAzimuthRate() const { return myMaxAzimuthRate; }

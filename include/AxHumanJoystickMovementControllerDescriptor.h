@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxHumanJoystickMovementControllerDescriptor
 {
 public:
     AxHumanJoystickMovementControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxHumanJoystickMovementControllerDescriptor(AxHumanJoystickMovementControllerDescriptor const& other,
+                                                AxReaderWriterRegistry* registry)
+        : AxHumanJoystickMovementControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxHumanJoystickMovementControllerDescriptor() override;
 
     virtual double maxTurningRate() const { return myMaxTurningRate; }

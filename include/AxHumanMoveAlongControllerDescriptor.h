@@ -10,6 +10,12 @@ class ZEDOBJPARAM_API AxHumanMoveAlongControllerDescriptor
 {
 public:
     AxHumanMoveAlongControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxHumanMoveAlongControllerDescriptor(AxHumanMoveAlongControllerDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxHumanMoveAlongControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxHumanMoveAlongControllerDescriptor() override;
 
     virtual double atDistance() const { return myAtDistance; }

@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxHumanMoveToControllerDescriptor
 {
 public:
     AxHumanMoveToControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxHumanMoveToControllerDescriptor(AxHumanMoveToControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxHumanMoveToControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxHumanMoveToControllerDescriptor() override;
 
     virtual double atDistance() const { return myAtDistance; }

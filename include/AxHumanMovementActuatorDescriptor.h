@@ -14,6 +14,11 @@ class ZEDOBJPARAM_API AxHumanMovementActuatorDescriptor
 {
 public:
     AxHumanMovementActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxHumanMovementActuatorDescriptor(AxHumanMovementActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxHumanMovementActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxHumanMovementActuatorDescriptor() override;
 
     virtual bool checkTerrainCollisions() const { return myCheckTerrainCollisions; }

@@ -18,6 +18,13 @@ public:
     virtual AxWeaponState initialWeaponState() const { return myInitialWeaponState.value(); }
     virtual void setInitialWeaponState(AxWeaponState state) { assignSpecified(myInitialWeaponState, state); }
 
+protected:
+    AxHumanParameters(AxHumanParameters const& other, AxSymbolString name, AxReaderWriterRegistry* parent)
+        : AxHumanParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwIndividualLifeFormStateType myInitialPosture{
         {"initial-posture", "", "Posture at the start, as the protocol counts them.", {0.0, 15.0}},

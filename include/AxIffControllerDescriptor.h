@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxIffControllerDescriptor
 {
 public:
     AxIffControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxIffControllerDescriptor(AxIffControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxIffControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxIffControllerDescriptor() override;
 
     virtual int systemNameEnum() const { return mySystemNameEnum; }

@@ -11,5 +11,11 @@ class ZEDOBJPARAM_API AxIndLifeformLauncherAcquireDescriptor
 {
 public:
     AxIndLifeformLauncherAcquireDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxIndLifeformLauncherAcquireDescriptor(AxIndLifeformLauncherAcquireDescriptor const& other,
+                                           AxReaderWriterRegistry* registry)
+        : AxIndLifeformLauncherAcquireDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxIndLifeformLauncherAcquireDescriptor() override;
 };

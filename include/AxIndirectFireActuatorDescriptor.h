@@ -13,6 +13,11 @@ class ZEDOBJPARAM_API AxIndirectFireActuatorDescriptor
 {
 public:
     AxIndirectFireActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxIndirectFireActuatorDescriptor(AxIndirectFireActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxIndirectFireActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxIndirectFireActuatorDescriptor() override;
 
     virtual double probableErrorInRange() const { return myProbableErrorInRange; }

@@ -17,6 +17,12 @@ class ZEDOBJPARAM_API AxIndirectFireControllerDescriptor
 {
 public:
     AxIndirectFireControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxIndirectFireControllerDescriptor(AxIndirectFireControllerDescriptor const& other,
+                                       AxReaderWriterRegistry* registry)
+        : AxIndirectFireControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxIndirectFireControllerDescriptor() override;
 
     virtual AxRwStringList const& defaultAmmoList() const { return myDefaultAmmoList; }

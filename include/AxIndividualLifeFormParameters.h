@@ -17,6 +17,14 @@ public:
     virtual AxWeaponState initialWeaponState() const { return myInitialWeaponState.value(); }
     virtual void setInitialWeaponState(AxWeaponState state) { assignSpecified(myInitialWeaponState, state); }
 
+protected:
+    AxIndividualLifeFormParameters(AxIndividualLifeFormParameters const& other, AxSymbolString name,
+                                   AxReaderWriterRegistry* parent)
+        : AxIndividualLifeFormParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwIndividualLifeFormStateType myInitialPosture{
         {"initial-posture", "", "Posture at the start, as the protocol counts them.", {0.0, 15.0}},

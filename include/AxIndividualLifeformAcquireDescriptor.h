@@ -13,6 +13,12 @@ class ZEDOBJPARAM_API AxIndividualLifeformAcquireDescriptor
 {
 public:
     AxIndividualLifeformAcquireDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxIndividualLifeformAcquireDescriptor(AxIndividualLifeformAcquireDescriptor const& other,
+                                          AxReaderWriterRegistry* registry)
+        : AxIndividualLifeformAcquireDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxIndividualLifeformAcquireDescriptor() override;
 
     virtual AxString const& weaponProcessStateRepositoryName() const

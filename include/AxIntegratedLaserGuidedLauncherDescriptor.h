@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxIntegratedLaserGuidedLauncherDescriptor
 {
 public:
     AxIntegratedLaserGuidedLauncherDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxIntegratedLaserGuidedLauncherDescriptor(AxIntegratedLaserGuidedLauncherDescriptor const& other,
+                                              AxReaderWriterRegistry* registry)
+        : AxIntegratedLaserGuidedLauncherDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxIntegratedLaserGuidedLauncherDescriptor() override;
 
     virtual AxTargetSelectionCriteria const& targetingControl() const { return myTargetingControl; }

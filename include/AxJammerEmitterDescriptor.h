@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxJammerEmitterDescriptor
 {
 public:
     AxJammerEmitterDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxJammerEmitterDescriptor(AxJammerEmitterDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxJammerEmitterDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxJammerEmitterDescriptor() override;
 
     virtual double jammingStrength() const { return myJammingStrength; }

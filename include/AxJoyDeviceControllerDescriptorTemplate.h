@@ -13,6 +13,12 @@ class AxJoyDeviceControllerDescriptorTemplate
 public:
     using Controls = AxRwTemplatedListPtr<AxRwJoystickControl, 1>;
     using Shape::Shape;
+    AxJoyDeviceControllerDescriptorTemplate(AxJoyDeviceControllerDescriptorTemplate const& other,
+                                            AxReaderWriterRegistry* registry)
+        : AxJoyDeviceControllerDescriptorTemplate(other.AxReaderWriter::name(), registry)
+    {
+        this->assign(other);
+    }
 
     /// Name of the device; empty for none.
     virtual AxString const& joystickDevice() const { return myJoystickDevice.value(); }

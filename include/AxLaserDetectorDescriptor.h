@@ -8,5 +8,10 @@ class ZEDOBJPARAM_API AxLaserDetectorDescriptor
 {
 public:
     AxLaserDetectorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxLaserDetectorDescriptor(AxLaserDetectorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxLaserDetectorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxLaserDetectorDescriptor() override;
 };

@@ -15,6 +15,12 @@ class ZEDOBJPARAM_API AxLaserGuidedLauncherControllerDescriptor
 {
 public:
     AxLaserGuidedLauncherControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxLaserGuidedLauncherControllerDescriptor(AxLaserGuidedLauncherControllerDescriptor const& other,
+                                              AxReaderWriterRegistry* registry)
+        : AxLaserGuidedLauncherControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxLaserGuidedLauncherControllerDescriptor() override;
 
     virtual AxObjectType const& munitionType() const { return myMunitionType.value(); }

@@ -13,6 +13,11 @@ class ZEDOBJPARAM_API AxLasingControllerDescriptor
 {
 public:
     AxLasingControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxLasingControllerDescriptor(AxLasingControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxLasingControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxLasingControllerDescriptor() override;
 
     virtual double waveLength() const { return myWaveLength; }

@@ -18,6 +18,12 @@ class ZEDOBJPARAM_API AxLaunchExpendableResourceControllerDescriptor
 {
 public:
     AxLaunchExpendableResourceControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxLaunchExpendableResourceControllerDescriptor(AxLaunchExpendableResourceControllerDescriptor const& other,
+                                                   AxReaderWriterRegistry* registry)
+        : AxLaunchExpendableResourceControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxLaunchExpendableResourceControllerDescriptor() override;
 
     virtual bool autoLaunchEnabled() const { return myAutoLaunchEnabled; }

@@ -15,6 +15,11 @@ class ZEDOBJPARAM_API AxLaunchSmokeControllerDescriptor
 {
 public:
     AxLaunchSmokeControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxLaunchSmokeControllerDescriptor(AxLaunchSmokeControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxLaunchSmokeControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxLaunchSmokeControllerDescriptor() override;
 
     virtual AxEntityType const& detonationType() const { return myDetonationType.value(); }

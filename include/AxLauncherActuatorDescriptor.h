@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxLauncherActuatorDescriptor
 {
 public:
     AxLauncherActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxLauncherActuatorDescriptor(AxLauncherActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxLauncherActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxLauncherActuatorDescriptor() override;
 
     virtual AxVector64 const& launcherMuzzleOffset() const { return myLauncherMuzzleOffset.value(); }

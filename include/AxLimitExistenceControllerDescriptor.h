@@ -10,6 +10,12 @@ class ZEDOBJPARAM_API AxLimitExistenceControllerDescriptor
 {
 public:
     AxLimitExistenceControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxLimitExistenceControllerDescriptor(AxLimitExistenceControllerDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxLimitExistenceControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxLimitExistenceControllerDescriptor() override;
 
     virtual double duration() const { return myDuration; }

@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxMissileDistractionControllerDescriptor
 {
 public:
     AxMissileDistractionControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxMissileDistractionControllerDescriptor(AxMissileDistractionControllerDescriptor const& other,
+                                             AxReaderWriterRegistry* registry)
+        : AxMissileDistractionControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxMissileDistractionControllerDescriptor() override;
 
     virtual AxRwSpatialFilterContainer const& targetConeGeometry() const { return myTargetConeGeometry; }

@@ -25,6 +25,13 @@ public:
     virtual AxString const& rangeName() const { return myRangeName.value(); }
     virtual void setRangeName(AxString const& name) { assignSpecified(myRangeName, name); }
 
+protected:
+    AxMissileParameters(AxMissileParameters const& other, AxSymbolString name, AxReaderWriterRegistry* parent)
+        : AxMissileParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwReal myRange{{"range", "m", "Largest distance flown.", {0.0, axUnbounded}}, 5000.0, registry()};
     AxRwReal myMaxManeuverGs{

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxMovementBasedTerrainPreloadControllerDescriptor
 {
 public:
     AxMovementBasedTerrainPreloadControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxMovementBasedTerrainPreloadControllerDescriptor(AxMovementBasedTerrainPreloadControllerDescriptor const& other,
+                                                      AxReaderWriterRegistry* registry)
+        : AxMovementBasedTerrainPreloadControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxMovementBasedTerrainPreloadControllerDescriptor() override;
 
     virtual AxString const& geometryType() const { return myGeometryType.value(); }

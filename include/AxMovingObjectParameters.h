@@ -60,6 +60,12 @@ public:
     virtual void setWeatherAreaRecalcTime(int seconds) { assignSpecified(myWeatherAreaRecalcTime, seconds); }
 
 protected:
+    AxMovingObjectParameters(AxMovingObjectParameters const& other, AxSymbolString name, AxReaderWriterRegistry* parent)
+        : AxMovingObjectParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
     // Derived kinds change the defaults of these by `assignDefault`.
     AxRwBoolean myCanPivot{{"can-pivot", "", "Whether the object turns on the spot."}, registry()};
     AxRwReal myMaxPivotSpeed{{"max-pivot-speed", "rad/s", "Largest rate of turning on the spot.", {0.0, axUnbounded}},

@@ -10,5 +10,11 @@ class ZEDOBJPARAM_API AxMultipleHitDamageActuatorDescriptor
 {
 public:
     AxMultipleHitDamageActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxMultipleHitDamageActuatorDescriptor(AxMultipleHitDamageActuatorDescriptor const& other,
+                                          AxReaderWriterRegistry* registry)
+        : AxMultipleHitDamageActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxMultipleHitDamageActuatorDescriptor() override;
 };

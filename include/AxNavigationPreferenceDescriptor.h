@@ -9,6 +9,11 @@ class ZEDOBJPARAM_API AxNavigationPreferenceDescriptor
 {
 public:
     AxNavigationPreferenceDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxNavigationPreferenceDescriptor(AxNavigationPreferenceDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxNavigationPreferenceDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxNavigationPreferenceDescriptor() override;
 
     virtual AxString const& initialRoadPreference() const { return myInitialRoadPreference.value(); }

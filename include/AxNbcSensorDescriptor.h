@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxNbcSensorDescriptor
 {
 public:
     AxNbcSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxNbcSensorDescriptor(AxNbcSensorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxNbcSensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxNbcSensorDescriptor() override;
 
     virtual bool detectNuclear() const { return myDetectNuclear; }

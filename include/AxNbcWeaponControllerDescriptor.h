@@ -13,6 +13,11 @@ class ZEDOBJPARAM_API AxNbcWeaponControllerDescriptor
 {
 public:
     AxNbcWeaponControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxNbcWeaponControllerDescriptor(AxNbcWeaponControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxNbcWeaponControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxNbcWeaponControllerDescriptor() override;
 
     virtual AxString const& nbcType() const { return myNbcType.value(); }

@@ -12,6 +12,8 @@
 /// "bomb-param">`, says `using AxObjectRecordOf::AxObjectRecordOf;`, and binds its members by in-class initialisers. A
 /// class whose constructor marks or changes defaults declares `(AxSymbolString, AxReaderWriterRegistry*,
 /// AxEnvironmentPtr const&, AxEnvValuePtr const*)` itself, which serves all forms of names, and leaves the `using` out.
+/// The protected `(Derived const& other, AxSymbolString name, AxReaderWriterRegistry* parent)` is for classes that copy
+/// one of their bases.
 template <class Derived, class Base, AxFixedText typeName>
 class AxObjectRecordOf : public Base
 {

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxObjectSensorDescriptor
 public:
     /// A sensor ticks every two seconds unless told otherwise.
     AxObjectSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxObjectSensorDescriptor(AxObjectSensorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxObjectSensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxObjectSensorDescriptor() override;
 
     virtual bool detectOnlyHostileForces() const;

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxObstructionSensorDescriptor
 {
 public:
     AxObstructionSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxObstructionSensorDescriptor(AxObstructionSensorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxObstructionSensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxObstructionSensorDescriptor() override;
 
     virtual double lateralClearance() const { return myLateralClearance; }

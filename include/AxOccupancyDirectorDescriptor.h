@@ -9,6 +9,11 @@ class ZEDOBJPARAM_API AxOccupancyDirectorDescriptor
 {
 public:
     AxOccupancyDirectorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxOccupancyDirectorDescriptor(AxOccupancyDirectorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxOccupancyDirectorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxOccupancyDirectorDescriptor() override;
 
     virtual bool publishLoadPoints() const { return myPublishLoadPoints; }

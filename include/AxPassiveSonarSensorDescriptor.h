@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxPassiveSonarSensorDescriptor
 {
 public:
     AxPassiveSonarSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxPassiveSonarSensorDescriptor(AxPassiveSonarSensorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxPassiveSonarSensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxPassiveSonarSensorDescriptor() override;
 
     virtual double maxEffectiveSpeed() const { return myMaxEffectiveSpeed; }

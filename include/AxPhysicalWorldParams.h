@@ -23,6 +23,13 @@ public:
     virtual double speedOfSoundInWater() const { return mySpeedOfSoundInWater; }
     virtual void setSpeedOfSoundInWater(double speed) { assignSpecified(mySpeedOfSoundInWater, speed); }
 
+protected:
+    AxPhysicalWorldParams(AxPhysicalWorldParams const& other, AxSymbolString name, AxReaderWriterRegistry* parent)
+        : AxPhysicalWorldParams(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwReal myGravity{{"gravity", "m/s2", "Acceleration of free fall."}, 9.80665, registry()};
     AxRwReal myAirDensity{{"air-density", "kg/m3", "Density of air.", {0.0, axUnbounded}}, 1.225, registry()};

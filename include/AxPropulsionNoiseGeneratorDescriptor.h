@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxPropulsionNoiseGeneratorDescriptor
 {
 public:
     AxPropulsionNoiseGeneratorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxPropulsionNoiseGeneratorDescriptor(AxPropulsionNoiseGeneratorDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxPropulsionNoiseGeneratorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxPropulsionNoiseGeneratorDescriptor() override;
 
     virtual double speedToRpmFactor() const { return mySpeedToRpmFactor; }

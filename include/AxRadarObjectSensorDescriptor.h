@@ -13,6 +13,11 @@ class ZEDOBJPARAM_API AxRadarObjectSensorDescriptor
 {
 public:
     AxRadarObjectSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRadarObjectSensorDescriptor(AxRadarObjectSensorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxRadarObjectSensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRadarObjectSensorDescriptor() override;
 
     virtual bool publishEmitterSystem() const { return myPublishEmitterSystem; }

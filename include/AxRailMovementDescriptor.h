@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxRailMovementDescriptor
 {
 public:
     AxRailMovementDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRailMovementDescriptor(AxRailMovementDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxRailMovementDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRailMovementDescriptor() override;
 
     virtual bool useTurnSmoothing() const { return myUseTurnSmoothing; }

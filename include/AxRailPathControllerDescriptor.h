@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxRailPathControllerDescriptor
 {
 public:
     AxRailPathControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRailPathControllerDescriptor(AxRailPathControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxRailPathControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRailPathControllerDescriptor() override;
 
     virtual AxString const& pathFeatureType() const { return myPathFeatureType.value(); }

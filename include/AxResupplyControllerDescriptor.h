@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxResupplyControllerDescriptor
 {
 public:
     AxResupplyControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxResupplyControllerDescriptor(AxResupplyControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxResupplyControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxResupplyControllerDescriptor() override;
 
     virtual AxString const& supplyingMode() const { return mySupplyingMode.value(); }

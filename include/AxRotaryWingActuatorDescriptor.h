@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxRotaryWingActuatorDescriptor
 {
 public:
     AxRotaryWingActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRotaryWingActuatorDescriptor(AxRotaryWingActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxRotaryWingActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRotaryWingActuatorDescriptor() override;
 
     virtual double crashVelocity() const { return myCrashVelocity; }

@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxRotaryWingColAvoidanceControllerDescriptor
 {
 public:
     AxRotaryWingColAvoidanceControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRotaryWingColAvoidanceControllerDescriptor(AxRotaryWingColAvoidanceControllerDescriptor const& other,
+                                                 AxReaderWriterRegistry* registry)
+        : AxRotaryWingColAvoidanceControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRotaryWingColAvoidanceControllerDescriptor() override;
 
     virtual double nominalDistance() const { return myNominalDistance; }

@@ -46,6 +46,14 @@ public:
     /// constructor calls it.
     virtual void setDefaults();
 
+protected:
+    AxRotaryWingEntityParameters(AxRotaryWingEntityParameters const& other, AxSymbolString name,
+                                 AxReaderWriterRegistry* parent)
+        : AxRotaryWingEntityParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwReal myMaxAltitude{{"max-altitude", "m", "Largest altitude.", {0.0, axUnbounded}}, 12000.0, registry()};
     AxRwBoolean myJoystickControl{{"joystick-control", "", "Whether a joystick flies the aircraft."}, registry()};

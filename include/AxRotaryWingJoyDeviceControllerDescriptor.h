@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxRotaryWingJoyDeviceControllerDescriptor
 {
 public:
     AxRotaryWingJoyDeviceControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRotaryWingJoyDeviceControllerDescriptor(AxRotaryWingJoyDeviceControllerDescriptor const& other,
+                                              AxReaderWriterRegistry* registry)
+        : AxRotaryWingJoyDeviceControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRotaryWingJoyDeviceControllerDescriptor() override;
 
     virtual double controllerRiseTime() const { return myControllerRiseTime; }

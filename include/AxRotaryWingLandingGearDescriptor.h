@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxRotaryWingLandingGearDescriptor
 {
 public:
     AxRotaryWingLandingGearDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRotaryWingLandingGearDescriptor(AxRotaryWingLandingGearDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxRotaryWingLandingGearDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRotaryWingLandingGearDescriptor() override;
 
     virtual double landingGearAltitude() const { return myLandingGearAltitude; }

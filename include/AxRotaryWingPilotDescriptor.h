@@ -15,6 +15,11 @@ class ZEDOBJPARAM_API AxRotaryWingPilotDescriptor
 {
 public:
     AxRotaryWingPilotDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRotaryWingPilotDescriptor(AxRotaryWingPilotDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxRotaryWingPilotDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRotaryWingPilotDescriptor() override;
 
     virtual double pdRadius() const { return myPdRadius; }

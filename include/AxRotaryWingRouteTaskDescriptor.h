@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxRotaryWingRouteTaskDescriptor
 {
 public:
     AxRotaryWingRouteTaskDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRotaryWingRouteTaskDescriptor(AxRotaryWingRouteTaskDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxRotaryWingRouteTaskDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRotaryWingRouteTaskDescriptor() override;
 
     virtual double routeTransitionRadius() const { return myRouteTransitionRadius; }

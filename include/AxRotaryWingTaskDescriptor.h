@@ -9,6 +9,11 @@ class ZEDOBJPARAM_API AxRotaryWingTaskDescriptor
 {
 public:
     AxRotaryWingTaskDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxRotaryWingTaskDescriptor(AxRotaryWingTaskDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxRotaryWingTaskDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxRotaryWingTaskDescriptor() override;
 
     virtual double defaultAggressiveness() const { return myDefaultAggressiveness; }

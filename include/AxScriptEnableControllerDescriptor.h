@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxScriptEnableControllerDescriptor
 {
 public:
     using AxDescriptorOf::AxDescriptorOf;
+    AxScriptEnableControllerDescriptor(AxScriptEnableControllerDescriptor const& other,
+                                       AxReaderWriterRegistry* registry)
+        : AxScriptEnableControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxScriptEnableControllerDescriptor() override;
 
     virtual AxRwNLengthStringVector const& scriptIds() const;

@@ -14,6 +14,11 @@ class ZEDOBJPARAM_API AxSensorGimbalActuatorDescriptor
 {
 public:
     AxSensorGimbalActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSensorGimbalActuatorDescriptor(AxSensorGimbalActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxSensorGimbalActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSensorGimbalActuatorDescriptor() override;
 
     virtual double maxElevationRate() const { return myMaxElevationRate; }

@@ -14,6 +14,12 @@ class ZEDOBJPARAM_API AxSensorGimbalControllerDescriptor
 {
 public:
     AxSensorGimbalControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSensorGimbalControllerDescriptor(AxSensorGimbalControllerDescriptor const& other,
+                                       AxReaderWriterRegistry* registry)
+        : AxSensorGimbalControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSensorGimbalControllerDescriptor() override;
 
     virtual double neutralAzimuth() const { return myNeutralAzimuth; }

@@ -15,6 +15,11 @@ class ZEDOBJPARAM_API AxSignatureObjectSensorDescriptor
 {
 public:
     AxSignatureObjectSensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSignatureObjectSensorDescriptor(AxSignatureObjectSensorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxSignatureObjectSensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSignatureObjectSensorDescriptor() override;
 
     virtual AxString const& sensorDomain() const { return mySensorDomain.value(); }

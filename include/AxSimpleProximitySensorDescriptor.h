@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxSimpleProximitySensorDescriptor
 {
 public:
     AxSimpleProximitySensorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSimpleProximitySensorDescriptor(AxSimpleProximitySensorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxSimpleProximitySensorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSimpleProximitySensorDescriptor() override;
 
     virtual double defaultProximity() const { return myDefaultProximity; }

@@ -9,6 +9,11 @@ class ZEDOBJPARAM_API AxSpawnControllerDescriptor
 {
 public:
     AxSpawnControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSpawnControllerDescriptor(AxSpawnControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxSpawnControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSpawnControllerDescriptor() override;
 
     virtual double sinkPointDeleteRadius() const { return mySinkPointDeleteRadius; }

@@ -15,6 +15,12 @@ class ZEDOBJPARAM_API AxSpotReportGeneratorControllerDescriptor
 {
 public:
     AxSpotReportGeneratorControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSpotReportGeneratorControllerDescriptor(AxSpotReportGeneratorControllerDescriptor const& other,
+                                              AxReaderWriterRegistry* registry)
+        : AxSpotReportGeneratorControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSpotReportGeneratorControllerDescriptor() override;
 
     virtual bool forwardSubordinateReports() const { return myForwardSubordinateReports; }

@@ -10,6 +10,11 @@ class ZEDOBJPARAM_API AxSpotReportReceiverDescriptor
 {
 public:
     AxSpotReportReceiverDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSpotReportReceiverDescriptor(AxSpotReportReceiverDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxSpotReportReceiverDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSpotReportReceiverDescriptor() override;
 
     virtual double spotReportAgeLimit() const { return mySpotReportAgeLimit; }

@@ -10,5 +10,10 @@ class ZEDOBJPARAM_API AxSuppressionActuatorDescriptor
 {
 public:
     AxSuppressionActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSuppressionActuatorDescriptor(AxSuppressionActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxSuppressionActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSuppressionActuatorDescriptor() override;
 };

@@ -13,6 +13,11 @@ class ZEDOBJPARAM_API AxSurfaceEntityActuatorDescriptor
 {
 public:
     AxSurfaceEntityActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSurfaceEntityActuatorDescriptor(AxSurfaceEntityActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxSurfaceEntityActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSurfaceEntityActuatorDescriptor() override;
 
     virtual double maxYawAcceleration() const { return myMaxYawAcceleration; }

@@ -13,4 +13,12 @@ public:
 
     /// The defaults of ships for what all moving objects have. The constructor calls it.
     virtual void setDefaults();
+
+protected:
+    AxSurfaceEntityParameters(AxSurfaceEntityParameters const& other, AxSymbolString name,
+                              AxReaderWriterRegistry* parent)
+        : AxSurfaceEntityParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
 };

@@ -10,6 +10,12 @@ class ZEDOBJPARAM_API AxSurfaceEntityPilotControllerDescriptor
 {
 public:
     AxSurfaceEntityPilotControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSurfaceEntityPilotControllerDescriptor(AxSurfaceEntityPilotControllerDescriptor const& other,
+                                             AxReaderWriterRegistry* registry)
+        : AxSurfaceEntityPilotControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSurfaceEntityPilotControllerDescriptor() override;
 
     virtual double atDistance() const { return myAtDistance; }

@@ -10,5 +10,11 @@ class ZEDOBJPARAM_API AxSurfaceEntityRoutePilotDescriptor
 {
 public:
     AxSurfaceEntityRoutePilotDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSurfaceEntityRoutePilotDescriptor(AxSurfaceEntityRoutePilotDescriptor const& other,
+                                        AxReaderWriterRegistry* registry)
+        : AxSurfaceEntityRoutePilotDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSurfaceEntityRoutePilotDescriptor() override;
 };

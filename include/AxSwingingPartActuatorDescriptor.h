@@ -13,6 +13,11 @@ class ZEDOBJPARAM_API AxSwingingPartActuatorDescriptor
 {
 public:
     AxSwingingPartActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxSwingingPartActuatorDescriptor(AxSwingingPartActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxSwingingPartActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxSwingingPartActuatorDescriptor() override;
 
     virtual double closedAngle() const { return myClosedAngle; }

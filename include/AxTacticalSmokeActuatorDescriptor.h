@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxTacticalSmokeActuatorDescriptor
 {
 public:
     AxTacticalSmokeActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxTacticalSmokeActuatorDescriptor(AxTacticalSmokeActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxTacticalSmokeActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxTacticalSmokeActuatorDescriptor() override;
 
     virtual double dissipationTime() const { return myDissipationTime; }

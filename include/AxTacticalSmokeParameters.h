@@ -15,6 +15,14 @@ public:
     virtual double drSigmaThreshold() const { return myDrSigmaThreshold; }
     virtual void setDrSigmaThreshold(double threshold) { assignSpecified(myDrSigmaThreshold, threshold); }
 
+protected:
+    AxTacticalSmokeParameters(AxTacticalSmokeParameters const& other, AxSymbolString name,
+                              AxReaderWriterRegistry* parent)
+        : AxTacticalSmokeParameters(name, parent)
+    {
+        AxZedObjectParameters::operator=(other);
+    }
+
 private:
     AxRwReal myDrDensityThreshold{
         {"dr-density-threshold", "", "Error of the density at which the state is sent anew.", {0.0, axUnbounded}},

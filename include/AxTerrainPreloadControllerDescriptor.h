@@ -10,6 +10,12 @@ class ZEDOBJPARAM_API AxTerrainPreloadControllerDescriptor
 {
 public:
     AxTerrainPreloadControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxTerrainPreloadControllerDescriptor(AxTerrainPreloadControllerDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxTerrainPreloadControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxTerrainPreloadControllerDescriptor() override;
 
     virtual int preloadPriority() const { return myPreloadPriority; }

@@ -12,6 +12,12 @@ class ZEDOBJPARAM_API AxTranslatablePartActuatorDescriptor
 {
 public:
     AxTranslatablePartActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxTranslatablePartActuatorDescriptor(AxTranslatablePartActuatorDescriptor const& other,
+                                         AxReaderWriterRegistry* registry)
+        : AxTranslatablePartActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxTranslatablePartActuatorDescriptor() override;
 
     virtual double maxRange() const { return myMaxRange; }

@@ -13,6 +13,12 @@ class ZEDOBJPARAM_API AxTurretAcquireControllerDescriptor
 {
 public:
     AxTurretAcquireControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxTurretAcquireControllerDescriptor(AxTurretAcquireControllerDescriptor const& other,
+                                        AxReaderWriterRegistry* registry)
+        : AxTurretAcquireControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxTurretAcquireControllerDescriptor() override;
 
     virtual bool trackBySignature() const { return myTrackBySignature; }

@@ -12,6 +12,11 @@ class ZEDOBJPARAM_API AxTurretComponentDescriptor
 {
 public:
     AxTurretComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxTurretComponentDescriptor(AxTurretComponentDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxTurretComponentDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxTurretComponentDescriptor() override;
 
     virtual double maxSlewRate() const { return myMaxSlewRate; }

@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxTurretReturnToHeadingControllerDescriptor
 {
 public:
     AxTurretReturnToHeadingControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxTurretReturnToHeadingControllerDescriptor(AxTurretReturnToHeadingControllerDescriptor const& other,
+                                                AxReaderWriterRegistry* registry)
+        : AxTurretReturnToHeadingControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxTurretReturnToHeadingControllerDescriptor() override;
 
     virtual double neutralHeading() const { return myNeutralHeading; }

@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxTurretScanComponentDescriptor
 {
 public:
     AxTurretScanComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxTurretScanComponentDescriptor(AxTurretScanComponentDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxTurretScanComponentDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxTurretScanComponentDescriptor() override;
 
     virtual double scanRate() const { return myScanRate; }

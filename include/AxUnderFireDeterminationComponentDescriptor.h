@@ -10,5 +10,11 @@ class ZEDOBJPARAM_API AxUnderFireDeterminationComponentDescriptor
 {
 public:
     AxUnderFireDeterminationComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxUnderFireDeterminationComponentDescriptor(AxUnderFireDeterminationComponentDescriptor const& other,
+                                                AxReaderWriterRegistry* registry)
+        : AxUnderFireDeterminationComponentDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxUnderFireDeterminationComponentDescriptor() override;
 };

@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxWarheadDetonationActuatorDescriptor
 {
 public:
     AxWarheadDetonationActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxWarheadDetonationActuatorDescriptor(AxWarheadDetonationActuatorDescriptor const& other,
+                                          AxReaderWriterRegistry* registry)
+        : AxWarheadDetonationActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxWarheadDetonationActuatorDescriptor() override;
 
     virtual bool detonateOnGroundImpact() const { return myDetonateOnGroundImpact; }

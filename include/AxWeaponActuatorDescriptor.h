@@ -11,6 +11,11 @@ class ZEDOBJPARAM_API AxWeaponActuatorDescriptor
 {
 public:
     AxWeaponActuatorDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxWeaponActuatorDescriptor(AxWeaponActuatorDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxWeaponActuatorDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxWeaponActuatorDescriptor() override;
 
     virtual double projectileStartSpeed() const { return myProjectileStartSpeed; }

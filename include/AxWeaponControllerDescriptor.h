@@ -15,6 +15,11 @@ class ZEDOBJPARAM_API AxWeaponControllerDescriptor
 {
 public:
     AxWeaponControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxWeaponControllerDescriptor(AxWeaponControllerDescriptor const& other, AxReaderWriterRegistry* registry)
+        : AxWeaponControllerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxWeaponControllerDescriptor() override;
 
     virtual AxFilename const& ammoSelectTableFile() const { return myAmmoSelectTableFile.filename(); }

@@ -11,6 +11,12 @@ class ZEDOBJPARAM_API AxZedObjectDataMessengerDescriptor
 {
 public:
     AxZedObjectDataMessengerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    AxZedObjectDataMessengerDescriptor(AxZedObjectDataMessengerDescriptor const& other,
+                                       AxReaderWriterRegistry* registry)
+        : AxZedObjectDataMessengerDescriptor(other.AxReaderWriter::name(), registry)
+    {
+        assign(other);
+    }
     ~AxZedObjectDataMessengerDescriptor() override;
 
     virtual double maxSendInterval() const { return myMaxSendInterval; }
