@@ -29,6 +29,21 @@ if(PKG_CONFIG)
     run("${CMAKE_COMMAND}" -E env "PKG_CONFIG_PATH=${folder}" "${PKG_CONFIG}" --exists --print-errors zedobjparam)
 endif()
 
+# Every symbol that the library shows is its own.
+find_program(NM NAMES nm)
+if(NM)
+    file(GLOB libraries "${prefix}/lib*/libzedobjparam.so" "${prefix}/lib/*/libzedobjparam.so")
+    list(GET libraries 0 library)
+    execute_process(COMMAND "${NM}" -D --demangle --defined-only --format=posix "${library}" OUTPUT_VARIABLE symbols
+                    COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCHALL "[^\n]+" symbols "${symbols}")
+    list(FILTER symbols EXCLUDE REGEX "^([a-zA-Z-]+ )*Ax|^ax[A-Z]|^operator|^equalTrees")
+    if(symbols)
+        list(JOIN symbols "\n" symbols)
+        message(FATAL_ERROR "exported, but not of this library:\n${symbols}")
+    endif()
+endif()
+
 file(GLOB programs "${host}/host" "${host}/zedobjparam_host")
 if(NOT programs)
     message(FATAL_ERROR "examples/host built no program named host or zedobjparam_host")
