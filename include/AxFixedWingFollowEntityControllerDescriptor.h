@@ -24,35 +24,27 @@ public:
     virtual double taxiingFarCatchUpFactor() const { return myTaxiingFarCatchUpFactor; }
     virtual void setTaxiingFarCatchUpFactor(double factor) { assignSpecified(myTaxiingFarCatchUpFactor, factor); }
     virtual double taxiingPassedSlowDownFactor() const { return myTaxiingPassedSlowDownFactor; }
-    virtual void setTaxiingPassedSlowDownFactor(double factor)
-    {
-        assignSpecified(myTaxiingPassedSlowDownFactor, factor);
-    }
+    virtual void setTaxiingPassedSlowDownFactor(double ratio) { assignSpecified(myTaxiingPassedSlowDownFactor, ratio); }
     virtual double flyingCatchUpFactor() const { return myFlyingCatchUpFactor; }
     virtual void setFlyingCatchUpFactor(double factor) { assignSpecified(myFlyingCatchUpFactor, factor); }
     virtual double flyingCatchUpDistance() const { return myFlyingCatchUpDistance; }
     virtual void setFlyingCatchUpDistance(double distance) { assignSpecified(myFlyingCatchUpDistance, distance); }
 
 private:
-    AxRwReal myTaxiingNearCatchUpFactor{{"taxiing-near-catch-up-factor", "",
-                                         "Multiple of the leader's taxiing speed when a little behind.", axNotNegative},
-                                        1.1,
-                                        registry()};
+    AxRwReal myTaxiingNearCatchUpFactor{
+        {"taxiing-near-catch-up-factor", "", "Multiple of the leader's speed when a little behind.", axNotNegative},
+        1.1,
+        registry()};
     AxRwReal myTaxiingFarCatchUpFactor{
-        {"taxiing-far-catch-up-factor", "", "Multiple of the leader's taxiing speed when far behind.", axNotNegative},
+        {"taxiing-far-catch-up-factor", "", "Multiple of the leader's speed when far behind.", axNotNegative},
         1.5,
         registry()};
-    AxRwReal myTaxiingPassedSlowDownFactor{{"taxiing-passed-slow-down-factor", "",
-                                            "Multiple of the leader's taxiing speed after having passed it.",
-                                            axNotNegative},
-                                           0.5,
-                                           registry()};
-    AxRwReal myFlyingCatchUpFactor{
-        {"flying-catch-up-factor", "", "Multiple of the leader's speed in the air when far behind.", axNotNegative},
-        1.2,
+    AxRwReal myTaxiingPassedSlowDownFactor{
+        {"taxiing-passed-slow-down-factor", "", "Multiple of the leader's speed when past it.", axNotNegative},
+        0.5,
         registry()};
-    AxRwReal myFlyingCatchUpDistance{{"flying-catch-up-distance", "m",
-                                      "Distance to the leader beyond which the aircraft catches up.", axNotNegative},
-                                     1000.0,
-                                     registry()};
+    AxRwReal myFlyingCatchUpFactor{
+        {"flying-catch-up-factor", "", "Multiple of the leader's speed when far.", axNotNegative}, 1.2, registry()};
+    AxRwReal myFlyingCatchUpDistance{
+        {"flying-catch-up-distance", "m", "Distance from which it catches up.", axNotNegative}, 1000.0, registry()};
 };

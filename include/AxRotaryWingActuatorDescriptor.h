@@ -21,15 +21,9 @@ public:
     virtual double crashVelocity() const { return myCrashVelocity; }
     virtual void setCrashVelocity(double velocity) { assignSpecified(myCrashVelocity, velocity); }
     virtual double landingPositionThreshold() const { return myLandingPositionThreshold; }
-    virtual void setLandingPositionThreshold(double threshold)
-    {
-        assignSpecified(myLandingPositionThreshold, threshold);
-    }
+    virtual void setLandingPositionThreshold(double height) { assignSpecified(myLandingPositionThreshold, height); }
     virtual double landingVelocityThreshold() const { return myLandingVelocityThreshold; }
-    virtual void setLandingVelocityThreshold(double threshold)
-    {
-        assignSpecified(myLandingVelocityThreshold, threshold);
-    }
+    virtual void setLandingVelocityThreshold(double speed) { assignSpecified(myLandingVelocityThreshold, speed); }
     virtual double clampedFrameRate() const { return myClampedFrameRate; }
     virtual void setClampedFrameRate(double rate) { assignSpecified(myClampedFrameRate, rate); }
     virtual double dragCoefficient() const { return myDragCoefficient; }
