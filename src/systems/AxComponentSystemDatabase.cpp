@@ -47,7 +47,7 @@ static void readDefinition(AxComponentSystemDefinition& definition, AxFilename c
         AxlReadResult const read = AxcRead(stream, AxlEnv(), options);
         if (read.unclosed)
         {
-            reportParseFailure(file, AxlSyntaxError::unclosedList(read.line, read.column).diagnostic());
+            reportParseFailure(file, read.fault().diagnostic());
             read.settleCutOff();
         }
         if (!read.expr->isEof())

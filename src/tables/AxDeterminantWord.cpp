@@ -1,6 +1,7 @@
 #include "AxDeterminantWord.h"
 
 #include "AxFaultAt.h"
+#include "AxSourceScope.h"
 #include "AxlObj.h"
 
 static constexpr std::string_view theWords[] = {"range-list", "coefficients"};
@@ -23,6 +24,10 @@ void axReportDeterminant(AxlObj const* element, AxlObj const* word, std::string 
     std::string const text = word->pname().string();
     AxDiagnostic fault = axFaultAt(AxSeverity::Error, "unknown-determinant", word->nil() ? element : word,
                                    "no range determinant is called \"" + text + '"');
+    if (AxSourceScope::isSettled(fault.file, fault.line, fault.column))
+    {
+        return; // the text ends in this element, which has been told
+    }
     std::string_view const nearest = axNearest(text, theWords);
     if (!nearest.empty())
     {

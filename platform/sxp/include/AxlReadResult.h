@@ -4,6 +4,7 @@
 
 #include "AxExport.h"
 #include "AxlObj.h"
+#include "AxlSyntaxError.h"
 
 /// One expression and, when its text ended too early, where the list that was left open begins.
 struct ZEDOBJPARAM_API AxlReadResult
@@ -13,8 +14,13 @@ struct ZEDOBJPARAM_API AxlReadResult
     /// Opening parenthesis of the innermost open list; 0 when all were closed.
     std::uint32_t line = 0;
     std::uint32_t column = 0;
+    /// Opening quote of the string that the text ends in, which is no part of the expression; 0 when there is none.
+    std::uint32_t stringLine = 0;
+    std::uint32_t stringColumn = 0;
 
-    /// Reports the list that was left open, if any, and settles what follows from it: nothing more is told of the open
+    /// What is missing, when something is: the end of that string, else that of the list.
+    AxlSyntaxError fault() const;
+    /// Reports what was left open, if anything, and settles what follows from it: nothing more is told of the open
     /// lists themselves and of the atoms that the innermost one ends in.
     void reportUnclosed() const;
     /// The latter alone.

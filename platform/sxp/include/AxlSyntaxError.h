@@ -18,8 +18,9 @@ public:
     AxlSyntaxError& operator=(AxlSyntaxError const&) = delete;
     ~AxlSyntaxError() override;
 
-    /// For a text that ends inside the list that begins here.
+    /// For a text that ends inside the list or the string that begins here.
     static AxlSyntaxError unclosedList(std::uint32_t line, std::uint32_t column);
+    static AxlSyntaxError unclosedString(std::uint32_t line, std::uint32_t column);
 
     char const* what() const noexcept override { return myText.c_str(); }
     /// "unclosed-list", "unclosed-string", "stray-parenthesis", "control-byte", "nesting-limit" or "token-limit".

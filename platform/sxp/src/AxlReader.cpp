@@ -1,6 +1,7 @@
 #include "AxlFunctions.h"
 
 #include <array>
+#include <cstring>
 
 #include "AxDiagnostic.h"
 #include "AxLimits.h"
@@ -31,6 +32,26 @@ public:
 
     AxlReadResult read(bool closeOpenLists)
     {
+        try
+        {
+            return readExpression(closeOpenLists);
+        }
+        catch (AxlSyntaxError const& error)
+        {
+            if (!closeOpenLists || myDepth == 0 || std::strcmp(error.code(), "unclosed-string") != 0)
+            {
+                throw;
+            }
+            AxlReadResult result = end(true);
+            result.stringLine = error.line();
+            result.stringColumn = error.column();
+            return result;
+        }
+    }
+
+private:
+    AxlReadResult readExpression(bool closeOpenLists)
+    {
         for (;;)
         {
             AxlObj const* cell = nullptr;
@@ -55,7 +76,6 @@ public:
         }
     }
 
-private:
     /// A list whose closing parenthesis has not been seen.
     struct OpenList
     {
@@ -168,6 +188,12 @@ bool axTextFollows(AxlInputStream& stream, std::uint32_t& line, std::uint32_t& c
     return follows;
 }
 
+AxlSyntaxError AxlReadResult::fault() const
+{
+    return stringLine != 0 ? AxlSyntaxError::unclosedString(stringLine, stringColumn)
+                           : AxlSyntaxError::unclosedList(line, column);
+}
+
 void AxlReadResult::settleCutOff() const
 {
     AxlObj const* list = unclosed ? expr.get() : AxlObj::nilCell();
@@ -192,7 +218,7 @@ void AxlReadResult::reportUnclosed() const
 {
     if (unclosed)
     {
-        AxDiagnostics::report(AxlSyntaxError::unclosedList(line, column).diagnostic());
+        AxDiagnostics::report(fault().diagnostic());
         settleCutOff();
     }
 }

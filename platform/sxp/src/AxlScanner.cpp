@@ -48,9 +48,7 @@ void AxlScanner::scanString()
         else if (*byte == '\0' && byte == myEnd)
         {
             myNext = myEnd;
-            throw AxlSyntaxError("unclosed-string",
-                                 "the string is not closed, expected '\"' before the end of the text", place().line,
-                                 place().column);
+            throw AxlSyntaxError::unclosedString(place().line, place().column);
         }
     }
     myText = {begin, static_cast<std::size_t>(byte - begin)};

@@ -17,6 +17,11 @@ AxlSyntaxError AxlSyntaxError::unclosedList(std::uint32_t line, std::uint32_t co
     return {"unclosed-list", "the list is not closed, expected \")\" before the end of the text", line, column};
 }
 
+AxlSyntaxError AxlSyntaxError::unclosedString(std::uint32_t line, std::uint32_t column)
+{
+    return {"unclosed-string", "the string is not closed, expected '\"' before the end of the text", line, column};
+}
+
 AxDiagnostic AxlSyntaxError::diagnostic() const
 {
     AxDiagnostic diagnostic;

@@ -336,9 +336,13 @@ bool AxReaderWriter::readText(std::string_view text, AxFilename const& sourceNam
     {
         AxlInputStream stream(text);
         AxTextReader reader(stream);
+        bool unclosed = false;
         if (!reader.readObject(*this, files, bindings))
         {
-            AxlObjPtr const expression = AxcRead(stream);
+            AxlReadOptions options;
+            options.closeOpenLists = true;
+            AxlReadResult const result = AxcRead(stream, AxlEnv(), options);
+            AxlObjPtr const& expression = result.expr;
             if (expression->tag() == AxlObj::Tag::Eof)
             {
                 AxDiagnostic empty = diagnostic(AxSeverity::Error, "empty-text", expression.get(),
@@ -348,9 +352,11 @@ bool AxReaderWriter::readText(std::string_view text, AxFilename const& sourceNam
                 AxDiagnostics::report(std::move(empty));
                 return false;
             }
+            result.reportUnclosed();
+            unclosed = result.unclosed;
             getSelf(expression, files, bindings);
         }
-        if (reader.unclosed())
+        if (unclosed || reader.unclosed())
         {
             setFlag(Invalid, true);
         }

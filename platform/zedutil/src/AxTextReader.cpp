@@ -170,6 +170,10 @@ AxlObjPtr AxTextReader::cellsAt(char const* from)
     options.closeOpenLists = true;
     AxlReadResult const result = AxcRead(myStream, AxlEnv(), options);
     myAt = myBegin + myStream.position();
+    if (result.stringLine != 0)
+    {
+        throw result.fault(); // as for a string that is read without cells
+    }
     myUnclosed = myUnclosed || result.unclosed;
     result.reportUnclosed();
     return result.expr;
