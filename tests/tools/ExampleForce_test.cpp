@@ -185,7 +185,7 @@ TEST_F(ExampleForce, EachKindOfRecordAppearsAndEachSubordinateHasAnEntry)
 
 TEST_F(ExampleForce, ComesBackEqualFromASave)
 {
-    fs::path const copy = fs::path(testing::TempDir()) / "example-force-copy";
+    fs::path const copy = fs::path(ZEDOBJPARAM_BINARY_DIR) / "example-force-copy"; // one for each checkout
     fs::remove_all(copy);
     fs::copy(theForce, copy, fs::copy_options::recursive);
     std::unique_ptr<AxSxpParameterDb> const original = loadAll((copy / "force.opd").string());
