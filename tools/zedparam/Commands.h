@@ -24,3 +24,4 @@ void addTypesCommand(CLI::App& app, int& exitCode);
 void addExplainCommand(CLI::App& app, int& exitCode);
 void addModelsCommand(CLI::App& app, int& exitCode);
 void addConvertCommand(CLI::App& app, int& exitCode);
+void addProbabilityCommand(CLI::App& app, int& exitCode);

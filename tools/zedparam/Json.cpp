@@ -1,7 +1,10 @@
 #include "Json.h"
 
+#include <cmath>
 #include <cstdio>
 #include <utility>
+
+#include "AxNumberText.h"
 
 namespace
 {
@@ -78,6 +81,13 @@ JsonWriter& JsonWriter::number(std::string_view spelling)
     separate();
     myText += spelling;
     return *this;
+}
+
+JsonWriter& JsonWriter::real(double value)
+{
+    std::string text;
+    axAppendReal(text, value);
+    return std::isfinite(value) ? number(text) : string(text);
 }
 
 std::string const& JsonWriter::text()

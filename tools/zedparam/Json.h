@@ -20,6 +20,8 @@ public:
     JsonWriter& integer(long long value) { return number(std::to_string(value)); }
     /// `spelling` is a number in decimal, with or without fraction and exponent.
     JsonWriter& number(std::string_view spelling);
+    /// As a string when it is infinite or no number.
+    JsonWriter& real(double value);
     JsonWriter& null() { return number("null"); }
     JsonWriter& boolean(bool value) { return number(value ? "true" : "false"); }
 

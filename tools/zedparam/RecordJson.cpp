@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -36,9 +35,7 @@ void writeNumber(JsonWriter& json, AxlObj const& cell)
         json.number(spelling.string());
         return;
     }
-    std::string text;
-    axAppendReal(text, cell.flonum());
-    std::isfinite(cell.flonum()) ? json.number(text) : json.string(text);
+    json.real(cell.flonum());
 }
 
 void writeCell(JsonWriter& json, AxlObj const& cell)

@@ -26,6 +26,8 @@ public:
     /// Without an expression, and without a report, when the file cannot be read.
     explicit Source(std::string const& file);
 
+    /// Nil when there is none.
+    AxlObj const& expression() const { return *myExpression; }
     /// What follows the last keyword. Of repeated keywords the last counts, as in reading.
     AxlObj const* value(std::vector<SourceStep> const& path) const;
     /// The first `$variable`, or string with `$(variable)` in it.

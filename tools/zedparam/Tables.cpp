@@ -14,21 +14,16 @@
 #include "Progress.h"
 #include "RowCheck.h"
 
-namespace
-{
 namespace fs = std::filesystem;
 
-/// False, after findings, when the file cannot be read.
-bool load(fs::path const& path, AxReaderWriter& table)
+bool loadTable(std::string const& path, AxReaderWriter& table)
 {
     AxReaderWriterFile file("table-file", nullptr);
     file.setContent(&table);
-    file.setFilename(AxFilename(path.string()));
+    file.setFilename(AxFilename(path));
     AxSourceScope const scope(file.filename());
     return file.load({}, {});
 }
-
-} // namespace
 
 std::vector<fs::path> tableFiles(Database const& database)
 {
@@ -59,23 +54,23 @@ std::size_t checkTables(std::vector<fs::path> const& files, Findings& findings)
         if (file.extension() == ".hit" || file.extension() == ".det")
         {
             AxRangeProbabilityTable table("table", nullptr);
-            loaded += load(file, table);
+            loaded += loadTable(file.string(), table);
             checkRows(file.string(), findings);
         }
         else if (file.extension() == ".asl")
         {
             AxAmmoSelectTable table("table", nullptr);
-            loaded += load(file, table);
+            loaded += loadTable(file.string(), table);
         }
         else if (file.extension() == ".frm")
         {
             AxFormation table("table", nullptr);
-            loaded += load(file, table);
+            loaded += loadTable(file.string(), table);
         }
         else if (file.extension() == ".dmg")
         {
             AxDmgSurfaceTable table("table", nullptr);
-            loaded += load(file, table);
+            loaded += loadTable(file.string(), table);
             checkRows(file.string(), findings);
         }
         progress.step();

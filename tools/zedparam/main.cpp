@@ -52,6 +52,7 @@ int run(int argc, char** argv)
     addExplainCommand(app, exitCode);
     addModelsCommand(app, exitCode);
     addConvertCommand(app, exitCode);
+    addProbabilityCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {

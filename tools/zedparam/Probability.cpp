@@ -1,0 +1,231 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <memory>
+#include <numbers>
+#include <string>
+
+#include "AxNumberText.h"
+#include "Findings.h"
+#include "Json.h"
+#include "RecordJson.h"
+#include "ShownPath.h"
+#include "TableFile.h"
+#include "TableQuery.h"
+#include "TypeArgument.h"
+
+namespace
+{
+struct Options
+{
+    std::string file;
+    std::string table;
+    std::string type;
+    std::string munition;
+    std::string surface;
+    std::string angle;
+    std::string range;
+    bool isCollateral = false;
+    bool json = false;
+};
+
+struct Unit
+{
+    std::string_view name;
+    double size;
+};
+
+/// Reads a number with a unit behind it or without, which is the first of `units`; false after a line.
+template <std::size_t count>
+bool readQuantity(char const* option, std::string const& text, Unit const (&units)[count], double& out)
+{
+    double number = 0.0;
+    std::size_t const end = std::min(text.find_first_not_of("0123456789.eE+-"), text.size());
+    std::string_view const digits(text.data(), end);
+    std::string_view const name = std::string_view(text).substr(end);
+    for (Unit const& unit : units)
+    {
+        if ((name == unit.name || (name.empty() && &unit == units)) && axParseReal(digits, number) && number >= 0.0)
+        {
+            out = number * unit.size;
+            return true;
+        }
+    }
+    std::fprintf(stderr, "zedparam: %s \"%s\": expected a number, 0 or more, in", option, text.c_str());
+    for (Unit const& unit : units)
+    {
+        std::fprintf(stderr, "%s%s", &unit == units ? " " : " or ", std::string(unit.name).c_str());
+    }
+    std::fprintf(stderr, ", such as 1.5%s\n", std::string(units[count - 1].name).c_str());
+    return false;
+}
+
+bool readMunition(std::string const& text, AxSimMunition& munition)
+{
+    AxObjectType type;
+    if (AxObjectType::fromString(text, type))
+    {
+        munition.setMunitionType(type);
+        return true;
+    }
+    if (text.find(':') != std::string::npos)
+    {
+        TypeArgument ignored;
+        return readType(text, ignored);
+    }
+    munition.setMunitionName(text);
+    return true;
+}
+
+/// False after a line.
+bool readQuestion(Options const& options, TableQuestion& question)
+{
+    constexpr Unit theLengths[] = {{"m", 1.0}, {"km", 1000.0}};
+    constexpr Unit theAngles[] = {{"deg", 1.0}, {"rad", 180.0 / std::numbers::pi}};
+    TypeArgument type;
+    if (!options.type.empty())
+    {
+        if (!readType(options.type, type))
+        {
+            return false;
+        }
+        question.type = type.type.entityType();
+    }
+    if (!options.munition.empty() && !readMunition(options.munition, question.munition.emplace()))
+    {
+        return false;
+    }
+    if (!options.surface.empty())
+    {
+        question.surface = options.surface;
+    }
+    question.isCollateral = options.isCollateral;
+    return (options.angle.empty() || readQuantity("--angle", options.angle, theAngles, question.angle.emplace())) &&
+           (options.range.empty() || readQuantity("--range", options.range, theLengths, question.range.emplace()));
+}
+
+void printText(TableAnswer const& answer)
+{
+    for (TableStep const& step : answer.steps)
+    {
+        std::string text = step.value;
+        text.append(step.match.empty() ? "" : " (" + step.match + ")")
+            .append(step.words.empty() ? "" : ", " + step.words);
+        std::printf("%-10s%s  [%s:%u:%u]\n", step.part.c_str(), text.c_str(), shownPath(step.file).c_str(), step.line,
+                    step.column);
+    }
+    for (AxRwReal const* outcome : answer.outcomes)
+    {
+        std::string value;
+        axAppendReal(value, outcome->value());
+        std::printf("%-20s%s\n", outcome->name().c_str(), value.c_str());
+    }
+    for (AxSimMunition const* munition : answer.munitions)
+    {
+        std::printf("munition  %s  %s\n", munition->munitionType().string().c_str(), munition->munitionName().c_str());
+    }
+    if (answer.priority)
+    {
+        std::printf("priority  %d\n", *answer.priority);
+    }
+}
+void printJson(TableFile const& table, TableAnswer& answer)
+{
+    JsonWriter json;
+    json.beginObject().member("file", shownPath(table.file())).member("table", table.name());
+    json.key("answers").boolean(answer.miss.empty());
+    for (TableStep const& step : answer.steps)
+    {
+        json.key(step.part).beginObject().member("value", step.value);
+        if (!step.match.empty())
+        {
+            json.member("match", step.match);
+        }
+        for (auto const& [name, value] : step.numbers)
+        {
+            json.key(name).real(value);
+        }
+        json.member("file", shownPath(step.file));
+        json.key("line").integer(step.line).key("column").integer(step.column).endObject();
+    }
+    if (!answer.miss.empty())
+    {
+        json.member("miss", answer.miss);
+    }
+    else if (table.kind() == TableKind::Ammunition)
+    {
+        json.key("munitions");
+        writeJson(json, answer.munitions, false);
+    }
+    else if (answer.priority)
+    {
+        json.key("priority").integer(*answer.priority);
+    }
+    else
+    {
+        json.key("outcomes").beginObject();
+        for (AxRwReal const* outcome : answer.outcomes)
+        {
+            json.key(outcome->name().view()).real(outcome->value());
+        }
+        json.endObject();
+    }
+    json.endObject().print();
+}
+
+int probability(Options const& options)
+{
+    Findings findings(Findings::Print::AtOnce);
+    TableQuestion question;
+    if (!readQuestion(options, question))
+    {
+        return CouldNotRun;
+    }
+    std::unique_ptr<TableFile> const table = TableFile::open(options.file, options.table);
+    if (table == nullptr)
+    {
+        return CouldNotRun;
+    }
+    std::string const missing = missingOptions(table->kind(), question);
+    std::string const idle = idleOptions(table->kind(), question);
+    if (!missing.empty() || !idle.empty())
+    {
+        std::fprintf(stderr, "zedparam: %s holds %s, which %s %s\n", options.file.c_str(), nameOf(table->kind()),
+                     missing.empty() ? "has no use for" : "also needs",
+                     missing.empty() ? idle.c_str() : missing.c_str());
+        return CouldNotRun;
+    }
+    TableAnswer answer = askTable(*table, question);
+    options.json ? printJson(*table, answer) : printText(answer);
+    if (!answer.miss.empty() && !options.json)
+    {
+        std::fprintf(stderr, "zedparam: %s: %s\n", options.file.c_str(), answer.miss.c_str());
+    }
+    return answer.miss.empty() && findings.empty() ? Fine : HasFindings;
+}
+} // namespace
+
+void addProbabilityCommand(CLI::App& app, int& exitCode)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App* command = app.add_subcommand("probability", "Asks a table as the engine does, and shows what answers.");
+    command
+        ->add_option("FILE", options->file,
+                     "A table file (.hit, .det, .dmg, .asl), or a record or system with a table inside")
+        ->required();
+    command->add_option("--table", options->table, "Which table of the file, by its keyword, when there are several");
+    command->add_option("--type", options->type,
+                        "Object type of the target; for hit, detection and ammunition tables and target priorities");
+    command->add_option("--range", options->range,
+                        "Distance in m, or with a unit (1.2km); for damage tables that of the miss");
+    command->add_option("--angle", options->angle,
+                        "Angle of incidence in degrees, or with a unit (25deg, 0.44rad); for damage tables");
+    command->add_option("--surface", options->surface, "Surface that is hit, such as front; for damage tables");
+    command->add_option("--munition", options->munition,
+                        "Type or name of the munition; for munition tables, which name damage tables");
+    command->add_flag("--collateral", options->isCollateral,
+                      "Ask what a detonation nearby does, rather than a hit; for munition tables");
+    command->add_flag("--json", options->json, "Print JSON");
+    command->callback([options, &exitCode] { exitCode = probability(*options); });
+}
