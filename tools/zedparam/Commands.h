@@ -25,3 +25,4 @@ void addExplainCommand(CLI::App& app, int& exitCode);
 void addModelsCommand(CLI::App& app, int& exitCode);
 void addConvertCommand(CLI::App& app, int& exitCode);
 void addProbabilityCommand(CLI::App& app, int& exitCode);
+void addPlotCommand(CLI::App& app, int& exitCode);

@@ -11,7 +11,6 @@
 
 #include "AxEnvXMLWriter.h"
 #include "AxReadWholeFile.h"
-#include "AxReplaceFile.h"
 #include "AxRwVariableBindings.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
@@ -22,6 +21,7 @@
 #include "Findings.h"
 #include "Json.h"
 #include "RecordJson.h"
+#include "WriteFile.h"
 
 namespace
 {
@@ -181,7 +181,6 @@ int convertRecords(Options const& options)
     std::string const text = options.form == "ope"    ? records.front()->writtenText()
                              : options.form == "json" ? asJson(records)
                                                       : asEntities(records);
-    int error = 0;
     if (text.empty())
     {
         return CouldNotRun;
@@ -190,9 +189,8 @@ int convertRecords(Options const& options)
     {
         std::fputs(text.c_str(), stdout);
     }
-    else if (!axReplaceFile(AxFilename(options.output), text, error))
+    else if (!writeFile(options.output, text))
     {
-        std::fprintf(stderr, "zedparam: cannot write \"%s\": %s\n", options.output.c_str(), std::strerror(error));
         return CouldNotRun;
     }
     return findings.empty() ? Fine : HasFindings;

@@ -53,6 +53,7 @@ int run(int argc, char** argv)
     addModelsCommand(app, exitCode);
     addConvertCommand(app, exitCode);
     addProbabilityCommand(app, exitCode);
+    addPlotCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {

@@ -1,0 +1,109 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unistd.h>
+#include <vector>
+
+#include "Findings.h"
+#include "Plot.h"
+#include "PlotSvg.h"
+#include "PlotText.h"
+#include "TableFile.h"
+#include "WriteFile.h"
+
+namespace
+{
+struct Options
+{
+    std::vector<std::string> files;
+    std::string table;
+    std::string output;
+    std::string style = "auto";
+};
+
+/// Whether the locale of the environment writes UTF-8.
+bool isUtf8Locale()
+{
+    for (char const* name : {"LC_ALL", "LC_CTYPE", "LANG"})
+    {
+        char const* const value = std::getenv(name);
+        if (value != nullptr && *value != '\0')
+        {
+            std::string_view const locale(value);
+            return locale.find("UTF-8") != std::string_view::npos || locale.find("utf8") != std::string_view::npos;
+        }
+    }
+    return false;
+}
+
+PlotStyle styleFor(std::string const& wish)
+{
+    bool const isTerminal = isatty(STDOUT_FILENO) != 0;
+    if (wish == "plain" || (wish == "auto" && !(isTerminal && isUtf8Locale())))
+    {
+        return PlotStyle::Plain;
+    }
+    char const* const noColour = std::getenv("NO_COLOR");
+    bool const mayColour = noColour == nullptr || *noColour == '\0';
+    return isTerminal && mayColour ? PlotStyle::Coloured : PlotStyle::Unicode;
+}
+
+int plot(Options const& options)
+{
+    Findings findings(Findings::Print::AtOnce);
+    std::vector<std::unique_ptr<TableFile>> tables;
+    for (std::string const& file : options.files)
+    {
+        tables.push_back(TableFile::open(file, options.table));
+        if (tables.back() == nullptr)
+        {
+            return CouldNotRun;
+        }
+    }
+    Plot const drawing = makePlot(tables);
+    if (drawing.panels.empty())
+    {
+        std::fprintf(stderr,
+                     "zedparam: %s holds no probabilities by range; expected a hit, detection or damage table\n",
+                     options.files.front().c_str());
+        return CouldNotRun;
+    }
+    if (!options.output.empty())
+    {
+        if (!writeFile(options.output, plotSvg(drawing, true)))
+        {
+            return CouldNotRun;
+        }
+    }
+    else
+    {
+        std::fputs(plotText(drawing, styleFor(options.style)).c_str(), stdout);
+    }
+    return findings.empty() ? Fine : HasFindings;
+}
+} // namespace
+
+void addPlotCommand(CLI::App& app, int& exitCode)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App* command =
+        app.add_subcommand("plot", "Draws the probabilities of a table by range, or of two of its versions.");
+    command
+        ->add_option("FILE", options->files,
+                     "A hit, detection or damage table (.hit, .det, .dmg), or a file with one inside; two: one drawing "
+                     "of both")
+        ->required()
+        ->expected(1, 2);
+    command->add_option("--table", options->table, "Which table of the file, by its keyword, when there are several");
+    command->add_option("-o,--output", options->output, "Write an SVG file instead of drawing in characters");
+    command
+        ->add_option("--style", options->style,
+                     "plain (ASCII), unicode, or auto: unicode on a terminal that has it, else plain")
+        ->check(CLI::IsMember({"auto", "plain", "unicode"}));
+    command->callback([options, &exitCode] { exitCode = plot(*options); });
+}
