@@ -26,3 +26,4 @@ void addModelsCommand(CLI::App& app, int& exitCode);
 void addConvertCommand(CLI::App& app, int& exitCode);
 void addProbabilityCommand(CLI::App& app, int& exitCode);
 void addPlotCommand(CLI::App& app, int& exitCode);
+void addGraphCommand(CLI::App& app, int& exitCode);

@@ -54,6 +54,7 @@ int run(int argc, char** argv)
     addConvertCommand(app, exitCode);
     addProbabilityCommand(app, exitCode);
     addPlotCommand(app, exitCode);
+    addGraphCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {
