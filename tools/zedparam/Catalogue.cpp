@@ -61,17 +61,6 @@ std::string defaultOf(AxReaderWriter const& member)
     return start < end ? text.substr(start + 1, end - start - 1) : std::string();
 }
 
-/// An element as the list itself makes it; null when it needs to be told a type, or for elements that are values.
-AxReaderWriter* addedElement(AxRwList& list)
-{
-    if (dynamic_cast<AxComponentDescriptorList*>(&list) == nullptr)
-    {
-        list.readText("(list (element))", AxFilename("element"), AxReaderWriter::nullFilenames(),
-                      AxReaderWriter::nullVariableReference());
-    }
-    return list.firstElement();
-}
-
 void addKeywords(TypeInfo& type, AxReaderWriter& rw, std::string const& path, TypeNames const& names, int depth)
 {
     AxReaderWriterRegistry const* registry = rw.registryIfAny();
@@ -107,7 +96,7 @@ void addKeywords(TypeInfo& type, AxReaderWriter& rw, std::string const& path, Ty
         {
             addKeywords(type, member, inside, names, depth + 1);
             auto* const list = dynamic_cast<AxRwList*>(&member);
-            if (AxReaderWriter* const element = list != nullptr ? addedElement(*list) : nullptr)
+            if (AxReaderWriter* const element = list != nullptr ? sampleElement(*list) : nullptr)
             {
                 addKeywords(type, *element, inside, names, depth + 1);
             }
@@ -153,6 +142,16 @@ std::vector<TypeInfo> makeTypes()
     return types;
 }
 } // namespace
+
+AxReaderWriter* sampleElement(AxRwList& list)
+{
+    if (dynamic_cast<AxComponentDescriptorList*>(&list) == nullptr)
+    {
+        list.readText("(list (element))", AxFilename("element"), AxReaderWriter::nullFilenames(),
+                      AxReaderWriter::nullVariableReference());
+    }
+    return list.firstElement();
+}
 
 std::string KeywordInfo::valueText() const
 {

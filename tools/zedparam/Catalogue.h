@@ -6,6 +6,8 @@
 
 #include "AxKeyword.h"
 
+class AxReaderWriter;
+class AxRwList;
 class JsonWriter;
 
 /// What there is to know of one keyword of one type.
@@ -39,6 +41,10 @@ struct TypeInfo
 
 /// Every type that the factories know, records first.
 std::vector<TypeInfo> const& knownTypes();
+
+/// A first element of a list, as the list itself makes it; null when it needs to be told a type, or for elements that
+/// are values.
+AxReaderWriter* sampleElement(AxRwList& list);
 
 /// The object members "kind" to "from", into an object that was begun.
 void writeKeyword(JsonWriter& json, KeywordInfo const& keyword);

@@ -24,6 +24,7 @@ void addTypesCommand(CLI::App& app, int& exitCode);
 void addExplainCommand(CLI::App& app, int& exitCode);
 void addModelsCommand(CLI::App& app, int& exitCode);
 void addConvertCommand(CLI::App& app, int& exitCode);
+void addSchemaCommand(CLI::App& app, int& exitCode);
 void addProbabilityCommand(CLI::App& app, int& exitCode);
 void addPlotCommand(CLI::App& app, int& exitCode);
 void addGraphCommand(CLI::App& app, int& exitCode);

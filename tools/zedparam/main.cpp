@@ -52,6 +52,7 @@ int run(int argc, char** argv)
     addExplainCommand(app, exitCode);
     addModelsCommand(app, exitCode);
     addConvertCommand(app, exitCode);
+    addSchemaCommand(app, exitCode);
     addProbabilityCommand(app, exitCode);
     addPlotCommand(app, exitCode);
     addGraphCommand(app, exitCode);
