@@ -1,11 +1,9 @@
 #include "TextTree.h"
 
-#include "AxFilename.h"
-#include "AxReadWholeFile.h"
 #include "AxlFunctions.h"
+#include "ExampleTexts.h"
 
 #include <chrono>
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -13,8 +11,6 @@
 
 namespace
 {
-namespace fs = std::filesystem;
-
 std::string at(unsigned line, unsigned column)
 {
     return " " + std::to_string(line) + ":" + std::to_string(column) + "\n";
@@ -99,29 +95,15 @@ void expectAgreement(std::string const& text)
     ASSERT_EQ(end, text.size()) << text;
 }
 
-std::vector<std::string> exampleTexts()
-{
-    std::vector<std::string> texts;
-    for (fs::directory_entry const& file : fs::recursive_directory_iterator(ZEDOBJPARAM_SOURCE_DIR "/examples/force"))
-    {
-        std::string text;
-        int error = 0;
-        if (file.is_regular_file() && axReadWholeFile(AxFilename(file.path().string()), text, error))
-        {
-            texts.push_back(std::move(text));
-        }
-    }
-    return texts;
-}
 } // namespace
 
 TEST(TextTree, AgreesWithTheReaderOnEveryExample)
 {
-    std::vector<std::string> const texts = exampleTexts();
-    EXPECT_GT(texts.size(), 100U);
-    for (std::string const& text : texts)
+    std::vector<ExampleText> const examples = exampleTexts();
+    EXPECT_GT(examples.size(), 100U);
+    for (ExampleText const& example : examples)
     {
-        expectAgreement(text);
+        expectAgreement(example.text);
     }
 }
 
@@ -160,7 +142,7 @@ TEST(TextTree, AgreesWithTheReaderOnMutatedTexts)
                                                25);
     std::mt19937 random(20);
     auto const below = [&random](std::size_t limit) { return random() % std::max<std::size_t>(limit, 1); };
-    for (std::string const& example : exampleTexts())
+    for (auto const& [file, example] : exampleTexts())
     {
         for (int round = 0; round < 20; ++round)
         {

@@ -11,7 +11,6 @@
 
 #include "AxEnvXMLWriter.h"
 #include "AxReadWholeFile.h"
-#include "AxRwVariableBindings.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
 #include "AxlFunctions.h"
@@ -20,6 +19,7 @@
 #include "Database.h"
 #include "Findings.h"
 #include "Json.h"
+#include "ReadContext.h"
 #include "RecordJson.h"
 #include "WriteFile.h"
 
@@ -38,30 +38,7 @@ struct Options
 
 using Records = std::vector<std::unique_ptr<AxZedObjectParameters>>;
 
-/// What a record file may refer to: files beside it, and what its database binds.
-struct Context
-{
-    Context(std::string const& file, Database const& database)
-    {
-        files.push_back(AxFilename(fs::absolute(file).parent_path().string()));
-        for (auto const& set : database.variableBindings())
-        {
-            bindings.push_back(set.get());
-        }
-        if (!database.directory().empty())
-        {
-            std::string const directory = fs::absolute(database.directory()).lexically_normal().string();
-            files.push_back(AxFilename(directory));
-            ofDatabase.setString("opd-dir", AxString(directory));
-            bindings.push_back(&ofDatabase);
-        }
-    }
-    AxFilenameList files{};
-    AxRwVariableBindings ofDatabase{"opd-variables"};
-    AxBindingsList bindings{};
-};
-
-Records readEntities(AxFilename const& file, std::string const& object, Context const& context)
+Records readEntities(AxFilename const& file, std::string const& object, ReadContext const& context)
 {
     Records records;
     AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
@@ -88,7 +65,7 @@ Records readEntities(AxFilename const& file, std::string const& object, Context 
     return records;
 }
 
-Records readText(AxFilename const& file, Database const& database, Context const& context)
+Records readText(AxFilename const& file, Database const& database, ReadContext const& context)
 {
     Records records;
     std::string text;
@@ -167,7 +144,7 @@ int convertRecords(Options const& options)
     }
     AxFilename const file(options.file);
     AxSourceScope const scope(file);
-    Context const context(options.file, *database);
+    ReadContext const context(options.file, *database);
     Records const records =
         file.extension() == "entity" ? readEntities(file, options.object, context) : readText(file, *database, context);
     if (records.empty() || (records.size() > 1 && options.form == "ope"))

@@ -44,6 +44,19 @@ std::vector<AxSxpParameterDbEntry*> Database::entries() const
     return result;
 }
 
+std::vector<AxSxpParameterDbEntry*> Database::entriesOf(std::filesystem::path const& file) const
+{
+    std::vector<AxSxpParameterDbEntry*> result = entries();
+    std::erase_if(result,
+                  [&file](AxSxpParameterDbEntry const* entry)
+                  {
+                      std::error_code ignored;
+                      return std::filesystem::path(entry->filename().native()).filename() != file.filename() ||
+                             !std::filesystem::equivalent(entry->foundFilename().native(), file, ignored);
+                  });
+    return result;
+}
+
 void Database::readRecords(std::string const& what) const
 {
     std::vector<AxSxpParameterDbEntry*> const all = entries();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,6 +18,8 @@ public:
     static std::unique_ptr<Database> openNone();
 
     std::vector<AxSxpParameterDbEntry*> entries() const;
+    /// The entries whose record is in the file.
+    std::vector<AxSxpParameterDbEntry*> entriesOf(std::filesystem::path const& file) const;
     /// Reads the record of each entry.
     void readRecords(std::string const& what) const;
     /// The record of one entry, read now if it was not yet; null after a finding.

@@ -1,6 +1,35 @@
 #include "RangeText.h"
 
+#include <cmath>
+
 #include "AxNumberText.h"
+#include "AxRwInt.h"
+#include "AxRwReal.h"
+#include "AxRwUnsigned.h"
+
+namespace
+{
+/// False for what is no number.
+bool numberIn(AxReaderWriter const& rw, double& value)
+{
+    if (auto const* real = dynamic_cast<AxRwReal const*>(&rw))
+    {
+        value = real->value();
+        return true;
+    }
+    if (auto const* integer = dynamic_cast<AxRwInt const*>(&rw))
+    {
+        value = integer->value();
+        return true;
+    }
+    if (auto const* number = dynamic_cast<AxRwUnsigned const*>(&rw))
+    {
+        value = number->value();
+        return true;
+    }
+    return false;
+}
+} // namespace
 
 std::string rangeText(AxRange const& range)
 {
@@ -19,4 +48,22 @@ std::string rangeText(AxRange const& range)
         axAppendReal(text, range.high);
     }
     return text;
+}
+
+std::string rangeFault(AxReaderWriter const& rw)
+{
+    AxKeyword const* const description = rw.description();
+    double value = 0.0;
+    if (description == nullptr || !numberIn(rw, value))
+    {
+        return {};
+    }
+    AxRange const& range = description->range;
+    if (!std::isnan(value) && (!range.isBounded() || range.contains(value)))
+    {
+        return {};
+    }
+    std::string text;
+    axAppendReal(text, value);
+    return text.append(", expected ").append(range.isBounded() ? rangeText(range) : "a number");
 }

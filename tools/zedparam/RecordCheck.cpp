@@ -1,19 +1,14 @@
 #include "RecordCheck.h"
 
 #include <algorithm>
-#include <cmath>
 #include <set>
 #include <utility>
 #include <vector>
 
-#include "AxNumberText.h"
 #include "AxPrbRangeList.h"
 #include "AxReaderWriterFile.h"
-#include "AxRwInt.h"
 #include "AxRwList.h"
 #include "AxRwProperty.h"
-#include "AxRwReal.h"
-#include "AxRwUnsigned.h"
 #include "AxZedObjectParameters.h"
 #include "ElementSource.h"
 #include "Findings.h"
@@ -31,27 +26,6 @@ AxDiagnostic warning(char const* code, std::string file, std::string text)
     finding.file = std::move(file);
     finding.text = std::move(text);
     return finding;
-}
-
-/// False for what is no number.
-bool numberIn(AxReaderWriter const& rw, double& value)
-{
-    if (auto const* real = dynamic_cast<AxRwReal const*>(&rw))
-    {
-        value = real->value();
-        return true;
-    }
-    if (auto const* integer = dynamic_cast<AxRwInt const*>(&rw))
-    {
-        value = integer->value();
-        return true;
-    }
-    if (auto const* number = dynamic_cast<AxRwUnsigned const*>(&rw))
-    {
-        value = number->value();
-        return true;
-    }
-    return false;
 }
 
 std::string placeOf(AxReaderWriter const& rw)
@@ -165,18 +139,9 @@ private:
 
     void checkRange(AxReaderWriter const& rw)
     {
-        AxKeyword const* const description = rw.description();
-        double value = 0.0;
-        if (description == nullptr || !rw.valueSpecified() || !numberIn(rw, value))
+        if (std::string const fault = rw.valueSpecified() ? rangeFault(rw) : std::string(); !fault.empty())
         {
-            return;
-        }
-        if (std::isnan(value) || (description->range.isBounded() && !description->range.contains(value)))
-        {
-            std::string text = placeOf(rw) + " is ";
-            axAppendReal(text, value);
-            AxDiagnostic finding =
-                warning("out-of-range", myFiles[myFile], text + ", expected " + rangeText(description->range));
+            AxDiagnostic finding = warning("out-of-range", myFiles[myFile], placeOf(rw) + " is " + fault);
             if (myFile == 0 && myElement)
             {
                 setPlace(finding, ElementSource(myElement).value(myPath));

@@ -56,6 +56,9 @@ int run(int argc, char** argv)
     addProbabilityCommand(app, exitCode);
     addPlotCommand(app, exitCode);
     addGraphCommand(app, exitCode);
+    addSetCommand(app, exitCode);
+    addUnsetCommand(app, exitCode);
+    addFmtCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "AxDiagnostic.h"
+
+/// Changes single values of a file and leaves every other byte as it is. A change is refused, with `fault` and the text
+/// as it was, that the library would not read, or that would lose a comment or anything else.
+class FileEditor
+{
+public:
+    FileEditor(FileEditor const&) = delete;
+    FileEditor& operator=(FileEditor const&) = delete;
+    virtual ~FileEditor() = default;
+
+    /// Gives the item at the end of the path, such as "sensors/radar/detection-period", another value. One that is not
+    /// there yet is inserted where the library would write it, in the layout of its neighbours. A value for a text
+    /// needs no quotes.
+    virtual bool set(std::string const& path, std::string const& value) = 0;
+    /// Takes the item at the end of the path out, with its line when it has one for itself.
+    virtual bool unset(std::string const& path) = 0;
+
+    std::string const& text() const { return myText; }
+    AxDiagnostic const& fault() const { return myFault; }
+    /// One line for each change, such as "m1a2.ope:83:3: (mass 5.0) -> (mass 6.0)".
+    std::vector<std::string> const& changes() const { return myChanges; }
+
+protected:
+    FileEditor(std::string file, std::string text, bool force)
+        : myText(std::move(text)), myFile(std::move(file)), myForce(force)
+    {
+    }
+
+    /// Answers false.
+    bool refuse(unsigned line, unsigned column, std::string code, std::string text, std::string hint = {})
+    {
+        myFault = {};
+        myFault.code = std::move(code);
+        myFault.file = myFile;
+        myFault.line = std::max(line, 1U);
+        myFault.column = std::max(column, 1U);
+        myFault.text = std::move(text);
+        myFault.hint = std::move(hint);
+        return false;
+    }
+    void note(unsigned line, unsigned column, std::string const& what)
+    {
+        myChanges.push_back(myFile + ":" + std::to_string(line) + ":" + std::to_string(column) + ": " + what);
+    }
+    std::string const& file() const { return myFile; }
+    /// Whether to let pass what the library does not know, or would find fault with.
+    bool force() const { return myForce; }
+
+    std::string myText;
+
+private:
+    std::string myFile;
+    bool myForce;
+    AxDiagnostic myFault;
+    std::vector<std::string> myChanges;
+};

@@ -1,0 +1,132 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "AxReadWholeFile.h"
+#include "Findings.h"
+#include "TextLayout.h"
+#include "UnifiedDiff.h"
+#include "WriteFile.h"
+#include "XmlLayout.h"
+
+namespace
+{
+struct Options
+{
+    std::vector<std::string> files;
+    bool check = false;
+    bool diff = false;
+};
+
+constexpr char const* theStandardInput = "-";
+
+bool readInput(std::string const& file, std::string& text)
+{
+    int error = 0;
+    if (file == theStandardInput)
+    {
+        text.assign(std::istreambuf_iterator<char>(std::cin), {});
+        return true;
+    }
+    if (!axReadWholeFile(AxFilename(file), text, error))
+    {
+        std::fprintf(stderr, "zedparam: cannot read \"%s\": %s\n", file.c_str(), std::strerror(error));
+        return false;
+    }
+    return true;
+}
+
+/// False, after a line that says why, when the file is not formatted.
+bool layOut(std::string const& file, std::string const& text, std::string& out)
+{
+    if (isXml(text))
+    {
+        Findings findings(Findings::Print::AtOnce);
+        std::string reason;
+        if (!laidOutXml(file, text, out, reason))
+        {
+            std::fprintf(stderr, "zedparam: \"%s\" is left as it is: %s\n", file.c_str(), reason.c_str());
+            return false;
+        }
+        return true;
+    }
+    TextTree const tree(text);
+    if (!tree.isReadable())
+    {
+        AxDiagnostic fault = tree.faults().front().diagnostic();
+        fault.file = file;
+        std::fprintf(stderr, "%s\n", fault.format().c_str());
+        return false;
+    }
+    TextReading reading(file);
+    out = laidOut(tree, reading);
+    if (!haveSameContent(tree, TextTree(out)))
+    {
+        std::fprintf(stderr, "zedparam: \"%s\" is left as it is: it would not read back the same\n", file.c_str());
+        return false;
+    }
+    return true;
+}
+
+int format(std::string const& file, Options const& options)
+{
+    std::string text;
+    std::string out;
+    if (!readInput(file, text) || !layOut(file, text, out))
+    {
+        return CouldNotRun;
+    }
+    bool const isReport = options.check || options.diff;
+    if (options.diff)
+    {
+        std::fputs(unifiedDiff(file, text, out).c_str(), stdout);
+    }
+    else if (options.check && out != text)
+    {
+        std::printf("%s is not formatted\n", file.c_str());
+    }
+    else if (!options.check && file == theStandardInput)
+    {
+        std::fwrite(out.data(), 1, out.size(), stdout);
+        return Fine;
+    }
+    if (isReport || out == text)
+    {
+        return isReport && out != text ? HasFindings : Fine;
+    }
+    if (!writeFile(file, out))
+    {
+        return CouldNotRun;
+    }
+    std::printf("formatted %s\n", file.c_str());
+    return Fine;
+}
+} // namespace
+
+void addFmtCommand(CLI::App& app, int& exitCode)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App* command =
+        app.add_subcommand("fmt", "Lays files out as the library writes them; comments and what is not known stay.");
+    command
+        ->add_option("FILE", options->files, "Parameter text or XML; - reads standard input and writes standard output")
+        ->required();
+    command->add_flag("--check", options->check, "Write nothing; name the files that would change");
+    command->add_flag("--diff", options->diff, "Write nothing; show what would change");
+    command->callback(
+        [options, &exitCode]
+        {
+            for (std::string const& file : options->files)
+            {
+                exitCode = std::max(exitCode, format(file, *options));
+            }
+        });
+}

@@ -1,0 +1,125 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "AxReadWholeFile.h"
+#include "TextEditor.h"
+#include "WriteFile.h"
+
+namespace
+{
+struct Options
+{
+    std::string file;
+    std::vector<std::string> edits;
+    std::string database;
+    bool force = false;
+    bool dryRun = false;
+};
+
+/// The editor of a file, and what it works with; without one after a line that says why.
+struct Opened
+{
+    std::unique_ptr<TextReading> reading;
+    std::unique_ptr<FileEditor> editor;
+};
+
+Opened open(Options const& options, std::string const& text)
+{
+    Opened opened;
+    TextTree const tree(text);
+    if (!tree.isReadable())
+    {
+        AxDiagnostic fault = tree.faults().front().diagnostic();
+        fault.file = options.file;
+        std::fprintf(stderr, "%s\n", fault.format().c_str());
+        return opened;
+    }
+    opened.reading = TextReading::open(options.file, options.database);
+    if (opened.reading != nullptr)
+    {
+        opened.editor = std::make_unique<TextEditor>(options.file, text, *opened.reading, options.force);
+    }
+    return opened;
+}
+
+/// All edits or none.
+int edit(Options const& options, bool (*apply)(FileEditor& editor, std::string const& edit))
+{
+    std::string text;
+    int error = 0;
+    if (!axReadWholeFile(AxFilename(options.file), text, error))
+    {
+        std::fprintf(stderr, "zedparam: cannot read \"%s\": %s\n", options.file.c_str(), std::strerror(error));
+        return CouldNotRun;
+    }
+    Opened const opened = open(options, text);
+    if (opened.editor == nullptr)
+    {
+        return CouldNotRun;
+    }
+    FileEditor& editor = *opened.editor;
+    for (std::string const& each : options.edits)
+    {
+        if (!apply(editor, each))
+        {
+            std::fprintf(stderr, "%s\n", editor.fault().format().c_str());
+            return CouldNotRun;
+        }
+    }
+    if (!options.dryRun && editor.text() != text && !writeFile(options.file, editor.text()))
+    {
+        return CouldNotRun;
+    }
+    for (std::string const& change : editor.changes())
+    {
+        std::printf("%s\n", change.c_str());
+    }
+    return Fine;
+}
+
+void addEditCommand(CLI::App& app, int& exitCode, char const* name, char const* help, char const* argument,
+                    char const* argumentHelp, bool (*apply)(FileEditor& editor, std::string const& edit),
+                    CLI::Validator const& validator)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App* command = app.add_subcommand(name, help);
+    command->add_option("FILE", options->file, "The file to change")->required();
+    command->add_option(argument, options->edits, argumentHelp)->required()->check(validator);
+    command->add_option("--database", options->database, "The database that binds the variables of a record file");
+    command->add_flag("--force", options->force, "Also change what is not known, or would be found fault with");
+    command->add_flag("--dry-run", options->dryRun, "Tell the changes, write nothing");
+    command->callback([options, apply, &exitCode] { exitCode = edit(*options, apply); });
+}
+} // namespace
+
+void addSetCommand(CLI::App& app, int& exitCode)
+{
+    CLI::Validator const isAssignment(
+        [](std::string const& edit)
+        { return edit.find('=') == std::string::npos ? "expected PATH=VALUE, found \"" + edit + "\"" : std::string(); },
+        "");
+    addEditCommand(
+        app, exitCode, "set", "Changes values in a file; every other byte stays as it is.", "PATH=VALUE",
+        "Such as max-speed=20.5 or systems/main-gun/reload-time=6.0; all are set, or none",
+        [](FileEditor& editor, std::string const& edit)
+        {
+            std::size_t const equals = edit.find('=');
+            return editor.set(edit.substr(0, equals), edit.substr(equals + 1));
+        },
+        isAssignment);
+}
+
+void addUnsetCommand(CLI::App& app, int& exitCode)
+{
+    addEditCommand(
+        app, exitCode, "unset", "Takes values out of a file; every other byte stays as it is.", "PATH",
+        "Such as max-speed or sensors/radar; all are taken out, or none",
+        [](FileEditor& editor, std::string const& edit) { return editor.unset(edit); },
+        CLI::Validator([](std::string const&) { return std::string(); }, ""));
+}

@@ -1,0 +1,361 @@
+#include "TextEditor.h"
+
+#include <algorithm>
+#include <list>
+#include <span>
+#include <tuple>
+#include <utility>
+
+#include "AxComponentSystemDescriptor.h"
+#include "AxNearest.h"
+#include "AxReaderWriterFile.h"
+#include "AxRwList.h"
+#include "AxRwString.h"
+#include "AxlPrint.h"
+#include "RangeText.h"
+#include "TextPlacement.h"
+
+namespace
+{
+using Kind = TextTree::Kind;
+
+/// Items that tell what a record is; they are read before there are members.
+constexpr std::string_view theLeadingItems[] = {
+    "parameter-type", "component-descriptor-type", "comm-model-descriptor-type", "object-type", "match-type",
+    "record-name"};
+
+bool isVariable(TextItem list)
+{
+    return list.parent().head() == "variable-bindings";
+}
+
+/// Whether a member holds items rather than one value.
+bool holdsItems(AxReaderWriter const& rw)
+{
+    AxReaderWriterRegistry const* const members = membersIn(&rw);
+    return !rw.isValue() &&
+           (dynamic_cast<AxRwList const*>(&rw) != nullptr || (members != nullptr && members->size() != 0));
+}
+
+/// Bytes of an item, cut short for a message.
+std::string shown(std::string_view source)
+{
+    constexpr std::size_t theLongest = 60;
+    std::string text(source.substr(0, source.find('\n')));
+    if (text.size() > theLongest || text.size() < source.size())
+    {
+        text.resize(std::min(text.size(), theLongest));
+        text += " ...";
+    }
+    return text;
+}
+
+/// What follows the keyword, as it will stand in the text; empty for what is no value.
+std::string valueText(std::string const& value, AxReaderWriter const* rw)
+{
+    TextTree const tree(value);
+    bool const isWhole = tree.root() && tree.faults().empty() && !holdsComment(tree, 0, value.size());
+    bool const isText =
+        dynamic_cast<AxRwString const*>(rw) != nullptr || dynamic_cast<AxReaderWriterFile const*>(rw) != nullptr;
+    bool const isQuoted = isWhole && (tree.root().isString() || value.starts_with('$')) && !tree.root().next();
+    if (isText && !isQuoted)
+    {
+        std::string quoted;
+        axAppendQuoted(quoted, value);
+        return quoted;
+    }
+    std::size_t const begin = value.find_first_not_of(" \t\r\n\f\v");
+    return isWhole ? value.substr(begin, value.find_last_not_of(" \t\r\n\f\v") + 1 - begin) : std::string();
+}
+
+/// Appends the texts of the tokens in a range of bytes, blanks left out.
+void appendSubstance(std::vector<std::string_view>& out, TextTree const& tree, std::size_t begin, std::size_t end)
+{
+    auto token = std::ranges::lower_bound(tree.tokens(), begin, {}, &TextTree::Token::begin);
+    for (; token != tree.tokens().end() && token->end <= end; ++token)
+    {
+        if (token->kind != Kind::Blank)
+        {
+            out.push_back(tree.textOf(*token));
+        }
+    }
+}
+
+/// The item and those behind it.
+std::vector<TextItem> itemsFrom(TextItem item)
+{
+    std::vector<TextItem> items;
+    for (; item; item = item.next())
+    {
+        items.push_back(item);
+    }
+    return items;
+}
+
+auto key(AxDiagnostic const& finding)
+{
+    return std::tie(finding.code, finding.text);
+}
+} // namespace
+
+TextEditor::TextEditor(std::string const& file, std::string text, TextReading& reading, bool force)
+    : FileEditor(file, std::move(text), force), myReading(reading)
+{
+    TextTree const tree(myText);
+    myReading.read(tree);
+    myKnownFindings = myReading.findings();
+}
+
+bool TextEditor::set(std::string const& path, std::string const& value)
+{
+    TextTree const tree(myText);
+    TextPath const place = TextPath::follow(path, tree, myReading);
+    if (!place.fault.empty())
+    {
+        return refuseAt(place.lists.empty() ? TextItem() : place.lists.back(), "no-path", place.fault);
+    }
+    return place.isWhole() ? replaceValue(tree, place, value) : insert(tree, place, value);
+}
+
+bool TextEditor::isKnown(TextPath const& path) const
+{
+    return path.rw != nullptr || isVariable(path.lists.back()) ||
+           std::ranges::find(theLeadingItems, path.lists.back().head()) != std::end(theLeadingItems);
+}
+
+bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::string const& value)
+{
+    TextItem const list = path.lists.back();
+    if (!isKnown(path) && !force())
+    {
+        return refuseUnknown(path, path.lists[path.lists.size() - 2], path.outer, path.names.back());
+    }
+    bool const namesFile = dynamic_cast<AxReaderWriterFile const*>(path.rw) != nullptr && !list.firstValue().isList();
+    if (path.rw != nullptr && !namesFile && holdsItems(*path.rw))
+    {
+        std::vector<std::string> const names = namesIn(list, path.rw);
+        return refuseAt(list, "no-value", "\"" + path.names.back() + "\" is not one value; name one that is in it",
+                        names.empty() ? std::string() : "such as \"" + path.names.back() + "/" + names.front() + "\"");
+    }
+    std::string const text = valueText(value, path.rw);
+    if (text.empty())
+    {
+        return refuseAt(list, "no-value", "\"" + value + "\" is no value");
+    }
+    if (path.rw != nullptr && !accepts(*path.rw, list.firstValue() ? list.firstValue() : list, list.head(), text))
+    {
+        return false;
+    }
+    TextTree const wanted(text);
+    std::vector<TextItem> const before = itemsFrom(list.firstValue());
+    std::vector<TextItem> const after = itemsFrom(wanted.root());
+    std::vector<Patch> patches;
+    if (before.size() == after.size())
+    {
+        for (std::size_t i = 0; i < before.size(); ++i)
+        {
+            if (before[i].source() != after[i].source())
+            {
+                patches.push_back({before[i].begin(), before[i].end(), std::string(after[i].source())});
+            }
+        }
+    }
+    else if (before.empty())
+    {
+        patches.push_back({list.firstChild().end(), list.firstChild().end(), " " + text});
+    }
+    else
+    {
+        patches.push_back({before.front().begin(), before.back().end(), text});
+    }
+    if (patches.empty())
+    {
+        return true;
+    }
+    std::string const old = shown(list.source());
+    TextTree::Place const at = list.place();
+    if (!apply(tree, patches))
+    {
+        return false;
+    }
+    TextTree const changed(myText);
+    note(at.line, at.column, old + " -> " + shown(changed.itemAt(changed.offset(at)).source()));
+    return true;
+}
+
+bool TextEditor::insert(TextTree const& tree, TextPath const& path, std::string const& value)
+{
+    TextItem const list = path.lists.back();
+    std::string const& keyword = path.missing();
+    std::span<std::string const> const names = std::span(path.names).subspan(path.lists.size() - 1);
+    bool const isBinding = names.size() == 2 && keyword == "variable-bindings" && list == tree.root();
+    bool isKnownKeyword = isBinding || (names.size() == 1 && list.head() == "variable-bindings");
+    AxReaderWriter* member = path.rw;
+    for (std::string const& name : names)
+    {
+        AxReaderWriterRegistry const* const members = isKnownKeyword ? nullptr : membersIn(member);
+        AxReaderWriter* const found = members != nullptr ? members->find(AxSymbolString(AxString(name))) : nullptr;
+        if (found == nullptr && !isKnownKeyword && !force())
+        {
+            return refuseUnknown(path, member == path.rw ? list : TextItem(), member, name);
+        }
+        member = found;
+    }
+    if (!list.isList())
+    {
+        return refuseAt(list, "no-list", "expected a list (name item...)");
+    }
+    if (member != nullptr && dynamic_cast<AxReaderWriterFile const*>(member) == nullptr && holdsItems(*member))
+    {
+        return refuseAt(list, "no-value", "\"" + names.back() + "\" is not one value; name one that is in it");
+    }
+    std::string const text = valueText(value, member);
+    if (text.empty())
+    {
+        return refuseAt(list, "no-value", "\"" + value + "\" is no value");
+    }
+    if (member != nullptr && !accepts(*member, list, names.back(), text))
+    {
+        return false;
+    }
+    std::string item;
+    for (std::string const& name : names)
+    {
+        item += '(';
+        axAppendName(item, AxSymbolString(AxString(name)));
+        item += ' ';
+    }
+    item.append(text).append(names.size(), ')');
+    TextPlacement const placement = TextPlacement::find(tree, list, keyword, membersIn(path.rw));
+    if (!apply(tree, {{placement.offset, placement.offset, placement.before + item + placement.behind}}))
+    {
+        return false;
+    }
+    TextTree::Place const at = TextTree(myText).place(placement.offset + placement.before.size());
+    note(at.line, at.column, "added " + shown(item));
+    return true;
+}
+
+bool TextEditor::unset(std::string const& path)
+{
+    TextTree const tree(myText);
+    TextPath const place = TextPath::follow(path, tree, myReading);
+    if (!place.fault.empty() || !place.isWhole())
+    {
+        TextItem const list = place.lists.empty() ? TextItem() : place.lists.back();
+        return place.fault.empty() ? refuseUnknown(place, list, nullptr, place.missing())
+                                   : refuseAt(list, "no-path", place.fault);
+    }
+    TextItem const list = place.lists.back();
+    if (holdsComment(tree, list.begin(), list.end()) && !force())
+    {
+        return refuseAt(list, "comment-lost", "a comment stands in \"" + place.names.back() + "\" and would be lost",
+                        "--force takes it out all the same");
+    }
+    std::string const old = shown(list.source());
+    TextTree::Place const at = list.place();
+    TextRemoval const removal = TextRemoval::find(tree, list);
+    if (!apply(tree, {{removal.begin, removal.end, {}}}))
+    {
+        return false;
+    }
+    note(at.line, at.column, "removed " + old);
+    return true;
+}
+
+/// Whether the member takes the value, and holds it to make sense.
+bool TextEditor::accepts(AxReaderWriter& member, TextItem place, std::string const& name, std::string const& value)
+{
+    std::string list = "(";
+    axAppendName(list, AxSymbolString(AxString(name)));
+    if (!myReading.readInto(member, list.append(" ").append(value).append(")")) && !force())
+    {
+        std::vector<AxDiagnostic> const& findings = myReading.findings();
+        std::string text =
+            findings.empty() ? "\"" + value + "\" is no value of \"" + name + "\"" : findings.front().text;
+        return refuseAt(place, findings.empty() ? std::string("wrong-kind") : findings.front().code,
+                        text.substr(0, text.find("; ")));
+    }
+    if (std::string const fault = rangeFault(member); !fault.empty() && !member.isVariableReference() && !force())
+    {
+        return refuseAt(place, "out-of-range", "\"" + name + "\" is " + fault, "--force sets it all the same");
+    }
+    return true;
+}
+
+bool TextEditor::apply(TextTree const& tree, std::vector<Patch> const& patches)
+{
+    std::string text;
+    std::vector<std::string_view> expected;
+    std::size_t at = 0;
+    bool losesComment = false;
+    std::list<TextTree> inserted;
+    for (Patch const& patch : patches)
+    {
+        text.append(myText, at, patch.begin - at).append(patch.bytes);
+        appendSubstance(expected, tree, at, patch.begin);
+        appendSubstance(expected, inserted.emplace_back(patch.bytes), 0, patch.bytes.size());
+        losesComment = losesComment || (!patch.bytes.empty() && holdsComment(tree, patch.begin, patch.end));
+        at = patch.end;
+    }
+    text.append(myText, at);
+    appendSubstance(expected, tree, at, myText.size());
+
+    TextItem const place = tree.itemAt(patches.front().begin);
+    if (losesComment)
+    {
+        return refuseAt(place, "comment-lost", "a comment stands in the value and would be lost");
+    }
+    TextTree const changed(text);
+    std::vector<std::string_view> actual;
+    appendSubstance(actual, changed, 0, text.size());
+    if (actual != expected || (tree.isReadable() && !changed.isReadable()))
+    {
+        return refuseAt(place, "unreadable", "the change would alter what stands beside it");
+    }
+    bool const wasKnown = myReading.read(tree) != nullptr;
+    if (myReading.read(changed) == nullptr && wasKnown && !force())
+    {
+        std::vector<AxDiagnostic> const& findings = myReading.findings();
+        return refuseAt(place, "unreadable",
+                        findings.empty() ? "the library would no longer know what the file is" : findings.front().text);
+    }
+    for (AxDiagnostic const& finding : myReading.findings())
+    {
+        bool const isKnown = std::ranges::find(myKnownFindings, key(finding), key) != myKnownFindings.end();
+        if (!isKnown && !force())
+        {
+            return refuseAt(place, finding.code, finding.text, finding.hint);
+        }
+    }
+    myKnownFindings = myReading.findings();
+    myText = std::move(text);
+    return true;
+}
+
+bool TextEditor::refuseUnknown(TextPath const& path, TextItem list, AxReaderWriter const* rw, std::string const& name)
+{
+    std::string hint;
+    std::vector<std::string> const names = namesIn(list, rw);
+    std::vector<std::string_view> const known(names.begin(), names.end());
+    auto const* const system = dynamic_cast<AxComponentSystemDescriptor const*>(rw);
+    std::string_view const nearest = axNearest(name, known);
+    if (!nearest.empty() && nearest != name)
+    {
+        hint = "did you mean \"" + std::string(nearest) + "\"?";
+    }
+    else if (system != nullptr && system->systemDefinitionFile().foundFilename().isNull())
+    {
+        hint = "its definition file was not read; --database names the database that binds its variables";
+    }
+    bool const isThere = path.isWhole();
+    std::string const owner = list.head().empty() && rw != nullptr ? rw->name().string().string() : list.head();
+    return refuseAt(path.lists.back(), "unknown-keyword",
+                    "\"" + owner + "\" " + (isThere ? "knows" : "has") + " no \"" + name + "\"", hint);
+}
+
+bool TextEditor::refuseAt(TextItem place, std::string code, std::string text, std::string hint)
+{
+    TextTree::Place const at = place.place();
+    return refuse(at.line, at.column, std::move(code), std::move(text), std::move(hint));
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "TextReading.h"
+#include "TextTree.h"
+
+/// How far a path such as "sensors/radar/detection-period" leads into a text. Each name is that of an item, of an
+/// element of a list, or the object type of an entry; of items that share a name `[2]` picks the second. Of repeated
+/// keywords the last counts, as in reading.
+struct TextPath
+{
+    std::vector<std::string> names;  ///< without `[2]`
+    std::vector<TextItem> lists;     ///< the file's own, then one for each name that leads on
+    AxReaderWriter* rw = nullptr;    ///< what reads the last of them; null when the library does not know it
+    AxReaderWriter* outer = nullptr; ///< what reads the one before
+    /// Why the path cannot be followed at all; empty when it can, or only names what is not there.
+    std::string fault;
+
+    bool isWhole() const { return lists.size() == names.size() + 1; }
+    std::string const& missing() const { return names[lists.size() - 1]; }
+
+    static TextPath follow(std::string_view path, TextTree const& tree, TextReading& reading);
+};
+
+/// The members that can stand in a list which `rw` reads; null when there are none.
+AxReaderWriterRegistry const* membersIn(AxReaderWriter const* rw);
+
+/// What can stand in a list: keywords of its members, then heads of the items that are there.
+std::vector<std::string> namesIn(TextItem list, AxReaderWriter const* rw);
