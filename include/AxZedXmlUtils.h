@@ -63,10 +63,16 @@ public:
     /// record shares the tree, has no object type yet, and is the caller's. Null after a report.
     static AxZedObjectParameters* createParameters(AxEnvironmentPtr const& env, AxEnvValuePtr const& element,
                                                    AxFilenameList const& files, AxBindingsList const& bindings);
-    /// Adds an object element for the record below `parent` (null: the root, which it becomes in an empty tree). Null
-    /// when `parent` cannot have children.
+    /// Adds an object element for the record below `parent` (null: the root, which it becomes in an empty tree), with
+    /// what stood besides in the element that the record was made of. Null when `parent` cannot have children.
     static AxEnvValuePtr addObject(AxEnvironmentPtr const& env, AxEnvValuePtr const& parent,
                                    AxZedObjectParameters const& record);
+
+    /// Keeps with a record that was made of an object element, as an item of its text, what that holds besides: the gui
+    /// information, further types, what is unknown. As text the record gives it back to `addObject`. Of the records of
+    /// a database, where `isOneOfMany`, further types are entries and the one of the object type keeps the rest, else
+    /// the one of the first match type.
+    static void keepOthers(AxZedObjectParameters& record, bool isOneOfMany);
 
     // ---- Model-set entries ----
     /// Reads the gui information of an object element, and its object type into the member "object-type". False when

@@ -6,6 +6,7 @@
 #include "AxTreeCells.h"
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
+#include "AxlSyntaxError.h"
 
 #include <boost/make_shared.hpp>
 
@@ -13,6 +14,7 @@ namespace
 {
 constexpr char const* theDefinition = "system-definition";
 constexpr char const* theTextType = "string";
+constexpr char const* theVariable = "variable";
 
 AxEnvObjectPtr newObject(AxString const& type, AxEnvValue const& place)
 {
@@ -21,38 +23,97 @@ AxEnvObjectPtr newObject(AxString const& type, AxEnvValue const& place)
     return object;
 }
 
-/// "(name value)" of a variable; null, after a report, when one of the two is missing.
-AxEnvObjectPtr itemOf(AxEnvObject const& variable)
+AxEnvObjectPtr textNode(std::string text, AxEnvValue const& place)
 {
-    AxString const* const value = variable.attribute("value");
-    if (!value || variable.name().isNull())
-    {
-        AxElement::report(variable, AxSeverity::Error, "incomplete-variable", "a variable has a name and a value");
-        return {};
-    }
-    AxString const* const type = variable.attribute("type");
-    std::string text = "(";
-    axAppendName(text, AxSymbolString(variable.name()));
-    text += ' ';
-    if (type && *type == theTextType)
-    {
-        axAppendQuoted(text, value->string());
-    }
-    else
-    {
-        text += value->string();
-    }
-    text += ')';
-    AxEnvObjectPtr const item = newObject(AxTreeCells::theTextTag, variable);
-    item->setName(variable.name());
+    AxEnvObjectPtr const item = newObject(AxTreeCells::theTextTag, place);
     item->add(boost::make_shared<AxEnvValue>(AxString(std::move(text))));
     return item;
 }
 
-void addVariableItems(AxEnvValuePtr const& element, AxEnvObject& record)
+/// The values of a variable as parameter text; empty, after a report, for what is none.
+std::string valuesOf(AxEnvObject const& variable)
 {
-    AxElement::forEach(AxElement::single(element, AxSystemElement::theVariablesTag), "variable",
-                       [&record](AxEnvObjectPtr const& variable) { record.add(itemOf(*variable)); });
+    AxString const* const value = variable.attribute("value");
+    AxString const* const type = variable.attribute("type");
+    std::string text;
+    if (value && type && *type == theTextType)
+    {
+        axAppendQuoted(text, value->string());
+        return text;
+    }
+    try
+    {
+        text = value ? axWrittenItems(AxTreeCells::parsed(value->string()).get()) : text;
+    }
+    catch (AxlSyntaxError const& error)
+    {
+        AxElement::report(variable, AxSeverity::Error, "unreadable-variable",
+                          "the value \"" + value->string() + "\" cannot be read: " + error.diagnostic().text);
+        return {};
+    }
+    if (text.empty())
+    {
+        AxElement::report(variable, AxSeverity::Error, "incomplete-variable", "a variable has a name and a value");
+    }
+    return text;
+}
+
+/// "(name value...)" of a variable; null, after a report, when one of the two is missing or cannot be read.
+AxEnvObjectPtr itemOf(AxEnvObject const& variable)
+{
+    if (variable.name().isNull())
+    {
+        AxElement::report(variable, AxSeverity::Error, "incomplete-variable", "a variable has a name and a value");
+        return {};
+    }
+    std::string const values = valuesOf(variable);
+    if (values.empty())
+    {
+        return {};
+    }
+    std::string text = "(";
+    axAppendName(text, AxSymbolString(variable.name()));
+    AxEnvObjectPtr const item = textNode(text + ' ' + values + ')', variable);
+    item->setName(variable.name());
+    return item;
+}
+
+/// The items of a set of variables. What is none becomes one as `keep` says.
+template <class Keep>
+void addVariableItems(AxEnvValuePtr const& element, AxEnvObject& record, Keep const& keep)
+{
+    AxEnvObjectPtr const variables = AxElement::single(element, AxSystemElement::theVariablesTag);
+    for (std::size_t i = 0; variables && i < variables->count(); ++i)
+    {
+        AxEnvValuePtr const& node = variables->children()[i];
+        AxEnvObjectPtr const child = node->castToObject();
+        if (child && child->type() == AxTreeCells::theTextTag)
+        {
+            record.add(AxXmlFragment::copyOf(*child));
+            continue;
+        }
+        bool const isVariable = child && child->type() == theVariable;
+        if (AxEnvObjectPtr const item = isVariable ? itemOf(*child) : AxEnvObjectPtr())
+        {
+            record.add(item);
+            continue;
+        }
+        if (!isVariable && !(child && child->isReserved()))
+        {
+            AxElement::report(*node, AxSeverity::Warning, "unknown-element",
+                              child ? "unknown element \"" + child->type().string() + '"'
+                                    : "unexpected text \"" + node->value().string() + '"');
+        }
+        record.add(textNode(AxTreeCells::xmlItem(AxXmlFragment::ofNode(*keep(node))), *node));
+    }
+}
+
+/// The node in an element for variables of its own, which goes with the others when it is written.
+AxEnvValuePtr inOwnElement(AxEnvValuePtr const& node)
+{
+    auto const variables = boost::make_shared<AxEnvObject>("variable-bindings", AxSystemElement::theVariablesTag);
+    variables->add(AxXmlFragment::copyOf(*node));
+    return variables;
 }
 
 /// Items that were not understood stand behind their neighbours, which are about to move: says which these are.
@@ -88,7 +149,7 @@ AxEnvObjectPtr AxSystemElement::recordOf(AxEnvObjectPtr const& system)
         AxEnvValuePtr const copy = record->setAttribute(attribute.name, attribute.value->value());
         copy->setPlace(attribute.value->line(), attribute.value->column());
     }
-    addVariableItems(system, *record);
+    addVariableItems(system, *record, inOwnElement);
     for (AxEnvValuePtr const& node : system->children())
     {
         AxEnvObjectPtr const child = node->castToObject();
@@ -125,6 +186,14 @@ void AxSystemElement::fromRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr con
         AxlObjPtr const written = AxTreeCells::parsed(entry.member->writtenText());
         addVariable(env, variables, keyword, written->car()->cdr());
     }
+    while (AxEnvObjectPtr const kept = AxElement::first(record, theVariablesTag))
+    {
+        while (kept->count() != 0)
+        {
+            variables->add(kept->children().front());
+        }
+        record->remove(kept);
+    }
     if (variables->count() != 0)
     {
         record->insert(0, variables);
@@ -149,14 +218,14 @@ AxEnvObjectPtr AxSystemElement::variableSetOf(AxEnvValuePtr const& element)
     }
     AxEnvObjectPtr const set = newObject(theVariablesTag, *variables);
     set->setName("variable-bindings");
-    addVariableItems(element, *set);
+    addVariableItems(element, *set, [](AxEnvValuePtr const& node) { return node; });
     return set;
 }
 
 void AxSystemElement::addVariable(AxEnvironmentPtr const& env, AxEnvObjectPtr const& variables, AxString const& name,
                                   AxlObj const* values)
 {
-    AxEnvObjectPtr const variable = env->addObject(name, "variable", variables);
+    AxEnvObjectPtr const variable = env->addObject(name, theVariable, variables);
     if (values->car()->isString() && values->cdr()->nil())
     {
         variable->setAttribute("value", AxString(values->car()->text()));
@@ -164,4 +233,15 @@ void AxSystemElement::addVariable(AxEnvironmentPtr const& env, AxEnvObjectPtr co
         return;
     }
     variable->setAttribute("value", AxString(axWrittenItems(values)));
+}
+
+void AxSystemElement::addKept(AxEnvironmentPtr const& env, AxEnvObjectPtr const& variables, std::string const& item)
+{
+    AxlObjPtr const cells = AxTreeCells::parsed(item);
+    AxlObj const* const content = cells->car()->cdr()->car();
+    bool const isXml = cells->car()->car()->text() == AxTreeCells::theXmlHead && content->isString();
+    if (!isXml || !AxXmlFragment::addTo(AxString(content->text()), *variables))
+    {
+        env->addValue(AxString(item), env->addUnnamedObject(AxTreeCells::theTextTag, variables));
+    }
 }

@@ -23,4 +23,6 @@ AxEnvObjectPtr variableSetOf(AxEnvValuePtr const& element);
 /// Adds the variable `(name value...)`.
 void addVariable(AxEnvironmentPtr const& env, AxEnvObjectPtr const& variables, AxString const& name,
                  AxlObj const* values);
+/// Adds an item of a set that is no variable: XML as it was, other text as text.
+void addKept(AxEnvironmentPtr const& env, AxEnvObjectPtr const& variables, std::string const& item);
 } // namespace AxSystemElement

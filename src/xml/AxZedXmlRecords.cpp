@@ -1,4 +1,5 @@
 #include "AxElement.h"
+#include "AxObjectElement.h"
 #include "AxRwVariableBindings.h"
 #include "AxSystemElement.h"
 #include "AxTreeCells.h"
@@ -6,6 +7,7 @@
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
 
+#include <algorithm>
 #include <exception>
 #include <memory>
 
@@ -81,40 +83,74 @@ void moveSystems(AxEnvironmentPtr const& env, AxEnvObjectPtr const& platform, Ax
     }
 }
 
+/// The last set of variables stands in an element of its own. Those in front of it, which win, stay items of text.
+void moveVariables(AxEnvironmentPtr const& env, AxEnvObject& platform)
+{
+    AxEnvObjectList sets;
+    for (AxEnvValuePtr const& node : platform.children())
+    {
+        AxEnvObjectPtr const child = node->castToObject();
+        if (child && child->type() == AxTreeCells::theTextTag && child->name() == theBindings)
+        {
+            sets.push_back(child);
+        }
+    }
+    if (!sets.empty())
+    {
+        env->remove(sets.back());
+    }
+}
+
+/// What stood beside the record in the element that it was made of, or that its text tells of.
+AxEnvObjectPtr takeOthers(AxEnvObject& platform, AxZedObjectParameters const& record)
+{
+    AxEnvObjectPtr others;
+    std::vector<AxEnvValuePtr> const children = platform.children();
+    for (AxEnvValuePtr const& node : children)
+    {
+        AxEnvObjectPtr const child = node->castToObject();
+        if (child && child->type() == AxObjectElement::theTag)
+        {
+            platform.remove(node);
+            others = child;
+        }
+    }
+    return others ? others : AxObjectElement::othersOf(record.objectNode());
+}
+
 void addRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr const& element, AxZedObjectParameters const& record)
 {
-    AxRwVariableBindings variables;
-    for (AxRwVariableBindings const* const set : record.variableBindingsFromLoad())
+    AxBindingsList const& sets = record.variableBindingsFromLoad();
+    if (!sets.empty())
     {
-        AxRwVariableBindings const known = variables;
-        variables.addAllFrom(*set);
-        variables.addAllFrom(known);
+        AxZedXmlUtils::writeVariableBindings(env, element, *sets.back());
     }
-    AxZedXmlUtils::writeVariableBindings(env, element, variables);
-    addType(env, element, "objectType", record.objectType());
+    addType(env, element, AxObjectElement::theTypeTag, record.objectType());
     if (!(record.matchType() == record.objectType()))
     {
-        addType(env, element, "matchType", record.matchType());
+        addType(env, element, AxObjectElement::theMatchTypeTag, record.matchType());
     }
     record.putSelf(env, element);
     AxEnvObjectPtr const platform = element->children().back()->castToObject();
-    platform->setType("platform");
+    platform->setType(AxObjectElement::thePlatformTag);
     if (!record.parameterType().isNull())
     {
         platform->setAttribute(theRecordType, record.parameterType());
     }
-    while (AxEnvObjectPtr const set = env->getObject(theBindings, AxTreeCells::theTextTag, platform))
-    {
-        platform->remove(set);
-    }
+    moveVariables(env, *platform);
+    AxEnvObjectPtr const others = takeOthers(*platform, record);
     moveSystems(env, platform, element, record.systemDescriptorList());
+    if (others)
+    {
+        AxObjectElement::addOthers(*element, *others);
+    }
 }
 } // namespace
 
 AxZedObjectParameters* AxZedXmlUtils::createParameters(AxEnvironmentPtr const& env, AxEnvValuePtr const& element,
                                                        AxFilenameList const& files, AxBindingsList const& bindings)
 {
-    AxEnvObjectPtr const platform = AxElement::single(element, "platform");
+    AxEnvObjectPtr const platform = AxElement::single(element, AxObjectElement::thePlatformTag);
     if (!platform)
     {
         if (element)
@@ -143,8 +179,10 @@ AxZedObjectParameters* AxZedXmlUtils::createParameters(AxEnvironmentPtr const& e
             record->setName(name);
         }
         record->getSelf(env, platform, files, known);
+        AxBindingsList const& own = record->variableBindingsFromLoad();
+        known.insert(known.begin(), own.begin(), own.end());
         readSystems(env, element, files, known, record->systemDescriptorList());
-        if (!variables.empty())
+        if (!variables.empty() || !variables.keptItems().empty())
         {
             record->addVariableBindingsFromLoad(variables);
         }
@@ -163,7 +201,7 @@ AxEnvValuePtr AxZedXmlUtils::addObject(AxEnvironmentPtr const& env, AxEnvValuePt
     try
     {
         AxEnvObjectPtr const element =
-            env ? env->addObject(record.AxReaderWriter::name().string(), AxString("simObject"), parent)
+            env ? env->addObject(record.AxReaderWriter::name().string(), AxString(AxObjectElement::theTag), parent)
                 : AxEnvObjectPtr();
         if (element)
         {
@@ -180,4 +218,32 @@ AxEnvValuePtr AxZedXmlUtils::addObject(AxEnvironmentPtr const& env, AxEnvValuePt
         AxDiagnostics::report(std::move(failure));
         return {};
     }
+}
+
+void AxZedXmlUtils::keepOthers(AxZedObjectParameters& record, bool isOneOfMany)
+{
+    AxEnvValuePtr const& element = record.objectNode();
+    AxEnvObjectPtr const others = AxObjectElement::othersOf(element);
+    bool const isKept = std::ranges::any_of(record.keptItems(), [](auto const& kept)
+                                            { return AxObjectElement::isOthersItem(kept.second); });
+    if (!others || isKept)
+    {
+        return;
+    }
+    if (isOneOfMany)
+    {
+        AxObjectType type = AxObjectElement::objectTypeOf(element, false);
+        if (type.isNull())
+        {
+            std::vector<AxObjectType> const types = AxObjectElement::matchTypesOf(element, false);
+            type = types.empty() ? type : types.front();
+        }
+        AxObjectElement::removeFurtherTypes(*others);
+        if (!(type == record.objectType()) || AxObjectElement::isEmpty(*others))
+        {
+            return;
+        }
+    }
+    AxReaderWriterRegistry const& members = *record.registry();
+    record.keepItem(members.entry(members.size() - 1).keyword, AxTreeCells::xmlItem(AxXmlFragment::ofNode(*others)));
 }

@@ -3,6 +3,7 @@
 #include "AxElement.h"
 #include "AxEnvXMLReader.h"
 #include "AxEnvXMLWriter.h"
+#include "AxObjectElement.h"
 #include "AxRwObjectType.h"
 #include "AxRwVariableBindings.h"
 #include "AxSystemElement.h"
@@ -11,54 +12,7 @@
 
 namespace
 {
-constexpr char const* theObjectTag = "simObject";
-constexpr char const* theTypeTag = "objectType";
-constexpr char const* theMatchTypeTag = "matchType";
-constexpr char const* theTypesTag = "objectTypes";
-constexpr char const* theGuiTag = "guiInformation";
-constexpr char const* theFurtherTypes = "additional-match-types";
-
-/// The type that an element gives; null when it gives none or, with a report if `reports`, one that cannot be read.
-AxObjectType typeOf(AxEnvObjectPtr const& element, bool reports)
-{
-    AxObjectType type;
-    AxString const text = AxElement::attribute(element, "value");
-    bool const isEmpty = text.string().find_first_not_of(" \t\r\n") == std::string::npos;
-    if (!isEmpty && !AxObjectType::fromString(text.string(), type) && reports)
-    {
-        AxElement::report(*element, AxSeverity::Error, "wrong-kind",
-                          "expected 7 or 8 numbers for an object type, found \"" + text.string() + '"');
-    }
-    return type;
-}
-
-AxObjectType objectTypeOf(AxEnvValuePtr const& element, bool reports)
-{
-    return typeOf(reports ? AxElement::single(element, theTypeTag) : AxElement::first(element, theTypeTag), reports);
-}
-
-std::vector<AxObjectType> matchTypesOf(AxEnvValuePtr const& element, bool reports)
-{
-    std::vector<AxObjectType> types;
-    auto const add = [&](AxEnvObjectPtr const& child)
-    {
-        AxObjectType const type = typeOf(child, reports);
-        if (!type.isNull())
-        {
-            types.push_back(type);
-        }
-    };
-    add(reports ? AxElement::single(element, theMatchTypeTag) : AxElement::first(element, theMatchTypeTag));
-    AxElement::forEach(element, theTypesTag,
-                       [&](AxEnvObjectPtr const& group)
-                       {
-                           if (group->name() == theFurtherTypes)
-                           {
-                               AxElement::forEach(group, theTypeTag, add);
-                           }
-                       });
-    return types;
-}
+using namespace AxObjectElement;
 
 template <class Fits>
 AxEnvValuePtr lastObject(AxEnvironmentPtr const& env, Fits const& fits)
@@ -96,7 +50,7 @@ void AxZedXmlUtils::getObjectElements(AxEnvironmentPtr const& env, std::list<AxE
     AxEnvObjectList objects;
     if (env)
     {
-        env->getObjectsByType(theObjectTag, objects);
+        env->getObjectsByType(theTag, objects);
     }
     elements.insert(elements.end(), objects.begin(), objects.end());
 }
@@ -131,7 +85,7 @@ void AxZedXmlUtils::getMatchTypes(AxEnvironmentPtr const&, AxEnvValuePtr const& 
 
 AxEnvValuePtr AxZedXmlUtils::getPlatform(AxEnvironmentPtr const&, AxEnvValuePtr const& element)
 {
-    return AxElement::first(element, "platform");
+    return AxElement::first(element, thePlatformTag);
 }
 
 AxEnvValuePtr AxZedXmlUtils::getGuiInformation(AxEnvironmentPtr const&, AxEnvValuePtr const& element)
@@ -219,7 +173,7 @@ void AxZedXmlUtils::readVariableBindings(AxEnvironmentPtr const& env, AxEnvValue
 void AxZedXmlUtils::writeVariableBindings(AxEnvironmentPtr const& env, AxEnvValuePtr const& element,
                                           AxRwVariableBindings const& variables)
 {
-    if (!env || !element || variables.empty())
+    if (!env || !element || (variables.empty() && variables.keptItems().empty()))
     {
         return;
     }
@@ -227,6 +181,10 @@ void AxZedXmlUtils::writeVariableBindings(AxEnvironmentPtr const& env, AxEnvValu
     for (AxSymbolString const name : set ? variables.names() : std::vector<AxSymbolString>())
     {
         AxSystemElement::addVariable(env, set, name.string(), variables.find(name)->get());
+    }
+    for (auto const& [after, item] : variables.keptItems())
+    {
+        AxSystemElement::addKept(env, set, item);
     }
 }
 

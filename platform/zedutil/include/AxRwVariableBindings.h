@@ -25,6 +25,7 @@ public:
     /// The value as text: a string's bytes, else the items as written. `found` may be null.
     AxString stringValue(AxSymbolString name, bool* found = nullptr) const;
     std::vector<AxSymbolString> names() const;
+    /// Also the items that were not understood.
     void addAllFrom(AxRwVariableBindings const& other);
     bool empty() const { return myVariables.empty(); }
     void clear();

@@ -3,6 +3,7 @@
 #include "AxDiagnostic.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRwElement.h"
+#include "AxTreeCells.h"
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
 
@@ -204,6 +205,10 @@ void AxRwVariableBindings::addAllFrom(AxRwVariableBindings const& other)
         {
             set(variable.name, variable.cells);
         }
+        for (auto const& [after, item] : other.keptItems())
+        {
+            keepItem(after, item);
+        }
     }
 }
 
@@ -241,10 +246,18 @@ AxlObjPtr AxRwVariableBindings::getData(AxlObjPtr const& items, AxFilenameList c
     {
         AxlObj const* const item = rest->car();
         AxSymbolString const name = item->car()->symbol();
-        if (!name.isNull() && item->cdr()->isPair())
+        bool const isXml = name == AxTreeCells::theXmlHead;
+        if (!name.isNull() && item->cdr()->isPair() && !isXml)
         {
             set(name, AxlObjPtr(item->cdr()));
             continue;
+        }
+        std::string written;
+        axAppendCell(written, item);
+        keepItem(AxSymbolString(), std::move(written));
+        if (isXml)
+        {
+            continue; // that was told when the tree it comes from was read
         }
         AxDiagnostic fault;
         fault.severity = AxSeverity::Warning;
@@ -253,9 +266,6 @@ AxlObjPtr AxRwVariableBindings::getData(AxlObjPtr const& items, AxFilenameList c
         fault.column = item->column();
         fault.text = "expected (name value...) in \"" + AxReaderWriter::name().string().string() + '"';
         AxDiagnostics::report(std::move(fault));
-        std::string written;
-        axAppendCell(written, item);
-        keepItem(AxSymbolString(), std::move(written));
     }
     return axcNil();
 }

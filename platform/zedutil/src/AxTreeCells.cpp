@@ -283,6 +283,11 @@ std::string AxTreeCells::printed(AxlObj const* cell)
     return text;
 }
 
+std::string AxTreeCells::xmlItem(std::string const& xml)
+{
+    return printed(AxcCons(AxcSymbol(theXmlHead), AxcCons(AxcString(xml), axcNil())).get());
+}
+
 bool AxTreeCells::isNumeral(std::string_view word)
 {
     bool const isSigned = word.starts_with('-') || word.starts_with('+');

@@ -37,6 +37,8 @@ AxlObjPtr cellIn(AxString const& text);
 /// All expressions in a text, as a list. Throws AxlSyntaxError.
 AxlObjPtr parsed(std::string_view text);
 std::string printed(AxlObj const* cell);
+/// A piece of XML as an item of text.
+std::string xmlItem(std::string const& xml);
 /// Whether a word is read as a number, also in the forms that have no digits.
 bool isNumeral(std::string_view word);
 } // namespace AxTreeCells

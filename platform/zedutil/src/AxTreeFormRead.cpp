@@ -19,11 +19,6 @@ AxDiagnostic findingAt(AxEnvValue const* place, AxSeverity severity, char const*
     return finding;
 }
 
-std::string xmlItem(std::string const& xml)
-{
-    return AxTreeCells::printed(AxcCons(AxcSymbol(AxTreeCells::theXmlHead), AxcCons(AxcString(xml), axcNil())).get());
-}
-
 /// Whether the element is the scalar itself, rather than that of the record which has it as an attribute.
 bool isScalarElement(AxEnvObject const& object, AxReaderWriter const& scalar)
 {
@@ -148,7 +143,7 @@ void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, A
                                             object ? "unknown element \"" + object->type().string() + '"'
                                                    : "unexpected text \"" + child->value().string() + '"'));
         }
-        rw.keepItem(last, xmlItem(AxXmlFragment::ofNode(*child)));
+        rw.keepItem(last, AxTreeCells::xmlItem(AxXmlFragment::ofNode(*child)));
     }
 }
 
@@ -159,7 +154,7 @@ void AxTreeForm::keepXml(AxReaderWriter& record, std::string const& text, std::s
                                     [&text](AxKeptItem const& item) { return !item.replaces && item.text == text; });
     if (found != kept.end())
     {
-        found->text = xmlItem(xml);
+        found->text = AxTreeCells::xmlItem(xml);
         found->after = after;
     }
 }

@@ -7,6 +7,7 @@
 #include "src/paramdb/DatabaseFixture.h"
 
 #include <boost/make_shared.hpp>
+#include <cstring>
 
 namespace
 {
@@ -184,6 +185,89 @@ TEST_F(AxZedXmlUtilsTest, SystemsTakeVariablesForWhatTheirDefinitionDeclares)
     RecordPtr const back = recordOf(env, objectsOf(env).at(0), paths);
     EXPECT_EQ(back->writtenText(), written->writtenText()) << xml;
     EXPECT_TRUE(*back == *written);
+}
+
+TEST_F(AxZedXmlUtilsTest, WhatStandsBesideTheRecordSurvivesBothNotations)
+{
+    std::string const xml =
+        "<simObject name=\"the M1\" revision=\"7\">\n"
+        "  <objectTypes name=\"additional-match-types\">\n"
+        "    <objectType name=\"m60\" value=\"1:1:1:225:1:2:-1:-1\"/>\n"
+        "  </objectTypes>\n"
+        "  <platform name=\"m1\" parameter-type=\"zed-object-param\" bounding-geometry-type=\"2\"/>\n"
+        "  <guiInformation name=\"gui\" label=\"M1\" odd=\"1\">\n"
+        "    <strings name=\"categories\" value=\"Tank\"/>\n"
+        "  </guiInformation>\n"
+        "  <!-- to be told -->\n"
+        "  <future name=\"x\">later</future>\n"
+        "</simObject>\n";
+    RecordPtr const record = recordIn(xml);
+    ASSERT_TRUE(record);
+    EXPECT_EQ(elementOf(*record).substr(39), xml);
+    AxZedXmlUtils::keepOthers(*record, false);
+    std::string const text = record->writtenText();
+    AxZedXmlUtils::keepOthers(*record, false);
+    EXPECT_EQ(record->writtenText(), text);
+    RecordPtr const fromText = created(text);
+    EXPECT_EQ(codes(), "") << text;
+    EXPECT_EQ(elementOf(*fromText).substr(39), xml);
+}
+
+TEST_F(AxZedXmlUtilsTest, SetsOfVariablesStayApart)
+{
+    std::string const text = record("(variable-bindings (a 1.0) (b 2.0)) (variable-bindings (a 3.0) (c 4.0))"
+                                    " (variable-bindings (c 5.0)) (min-tick-period $c) (mass $a) (systems (gun"
+                                    " (system-definition \"$(b).sys\")))");
+    RecordPtr const read(created(text));
+    AxEnvironmentPtr const env = treeOf(elementOf(*read));
+    RecordPtr const back = recordOf(env, objectsOf(env).at(0));
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->writtenText(), read->writtenText());
+    EXPECT_EQ(back->mass(), 1.0);
+    EXPECT_EQ(back->minTickPeriod(), 4.0);
+    EXPECT_EQ(back->variableBindingsFromLoad().size(), 3U);
+    EXPECT_EQ(codes(), "missing-file@1 missing-file@11") << "the definition is named with a variable of the text";
+}
+
+TEST_F(AxZedXmlUtilsTest, VariablesThatCannotBeReadSurviveBothNotations)
+{
+    struct Case
+    {
+        char const* xml;
+        char const* codes;
+    };
+    for (auto const& [xml, expected] :
+         {Case{"<variable name=\"a\"/>", "incomplete-variable@1"},
+          Case{"<variable value=\"1\"/>", "incomplete-variable@1"},
+          Case{"<variable name=\"a\" value=\"(1 2\"/>", "unreadable-variable@1"},
+          Case{"<variable name=\"a\" value=\"1) (mass 5\"/>", "unreadable-variable@1"},
+          Case{"<variable name=\"a\" value=\")\"/>", "unreadable-variable@1"},
+          Case{"<variable name=\"a\" value=\"&quot;\"/>", "unreadable-variable@1"},
+          Case{"<variable name=\"a\" value=\"; 1\"/>", "incomplete-variable@1"},
+          Case{"<future name=\"a\"/>", "unknown-element@1"}, Case{"<!-- of the gun -->", ""}})
+    {
+        for (char const* const owner : {"", "<componentSystem name=\"gun\">"})
+        {
+            findings.clear();
+            std::string const variables =
+                std::string("<variableBindings><variable name=\"b\" value=\"2.0\"/>") + xml + "</variableBindings>";
+            RecordPtr const record =
+                recordIn("<simObject><platform name=\"m1\" parameter-type=\"zed-object-param\" mass=\"$b\"/>" +
+                         (*owner == 0 ? variables : owner + variables + "</componentSystem>") + "</simObject>");
+            ASSERT_TRUE(record) << xml;
+            std::string const ofSystem = *owner == 0 ? "" : "unknown-keyword";
+            EXPECT_EQ(codes().substr(0, std::strlen(expected)), expected) << xml;
+            EXPECT_EQ(record->mass(), *owner == 0 ? 2.0 : 5000.0) << xml;
+            findings.clear();
+            RecordPtr const fromText = created(record->writtenText());
+            EXPECT_EQ(codes().find("not-a-variable"), std::string::npos) << record->writtenText();
+            EXPECT_NE(elementOf(*fromText).find(xml), std::string::npos) << elementOf(*fromText);
+        }
+    }
+    RecordPtr const record =
+        created("(m1 (parameter-type \"zed-object-param\") (variable-bindings (a) word (1 2) (b 3)))");
+    AxEnvironmentPtr const env = treeOf(elementOf(*record));
+    EXPECT_EQ(recordOf(env, objectsOf(env).at(0))->writtenText(), record->writtenText());
 }
 
 TEST_F(AxZedXmlUtilsTest, FaultsAreToldAtTheirLines)

@@ -1,0 +1,150 @@
+#include "AxObjectElement.h"
+
+#include "AxElement.h"
+#include "AxSystemElement.h"
+#include "AxTreeCells.h"
+
+#include <algorithm>
+#include <array>
+#include <boost/make_shared.hpp>
+#include <utility>
+#include <vector>
+
+namespace
+{
+/// The elements that a record, its variables and types are made of, if they are the first of their tag.
+constexpr std::array theParts{AxSystemElement::theVariablesTag, AxObjectElement::theTypeTag,
+                              AxObjectElement::theMatchTypeTag, AxObjectElement::thePlatformTag};
+
+bool isFurtherTypes(AxEnvObject const& child)
+{
+    return child.type() == AxObjectElement::theTypesTag && child.name() == AxObjectElement::theFurtherTypes;
+}
+/// The type that an element gives; null when it gives none or, with a report if `reports`, one that cannot be read.
+AxObjectType typeOf(AxEnvObjectPtr const& element, bool reports)
+{
+    AxObjectType type;
+    AxString const text = AxElement::attribute(element, "value");
+    bool const isEmpty = text.string().find_first_not_of(" \t\r\n") == std::string::npos;
+    if (!isEmpty && !AxObjectType::fromString(text.string(), type) && reports)
+    {
+        AxElement::report(*element, AxSeverity::Error, "wrong-kind",
+                          "expected 7 or 8 numbers for an object type, found \"" + text.string() + '"');
+    }
+    return type;
+}
+
+} // namespace
+
+AxObjectType AxObjectElement::objectTypeOf(AxEnvValuePtr const& element, bool reports)
+{
+    return typeOf(reports ? AxElement::single(element, theTypeTag) : AxElement::first(element, theTypeTag), reports);
+}
+
+std::vector<AxObjectType> AxObjectElement::matchTypesOf(AxEnvValuePtr const& element, bool reports)
+{
+    std::vector<AxObjectType> types;
+    auto const add = [&](AxEnvObjectPtr const& child)
+    {
+        AxObjectType const type = typeOf(child, reports);
+        if (!type.isNull())
+        {
+            types.push_back(type);
+        }
+    };
+    add(reports ? AxElement::single(element, theMatchTypeTag) : AxElement::first(element, theMatchTypeTag));
+    AxElement::forEach(element, theTypesTag,
+                       [&](AxEnvObjectPtr const& group)
+                       {
+                           if (group->name() == theFurtherTypes)
+                           {
+                               AxElement::forEach(group, theTypeTag, add);
+                           }
+                       });
+    return types;
+}
+
+AxEnvObjectPtr AxObjectElement::othersOf(AxEnvValuePtr const& element)
+{
+    AxEnvObjectPtr const object = element ? element->castToObject() : AxEnvObjectPtr();
+    auto const others = boost::make_shared<AxEnvObject>(theTag);
+    if (!object)
+    {
+        return {};
+    }
+    for (AxEnvObject::Attribute const& attribute : object->attributes())
+    {
+        others->setAttribute(attribute.name, attribute.value->value());
+    }
+    AxEnvObjectPtr const platform = AxElement::first(element, thePlatformTag);
+    if (object->hasName() && platform && platform->hasName() && !(platform->name() == object->name()))
+    {
+        others->setName(object->name());
+    }
+    std::array<bool, theParts.size()> seen{};
+    for (AxEnvValuePtr const& node : object->children())
+    {
+        AxEnvObjectPtr const child = node->castToObject();
+        auto const part = child ? std::find_if(theParts.begin(), theParts.end(),
+                                               [&child](char const* tag) { return child->type() == tag; })
+                                : theParts.end();
+        auto const isTaken = [&]
+        { return std::exchange(seen[static_cast<std::size_t>(part - theParts.begin())], true); };
+        bool const isPart =
+            child && (child->type() == AxSystemElement::theTag || (part != theParts.end() && !isTaken()));
+        if (!isPart)
+        {
+            others->add(AxXmlFragment::copyOf(*node));
+        }
+    }
+    return isEmpty(*others) ? AxEnvObjectPtr() : others;
+}
+
+void AxObjectElement::removeFurtherTypes(AxEnvObject& others)
+{
+    std::vector<AxEnvValuePtr> const children = others.children();
+    for (AxEnvValuePtr const& node : children)
+    {
+        AxEnvObjectPtr const child = node->castToObject();
+        if (child && isFurtherTypes(*child))
+        {
+            others.remove(node);
+        }
+    }
+}
+
+bool AxObjectElement::isEmpty(AxEnvObject const& others)
+{
+    return others.count() == 0 && others.attributes().empty() && !others.hasName();
+}
+
+bool AxObjectElement::isOthersItem(std::string const& item)
+{
+    return item.starts_with(std::string("(") + AxTreeCells::theXmlHead + " \"<" + theTag);
+}
+
+void AxObjectElement::addOthers(AxEnvObject& element, AxEnvObject& others)
+{
+    if (others.hasName())
+    {
+        element.setName(others.name());
+    }
+    for (AxEnvObject::Attribute const& attribute : others.attributes())
+    {
+        element.setAttribute(attribute.name, attribute.value->value());
+    }
+    std::vector<AxEnvValuePtr> const children = others.children();
+    for (AxEnvValuePtr const& node : children)
+    {
+        AxEnvObjectPtr const child = node->castToObject();
+        auto const platform = std::find_if(element.children().begin(), element.children().end(),
+                                           [](AxEnvValuePtr const& one)
+                                           {
+                                               AxEnvObjectPtr const object = one->castToObject();
+                                               return object && object->type() == thePlatformTag;
+                                           });
+        bool const isInFront = child && isFurtherTypes(*child);
+        element.insert(isInFront ? static_cast<std::size_t>(platform - element.children().begin()) : element.count(),
+                       node);
+    }
+}
