@@ -54,6 +54,8 @@ public:
     void setDatabaseDirectory(AxFilename const& directory) { myDatabaseDirectory = directory; }
     /// Where the entry stands in that file, for what is wrong with the file that it names.
     void setPlace(boost::shared_ptr<AxFilename const> const& databaseFile, unsigned line, unsigned column);
+    /// Whether the entry stands for an object in a file below the data root, and not in the database file.
+    bool isFromDataRoot() const { return myDatabaseFile && myLine == 0; }
     /// Where the record's file is found now: along the search paths, the path, the database's directory, as named.
     /// Null when it is nowhere.
     AxFilename foundFilename() const;

@@ -50,6 +50,10 @@ protected:
 
     /// Writes a file as part of the `write` that is running, else by itself. False after a warning.
     static bool writeText(AxFilename const& file, std::string const& text);
+    /// During `write`, before the entry gets its new file, which will be in `directory`: the record takes along the
+    /// variables that the new database file does not bind as the one did that it was read with, and files that it names
+    /// relative to its own are named as they are found from there. Whether anything changed.
+    static bool prepareRecord(AxSxpParameterDbEntry const& entry, AxFilename const& directory);
     /// What `write` installs; `context` is the writer.
     static void prePutSelfCb(AxReaderWriter* rw, std::string& out, void* context);
 };

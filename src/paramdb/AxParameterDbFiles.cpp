@@ -24,6 +24,14 @@ AxFilename axDirectoryOf(AxFilename const& file)
     return AxFilename(directory);
 }
 
+AxFilename axPlaceBelow(AxFilename const& directory, AxFilename const& file)
+{
+    using boost::filesystem::path;
+    path const place =
+        path(file.native()).lexically_normal().lexically_relative(path(directory.native()).lexically_normal());
+    return place.empty() || *place.begin() == ".." ? AxFilename() : AxFilename(place.string());
+}
+
 void axBindDatabaseDirectory(AxRwVariableBindings& bindings, AxFilename const& directory)
 {
     bindings.setString("opd-dir", directory.string());

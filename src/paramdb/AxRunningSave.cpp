@@ -17,7 +17,8 @@ namespace
 AxRunningSave* theCurrent = nullptr;
 } // namespace
 
-AxRunningSave::AxRunningSave(AxSxpParameterDb& db, AxFilename const& file) : myDb(db), myDirectory(axDirectoryOf(file))
+AxRunningSave::AxRunningSave(AxSxpParameterDb& db, AxFilename const& file)
+    : myDb(db), myDirectory(axDirectoryOf(file)), myFilenames(db.dependentParameterFileToCopyPairs())
 {
     axBindDatabaseDirectory(myDatabaseVariables, myDirectory);
     theCurrent = this;
@@ -30,6 +31,7 @@ AxRunningSave::~AxRunningSave()
     {
         return;
     }
+    myFilenames.takeBack();
     for (AxListItem const* item = myDb.parameterList().first(); item != nullptr; item = item->next())
     {
         auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));

@@ -2,8 +2,11 @@
 
 #include "AxFileTransaction.h"
 #include "AxRwVariableBindings.h"
+#include "AxSavedFilenames.h"
+#include "AxSavedVariables.h"
 
 #include <map>
+#include <optional>
 #include <set>
 
 class AxSxpParameterDb;
@@ -24,10 +27,18 @@ public:
     static AxRunningSave* current();
 
     AxFileTransaction& files() { return myFiles; }
+    AxFileTransaction const& files() const { return myFiles; }
     /// The absolute directory of the database file.
     AxFilename const& directory() const { return myDirectory; }
     /// "opd-dir" as it will be when the saved file is loaded.
     AxRwVariableBindings const& databaseVariables() const { return myDatabaseVariables; }
+
+    /// Collects the variables of the database into `all`, the set of the new file.
+    AxSavedVariables& collectVariables(AxRwVariableBindings& all) { return myVariables.emplace(myDb, all); }
+    /// What was collected; null before.
+    AxSavedVariables* variables() { return myVariables ? &*myVariables : nullptr; }
+
+    AxSavedFilenames& filenames() { return myFilenames; }
 
     /// Makes the directory of the record files; names of files there that are still in use are not given out.
     void startDirectory(AxFilename const& directory);
@@ -42,6 +53,8 @@ private:
     AxSxpParameterDb& myDb;
     AxFilename myDirectory;
     AxRwVariableBindings myDatabaseVariables{"opd-variables"};
+    std::optional<AxSavedVariables> myVariables;
+    AxSavedFilenames myFilenames;
     AxFileTransaction myFiles;
     std::set<std::string> myNames;
     std::map<AxSxpParameterDbEntry*, AxFilename> myFormerNames;

@@ -394,12 +394,18 @@ int AxSxpParameterDb::addUnloadedFilesToCopyPairs(AxFilename const& directory)
     for (AxListItem const* item = parameterList().first(); item; item = item->next())
     {
         auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));
-        if (!entry || entry->parameters() || entry->filename().isNull() || !entry->filename().isRelative())
+        if (!entry || entry->parameters())
+        {
+            continue;
+        }
+        AxFilename const name =
+            entry->isFromDataRoot() ? axPlaceBelow(entry->databaseDirectory(), entry->filename()) : entry->filename();
+        if (name.isNull() || !name.isRelative())
         {
             continue;
         }
         AxFilename const from = entry->foundFilename();
-        AxFilename const to = directory.combine(entry->filename());
+        AxFilename const to = directory.combine(name);
         if (!from.isNull() && !to.exists())
         {
             addDependentParameterFileToCopyPair(from, to);

@@ -175,7 +175,7 @@ void AxSxpParameterDbFileData::takeVariables(AxlObj const* item, AxFilenameList 
 void AxSxpParameterDbFileData::getSelf(AxlObjPtr const& expression, AxFilenameList const& files,
                                        AxBindingsList const& bindings)
 {
-    myVariableBindings.clear();
+    myVariableBindings.reset();
     std::vector<AxlObj const*> others;
     for (AxlObj const* rest = expression->cdr(); rest->isPair(); rest = rest->cdr())
     {
@@ -203,7 +203,7 @@ void AxSxpParameterDbFileData::getSelf(AxlObjPtr const& expression, AxFilenameLi
 
 void AxSxpParameterDbFileData::putData(std::string& out, int indent)
 {
-    if (!myVariableBindings.empty())
+    if (!myVariableBindings.empty() || !myVariableBindings.keptItems().empty())
     {
         out += '\n';
         putIndent(out, indent + 1);

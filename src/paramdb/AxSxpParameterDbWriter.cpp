@@ -11,6 +11,7 @@
 #include "AxSxpParameterDbEntry.h"
 #include "AxSxpParameterDbFileData.h"
 #include "AxZedObjectParameters.h"
+#include "AxZedXmlUtils.h"
 
 #include <boost/filesystem/operations.hpp>
 #include <cstring>
@@ -74,45 +75,22 @@ void copyDependentFiles(AxSxpParameterDb::CopyPairs const& pairs, AxFileTransact
     }
 }
 
-template <class Visit>
-void forEachSavedEntry(AxSxpParameterDb const& db, Visit const& visit)
+/// How the new file names the file of an entry that keeps it: as before, but one that was found below the data root by
+/// its place below the database, so that both can be moved together.
+AxFilename keptName(AxSxpParameterDbEntry const& entry, AxRunningSave const* save)
 {
-    for (AxListItem const* item = db.parameterList().first(); item; item = item->next())
+    AxFilename const& name = entry.filename();
+    for (AxFilename const& directory : {entry.databaseDirectory(), save ? save->directory() : AxFilename()})
     {
-        auto const* const entry =
-            dynamic_cast<AxSxpParameterDbEntry const*>(static_cast<AxZedParameterDbEntry const*>(item->data()));
-        if (entry && !entry->temporary())
+        AxFilename const place =
+            entry.isFromDataRoot() && !directory.isNull() ? axPlaceBelow(directory, name) : AxFilename();
+        AxFilename const target = save && !place.isNull() ? save->directory().combine(place) : AxFilename();
+        if (!target.isNull() && (target.exists() || save->files().stages(target)))
         {
-            visit(*entry);
+            return place;
         }
     }
-}
-
-/// The variables of all loaded files in one set, the first of a name. "opd-dir" is bound by each load itself;
-/// "data-root" is left out once a record that came from an entity file is written as parameter text, because the scan
-/// at the next load would put the entity file's record over it.
-void collectVariables(AxSxpParameterDb const& db, AxFilename const& file, AxRwVariableBindings& all)
-{
-    for (AxSxpParameterDb::VariableBindingsPtr const& set : db.variableBindings())
-    {
-        for (AxSymbolString const name : set->names())
-        {
-            if (!all.find(name) && !(name == "opd-dir"))
-            {
-                all.set(name, *set->find(name));
-            }
-        }
-    }
-    bool isEntityRewritten = false;
-    forEachSavedEntry(
-        db, [&isEntityRewritten](AxSxpParameterDbEntry const& entry)
-        { isEntityRewritten = isEntityRewritten || (entry.parameters() && entry.filename().extension() == "entity"); });
-    if (isEntityRewritten && all.remove("data-root"))
-    {
-        AxDiagnostics::report(axFault(
-            "data-root-dropped", file,
-            "\"data-root\" is left out, records of entity files are written as parameter files", AxSeverity::Info));
-    }
+    return name;
 }
 
 /// Says when the record of an entry that was not loaded will not be found, or not be read alike, from the new file.
@@ -225,7 +203,7 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
     copyDependentFiles(db->dependentParameterFileToCopyPairs(), save.files());
     std::unique_ptr<AxSxpParameterDbFileData> const data(createParameterDbFileData());
     data->setVersion(theSavedVersion);
-    collectVariables(*db, file, data->variableBindings());
+    AxSavedVariables const& variables = save.collectVariables(data->variableBindings());
     AxList const& list = db->parameterList();
     std::uint32_t const changes = list.changeCount();
     for (AxListItem const* item = list.first(); item; item = item->next())
@@ -252,6 +230,13 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
     {
         configurations.reset(db->remoteConfigurationListCreatorFcn()("remote-configurations", data->registry()));
         *configurations = *db->remoteConfigurationList();
+        for (AxRemoteConfiguration* configuration : *configurations)
+        {
+            if (auto const& read = configuration->variableBindings())
+            {
+                variables.writeOut(*configuration, *read);
+            }
+        }
         data->setRemoteConfigurationList(configurations.get());
     }
     bool const isWritten = writeTopLevelParameterDbFile(*data, file) && save.finish(file);
@@ -259,6 +244,12 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
     if (!isWritten)
     {
         AxWarn("Can't write top-level parameter database file %s\n", file.native().c_str());
+    }
+    else if (variables.isDataRootLeftOut())
+    {
+        AxDiagnostics::report(axFault(
+            "data-root-dropped", file,
+            "\"data-root\" is left out, records of entity files are written as parameter files", AxSeverity::Info));
     }
     return isWritten;
 }
@@ -269,8 +260,11 @@ void AxSxpParameterDbWriter::writeEntry(AxSxpParameterDbFileData* data, AxSxpPar
     AxZedObjectParameters* const record = entry->parameters();
     AxRunningSave* const save = AxRunningSave::current();
     AxFilename const before = entry->filename();
+    std::size_t const namesBefore = save ? save->filenames().count() : 0;
     if (record)
     {
+        prepareRecord(*entry, generateOpeDirectory(fileDir, parameterDir));
+        AxZedXmlUtils::keepOthers(*record, true);
         AxFilename const name = generateFilename(record->AxReaderWriter::name().string(), record->objectType());
         if (save)
         {
@@ -281,8 +275,8 @@ void AxSxpParameterDbWriter::writeEntry(AxSxpParameterDbFileData* data, AxSxpPar
             entry->setFilename(parameterDir.combine(name));
         }
     }
-    AxSxpParameterDbFileEntry* const fileEntry =
-        data->addEntry(entry->objectType(), entry->filename(), record != nullptr, record);
+    AxSxpParameterDbFileEntry* const fileEntry = data->addEntry(
+        entry->objectType(), record ? entry->filename() : keptName(*entry, save), record != nullptr, record);
     if (AxSxpParameterDbFileEntry const* const asRead = entry->fileEntry())
     {
         fileEntry->assign(*asRead);
@@ -310,7 +304,23 @@ void AxSxpParameterDbWriter::writeEntry(AxSxpParameterDbFileData* data, AxSxpPar
     {
         entry->setFilename(before);
         fileEntry->setFilename(before);
+        if (save)
+        {
+            save->filenames().takeBack(namesBefore);
+        }
     }
+}
+
+bool AxSxpParameterDbWriter::prepareRecord(AxSxpParameterDbEntry const& entry, AxFilename const& directory)
+{
+    AxRunningSave* const save = AxRunningSave::current();
+    if (!save || !save->variables() || !entry.parameters())
+    {
+        return false;
+    }
+    std::size_t const before = save->filenames().count();
+    save->filenames().settle(entry, directory);
+    return save->variables()->takeAlong(entry) || save->filenames().count() != before;
 }
 
 bool AxSxpParameterDbWriter::writeText(AxFilename const& file, std::string const& text)

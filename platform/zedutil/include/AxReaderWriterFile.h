@@ -33,6 +33,8 @@ public:
     AxFilename const& filename() const { return myFilename; }
     /// Clearing the name marks content that was loaded as specified, so that it is written and not lost.
     void setFilename(AxFilename const& file);
+    /// Another name for the same file: what was read from it stays.
+    void nameAnew(AxFilename const& file) { myFilename = file; }
     /// The file that was found and read last; null when none was.
     AxFilename const& foundFilename() const;
 

@@ -461,6 +461,42 @@ TEST_F(AxSxpParameterDbTest, ReferencesAreWrittenAsTheyWereOnlyWhereTheyMeanTheS
     EXPECT_NE(get("x.opd").find("\"$(opd-dir)/m1.ope\""), std::string::npos) << get("x.opd");
 }
 
+TEST_F(AxSxpParameterDbTest, NamesRelativeToARecordAreFoundFromItsNewPlace)
+{
+    // The database's directory, the name of the definition there, the one that the saved record gives.
+    struct Case
+    {
+        char const* database;
+        char const* name;
+        char const* expected;
+    };
+    for (Case const& c :
+         {Case{"x.opd", "../../parts/gun.sys", "../parts/gun.sys"}, Case{"x.opd", "near.sys", "../a/b/near.sys"},
+          Case{"a/x.opd", "../../parts/gun.sys", "../../parts/gun.sys"},
+          Case{"out/x.opd", "../../parts/gun.sys", "../../parts/gun.sys"}, Case{"x.opd", "none.sys", "none.sys"},
+          Case{"x.opd", "library.sys", "library.sys"}})
+    {
+        put("parts/gun.sys", "(system-definition)");
+        put("a/b/near.sys", "(system-definition)");
+        put("paths/library.sys", "(system-definition)");
+        put("a/b/m1.ope", record(std::string("(systems (gun (system-definition \"") + c.name + "\")))"));
+        AxSxpParameterDb original;
+        original.init();
+        original.setSearchPaths({path("paths")});
+        put("d.opd", database(entry(theTank, "a/b/m1.ope")));
+        ASSERT_TRUE(original.loadAll(AxFilename(path("d.opd"))));
+        ASSERT_TRUE(original.save(AxFilename(path(c.database))));
+        AxSxpParameterDb saved;
+        saved.init();
+        saved.setSearchPaths({path("paths")});
+        warned();
+        ASSERT_TRUE(saved.loadAll(AxFilename(path(c.database))));
+        EXPECT_EQ(warned().empty(), std::string(c.name) != "none.sys") << c.name;
+        EXPECT_NE(saved.lookup(tank)->writtenText().find(std::string("\"") + c.expected + '"'), std::string::npos)
+            << saved.lookup(tank)->writtenText();
+    }
+}
+
 TEST_F(AxSxpParameterDbTest, DependentFilesAreCopied)
 {
     put("a.dmg", "text");

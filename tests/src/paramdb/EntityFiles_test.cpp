@@ -189,3 +189,71 @@ TEST_F(EntityFiles, UnloadedEntriesStayWithTheDataRoot)
     EXPECT_EQ(speedOf(saved, tank), 2.0);
     EXPECT_EQ(saved.numParameterEntries(), 1);
 }
+
+TEST_F(EntityFiles, NamesOfUnloadedFilesAreRelativeToTheDatabase)
+{
+    put("data/a/m1.entity", object(exact(theTank), "max-speed=\"2\""));
+    ASSERT_TRUE(load(putDatabase()));
+    ASSERT_TRUE(db.save(AxFilename(path("d.opd"))));
+    EXPECT_NE(get("d.opd").find("(filename \"data/a/m1.entity\")"), std::string::npos) << get("d.opd");
+    boost::filesystem::create_directories(path("out"));
+    EXPECT_EQ(db.addUnloadedFilesToCopyPairs(AxFilename(path("out"))), 1);
+    ASSERT_TRUE(db.save(AxFilename(path("out/d.opd"))));
+    boost::filesystem::remove_all(path("data"));
+    AxSxpParameterDb saved;
+    saved.init();
+    ASSERT_TRUE(saved.load(AxFilename(path("out/d.opd"))));
+    EXPECT_EQ(speedOf(saved, tank), 2.0);
+    EXPECT_EQ(warned(), "");
+}
+
+TEST_F(EntityFiles, VariablesMeanTheSameInASavedDatabaseElsewhere)
+{
+    // Each text of the record, and what it is in the new place.
+    struct Case
+    {
+        char const* variables;
+        char const* text;
+        std::string expected;
+    };
+    std::string const root = path("out") + "/data";
+    for (Case const& c : {Case{"", "$(data-root)/x", root + "/x"}, Case{"", "$(parts)/x", root + "/parts/x"},
+                          Case{"", "$data-root", root}, Case{"", "$$(data-root)", "$(data-root)"},
+                          Case{"<variable name=\"data-root\" value=\"own\" type=\"string\"/>", "$data-root", "own"},
+                          Case{"<variable name=\"at\" value=\"$data-root\"/>", "$at", root}})
+    {
+        put("data/m1.entity", object(exact(theTank) + "<variableBindings>" + c.variables + "</variableBindings>",
+                                     std::string("category=\"") + c.text + '"'));
+        put("d.opd", database("", "(variable-bindings (parts \"$(data-root)/parts\") (data-root \"$(opd-dir)/data\"))"
+                                  " (version 101) (remote-configurations (remote-configuration"
+                                  " (object-type 1 1 1 -1 -1 -1 -1 -1) (system-definitions \"$(data-root)/a.sys\")))"));
+        AxSxpParameterDb original;
+        original.init();
+        ASSERT_TRUE(original.loadAll(AxFilename(path("d.opd"))));
+        boost::filesystem::create_directories(path("out"));
+        ASSERT_TRUE(original.save(AxFilename(path("out/d.opd"))));
+        AxSxpParameterDb saved;
+        saved.init();
+        ASSERT_TRUE(saved.load(AxFilename(path("out/d.opd"))));
+        ASSERT_TRUE(saved.lookup(tank));
+        EXPECT_EQ(saved.lookup(tank)->category(), c.expected) << c.text;
+        EXPECT_NE(get("out/d.opd").find("\"$(opd-dir)/data/a.sys\""), std::string::npos) << get("out/d.opd");
+        EXPECT_NE(get("out/d.opd").find("(parts \"$(opd-dir)/data/parts\")"), std::string::npos);
+    }
+}
+
+TEST_F(EntityFiles, VariablesOfFilesThatDisagreeMeanTheSameInASavedDatabase)
+{
+    put("a.ope", record("(category \"$(kind)\")"));
+    put("b.ope", record("(category \"$(name)\")"));
+    put("a.opd", database(entry(DatabaseFixture::theTank, "a.ope"), "(variable-bindings (kind \"a\")) (version 101)"));
+    put("b.opd", database(entry(DatabaseFixture::theTanks, "b.ope"),
+                          "(variable-bindings (kind \"b\") (name \"is $(kind)\")) (version 101)"));
+    ASSERT_TRUE(db.loadAll(AxFilename(path("a.opd"))) && db.loadAll(AxFilename(path("b.opd"))));
+    ASSERT_TRUE(db.save(AxFilename(path("c.opd"))));
+    AxSxpParameterDb saved;
+    saved.init();
+    ASSERT_TRUE(saved.load(AxFilename(path("c.opd"))));
+    EXPECT_EQ(saved.lookup(tank)->category(), "a");
+    EXPECT_EQ(saved.lookup(tanks)->category(), "is b");
+}
