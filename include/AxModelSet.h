@@ -86,6 +86,8 @@ public:
     /// Ignores anything but entries.
     void addToStart(AxReaderWriter* rw) override;
     void addToEnd(AxReaderWriter* rw) override;
+    /// Takes an entry out, which becomes the caller's.
+    void remove(AxReaderWriter* rw, AxListItem* item) override;
     void removeAndDeleteAll() override;
     using AxRwList::getData;
     AxlObjPtr getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings) override;
@@ -97,6 +99,10 @@ private:
     void adopt(std::unique_ptr<AxModelSetEntry> entry);
     void takeIn(AxModelSet& read);
     void refreshIndex() const;
+    void addToIndex(AxListItem* item) const;
+    AxListItem* knownItemOf(AxModelSetEntry const* entry) const;
+    void refreshCategories() const;
+    void mergeCategories(AxModelSetEntry const& entry) const;
     AxString unusedID(AxString const& base) const;
     bool addEntities(std::vector<AxFilename> const& files);
     bool addEntitiesOf(AxFilename const& file);
@@ -104,10 +110,12 @@ private:
 
     AxRwInt myVersion{{"version", "", "Version of the file."}, 1, registry()};
     AxRwString myComment{{"comment", "", "Free text."}, registry()};
-    std::map<AxString, std::set<AxString>> myCategories;
+    mutable std::map<AxString, std::set<AxString>> myCategories;
+    mutable bool myCategoriesAreOld = false; // an entry was removed
     AxObjectType myNextGroupType{0, 0, 0, 0, 0, 0, 1, 5};
-    mutable std::unordered_map<AxObjectType, AxModelSetEntry*> myIndex; // the first entry of each type
+    mutable std::unordered_map<AxObjectType, AxListItem*> myIndex; // the first entry of each type
     mutable std::uint32_t myIndexedChange = 0;
+    mutable bool myHasRepeatedTypes = false;
     Loading* myLoading = nullptr; // while it runs, the index knows all types
     bool myKeepsAll = false;      // entries are taken in as they are read
 };

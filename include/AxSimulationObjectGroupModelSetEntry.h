@@ -80,7 +80,8 @@ private:
         std::vector<AxEnvValuePtr> epilogue;
     };
     bool readContent(AxFilename const& file, Content& content) const;
-    void readPart(AxEnvironmentPtr const& env, AxEnvValuePtr const& child, Content& content) const;
+    /// False for a child that belongs to the entry itself.
+    bool readPart(AxEnvironmentPtr const& env, AxEnvValuePtr const& child, Content& content) const;
     void addCopy(AxSimulationObjectBaseState const& state);
     AxFilename foundFile() const;
 

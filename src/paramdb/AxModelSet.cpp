@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace
 {
@@ -135,15 +136,42 @@ void AxModelSet::addToEnd(AxReaderWriter* rw)
     AxRwList::addToEnd(entry);
     if (isIndexed)
     {
-        myIndex.emplace(entry->objectType(), entry);
+        addToIndex(last());
         myIndexedChange = changeCount();
     }
+}
+
+void AxModelSet::remove(AxReaderWriter* rw, AxListItem* item)
+{
+    AxListItem* const place = item ? item : knownItemOf(static_cast<AxModelSetEntry*>(rw));
+    if (!place)
+    {
+        return;
+    }
+    // Of entries of one type another one comes to the front; of an entry whose type changed the old one is not known.
+    auto const found = myIndex.find(static_cast<AxModelSetEntry const*>(element(place))->objectType());
+    bool const isSettled =
+        myIndexedChange == changeCount() && !myHasRepeatedTypes && found != myIndex.end() && found->second == place;
+    AxRwList::remove(rw, place);
+    if (isSettled)
+    {
+        myIndex.erase(found);
+        myIndexedChange = changeCount();
+    }
+}
+
+AxListItem* AxModelSet::knownItemOf(AxModelSetEntry const* entry) const
+{
+    refreshIndex();
+    auto const found = entry ? myIndex.find(entry->objectType()) : myIndex.end();
+    return found != myIndex.end() && element(found->second) == entry ? found->second : itemOf(entry);
 }
 
 void AxModelSet::removeAndDeleteAll()
 {
     AxRwList::removeAndDeleteAll();
     myCategories.clear();
+    myCategoriesAreOld = false;
 }
 
 AxlObjPtr AxModelSet::getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings)
@@ -187,7 +215,7 @@ AxModelSetEntry* AxModelSet::addModel(AxModelSetEntry* entry, bool copy)
         takeOver(*known, *entry);
         if (myLoading && !(known->uniqueId() == id))
         {
-            myLoading->readIds();
+            myLoading->replace(id, known->uniqueId());
         }
         addCategoriesFrom(*known);
         return known;
@@ -240,19 +268,41 @@ bool AxModelSet::removeModel(AxObjectType const& type)
 
 bool AxModelSet::removeModel(AxModelSetEntry* entry)
 {
-    AxListItem* const item = entry ? itemOf(entry) : nullptr;
+    AxListItem* const item = entry ? knownItemOf(entry) : nullptr;
     if (!item)
     {
         return false;
     }
     remove(entry, item);
     delete entry;
-    myCategories.clear();
-    for (AxModelSetEntry const* left : *this)
-    {
-        addCategoriesFrom(*left);
-    }
+    myCategoriesAreOld = true;
     return true;
+}
+
+void AxModelSet::refreshCategories() const
+{
+    if (std::exchange(myCategoriesAreOld, false))
+    {
+        myCategories.clear();
+        for (AxModelSetEntry const* entry : *this)
+        {
+            mergeCategories(*entry);
+        }
+    }
+}
+
+void AxModelSet::mergeCategories(AxModelSetEntry const& entry) const
+{
+    for (AxString const& palette : entry.onPalettes())
+    {
+        myCategories[palette].insert(entry.categories().begin(), entry.categories().end());
+    }
+}
+
+void AxModelSet::addToIndex(AxListItem* item) const
+{
+    auto* const entry = static_cast<AxModelSetEntry*>(element(item));
+    myHasRepeatedTypes = !myIndex.emplace(entry->objectType(), item).second || myHasRepeatedTypes;
 }
 
 void AxModelSet::refreshIndex() const
@@ -260,9 +310,10 @@ void AxModelSet::refreshIndex() const
     if (myIndexedChange != changeCount())
     {
         myIndex.clear();
-        for (AxModelSetEntry* entry : *this)
+        myHasRepeatedTypes = false;
+        for (AxListItem* item = first(); item; item = item->next())
         {
-            myIndex.emplace(entry->objectType(), entry);
+            addToIndex(item);
         }
         myIndexedChange = changeCount();
     }
@@ -272,9 +323,10 @@ AxModelSetEntry* AxModelSet::find(AxObjectType const& type) const
 {
     refreshIndex();
     auto const found = myIndex.find(type);
-    if (found != myIndex.end() && found->second->objectType() == type)
+    auto* const known = found == myIndex.end() ? nullptr : static_cast<AxModelSetEntry*>(element(found->second));
+    if (known && known->objectType() == type)
     {
-        return found->second;
+        return known;
     }
     // A caller may have given an entry another type since.
     return myLoading ? nullptr
@@ -342,6 +394,7 @@ AxString AxModelSet::createUniqueID(AxString const& label)
 
 std::set<AxString> AxModelSet::categories() const
 {
+    refreshCategories();
     std::set<AxString> all;
     for (auto const& [palette, categories] : myCategories)
     {
@@ -353,16 +406,15 @@ std::set<AxString> AxModelSet::categories() const
 std::set<AxString> const& AxModelSet::categoriesForPalette(AxString const& palette) const
 {
     static std::set<AxString> const none;
+    refreshCategories();
     auto const found = myCategories.find(palette);
     return found == myCategories.end() ? none : found->second;
 }
 
 void AxModelSet::addCategoriesFrom(AxModelSetEntry const& entry)
 {
-    for (AxString const& palette : entry.onPalettes())
-    {
-        myCategories[palette].insert(entry.categories().begin(), entry.categories().end());
-    }
+    refreshCategories();
+    mergeCategories(entry);
 }
 
 void AxModelSet::updateNextSimulationObjectGroupObjectType(AxObjectType const& used)

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <boost/filesystem/operations.hpp>
+#include <charconv>
 #include <cstring>
 #include <exception>
 
@@ -102,16 +103,37 @@ AxModelSet::Loading::Loading(AxModelSet& models) : myModels(models)
     models.myIndexedChange = models.changeCount() - 1;
     models.refreshIndex();
     models.myLoading = this;
-    readIds();
+    for (AxModelSetEntry const* entry : models)
+    {
+        add(entry->uniqueId());
+    }
 }
 
-void AxModelSet::Loading::readIds()
+void AxModelSet::Loading::replace(AxString const& id, AxString const& other)
 {
-    myIds.clear();
-    myNumbers.clear();
-    for (AxModelSetEntry const* entry : myModels)
+    add(other);
+    if (--myIds[id] > 0)
     {
-        myIds.insert(entry->uniqueId());
+        return;
+    }
+    myIds.erase(id);
+    release(id, 0);
+    std::string const& text = id.string();
+    std::size_t const dash = text.rfind('-');
+    int number = 0;
+    if (dash != std::string::npos &&
+        std::from_chars(text.data() + dash + 1, text.data() + text.size(), number).ptr == text.data() + text.size())
+    {
+        release(AxString(text.substr(0, dash)), number);
+    }
+}
+
+void AxModelSet::Loading::release(AxString const& base, int number)
+{
+    auto const known = myNumbers.find(base);
+    if (known != myNumbers.end())
+    {
+        known->second = std::min(known->second, std::max(number, 0));
     }
 }
 

@@ -91,9 +91,13 @@ bool AxSimulationObjectGroupModelSetEntry::readContent(AxFilename const& file, C
         content.prologue = env->prologue()->children();
         content.epilogue = env->epilogue()->children();
         std::vector<AxEnvValuePtr> const children = root->children();
+        root->removeAll();
         for (AxEnvValuePtr const& child : children)
         {
-            readPart(env, child, content);
+            if (!readPart(env, child, content))
+            {
+                root->add(child);
+            }
         }
         content.entry = root;
         return true;
@@ -105,7 +109,7 @@ bool AxSimulationObjectGroupModelSetEntry::readContent(AxFilename const& file, C
     return false;
 }
 
-void AxSimulationObjectGroupModelSetEntry::readPart(AxEnvironmentPtr const& env, AxEnvValuePtr const& child,
+bool AxSimulationObjectGroupModelSetEntry::readPart(AxEnvironmentPtr const& env, AxEnvValuePtr const& child,
                                                     Content& content) const
 {
     AxEnvObjectPtr const object = child->castToObject();
@@ -113,21 +117,20 @@ void AxSimulationObjectGroupModelSetEntry::readPart(AxEnvironmentPtr const& env,
     if (state)
     {
         state->getSelf(env, child, nullFilenames(), nullVariableReference());
-        env->remove(child);
         content.parts.push_back({std::move(state), nullptr});
-        return;
+        return true;
     }
     bool const isElement = object && !object->isReserved();
     if (isElement && isOfEntry(*this, *object))
     {
-        return;
+        return false;
     }
     if (isElement)
     {
         reportUnknownState(*object);
     }
-    env->remove(child);
     content.parts.push_back({nullptr, child});
+    return true;
 }
 
 bool AxSimulationObjectGroupModelSetEntry::load(AxFilename const& file)

@@ -4,7 +4,9 @@
 #include "AxZedXmlUtils.h"
 #include "DatabaseFixture.h"
 
+#include <algorithm>
 #include <random>
+#include <set>
 
 namespace
 {
@@ -216,6 +218,64 @@ TEST_F(AxModelSetTest, ExactLookUpFollowsEveryChange)
     EXPECT_TRUE(models.removeModel(tanks));
     EXPECT_FALSE(models.removeModel(tanks));
     EXPECT_EQ(models.count(), 0);
+}
+
+TEST_F(AxModelSetTest, RemovalsLeaveLookUpsAndCategoriesThoseOfAWalk)
+{
+    std::mt19937 random(11);
+    auto const type = [&random] { return AxObjectType(1, 1, 1, 1, 1, 1, 1, static_cast<int>(random() % 40)); };
+    auto const pick = [&]
+    {
+        AxListItem const* item = models.first();
+        for (std::size_t i = random() % static_cast<std::size_t>(models.count()); i > 0; --i)
+        {
+            item = item->next();
+        }
+        return static_cast<AxModelSetEntry*>(AxRwList::element(item));
+    };
+    for (int step = 0; step < 2000; ++step)
+    {
+        AxModelSetEntry entry("", nullptr);
+        entry.setObjectType(type());
+        entry.categories() = std::vector<AxString>{AxString(std::to_string(random() % 30))};
+        switch (models.count() < 3 ? 0U : random() % 6)
+        {
+        case 0:
+        case 1:
+            models.addModel(&entry, true);
+            break;
+        case 2:
+            models.add(entry.clone()); // perhaps a second one of its type
+            models.addCategoriesFrom(entry);
+            break;
+        case 3:
+            pick()->setObjectType(type());
+            break;
+        case 4:
+            models.removeModel(pick());
+            break;
+        default:
+            models.removeModel(type());
+        }
+        AxObjectType const asked = type();
+        AxModelSetEntry const* first = nullptr;
+        std::set<AxString> categories;
+        for (AxModelSetEntry const* each : models)
+        {
+            first = !first && each->objectType() == asked ? each : first;
+            categories.insert(each->categories().begin(), each->categories().end());
+        }
+        AxModelSetEntry const* const found = models.find(asked);
+        ASSERT_EQ(found != nullptr, first != nullptr) << step;
+        ASSERT_TRUE(!found || found->objectType() == asked) << step;
+        std::set<AxString> const told = models.categories();
+        ASSERT_TRUE(std::includes(told.begin(), told.end(), categories.begin(), categories.end())) << step;
+    }
+    while (models.count() > 0)
+    {
+        ASSERT_TRUE(models.removeModel(pick()->objectType()));
+    }
+    EXPECT_TRUE(models.categories().empty());
 }
 
 TEST_F(AxModelSetTest, AKnownTypeTakesOverTheValuesInItsPlace)
