@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <boost/make_shared.hpp>
 #include <cstdio>
 #include <cstring>
@@ -16,6 +17,7 @@
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 #include "ConvertDatabase.h"
+#include "ConvertWriters.h"
 #include "Database.h"
 #include "Findings.h"
 #include "Json.h"
@@ -56,10 +58,7 @@ Records readEntities(AxFilename const& file, std::string const& object, ReadCont
         {
             continue;
         }
-        std::vector<AxObjectType> matchTypes;
-        AxZedXmlUtils::getMatchTypes(env, element, matchTypes);
-        record->setObjectType(AxZedXmlUtils::getObjectType(env, element));
-        record->setMatchType(matchTypes.empty() ? AxObjectType() : matchTypes.front());
+        takeTypesOfElement(*record);
         records.push_back(std::move(record));
     }
     return records;
@@ -98,6 +97,48 @@ Records readText(AxFilename const& file, Database const& database, ReadContext c
         AxDiagnostics::report(fault.diagnostic());
     }
     return records;
+}
+
+/// The entity file that the records were made of, with each record's element written anew and all else as it is. Empty
+/// after a report when it cannot be written.
+std::string asSameEntities(Records const& records)
+{
+    AxEnvironmentPtr const env = records.front()->xmlEnvironment();
+    bool isWhole = true;
+    for (auto const& record : records)
+    {
+        isWhole = replaceElement(*record) && isWhole;
+    }
+    std::string text;
+    return isWhole && AxEnvXMLWriter().writeText(env, text) ? text : std::string();
+}
+
+/// Parameter text with what the record's element holds besides.
+std::string asText(AxZedObjectParameters& record)
+{
+    AxZedXmlUtils::keepOthers(record, false);
+    return record.writtenText();
+}
+
+/// The type of an object is told by the database that lists its parameter file.
+void reportLostTypes(AxFilename const& file, AxZedObjectParameters const& record, Database const& database)
+{
+    AxObjectType const& type = record.objectType().isNull() ? record.matchType() : record.objectType();
+    auto const isListed = [&file](AxSxpParameterDbEntry const* entry)
+    {
+        std::error_code ignored;
+        return fs::equivalent(entry->foundFilename().native(), file.native(), ignored);
+    };
+    if (record.objectNode() == nullptr || type.isNull() || std::ranges::any_of(database.entries(), isListed))
+    {
+        return;
+    }
+    AxDiagnostic news;
+    news.severity = AxSeverity::Info;
+    news.code = "type-not-written";
+    news.file = file.native();
+    news.text = "a parameter file does not tell the type " + type.string().string() + "; list it in a database";
+    AxDiagnostics::report(std::move(news));
 }
 
 std::string asJson(Records const& records)
@@ -155,9 +196,15 @@ int convertRecords(Options const& options)
                      options.file.c_str());
         return CouldNotRun;
     }
-    std::string const text = options.form == "ope"    ? records.front()->writtenText()
+    bool const isSameFile = records.front()->objectNode() != nullptr && options.object.empty();
+    std::string const text = options.form == "ope"    ? asText(*records.front())
                              : options.form == "json" ? asJson(records)
+                             : isSameFile             ? asSameEntities(records)
                                                       : asEntities(records);
+    if (options.form == "ope")
+    {
+        reportLostTypes(file, *records.front(), *database);
+    }
     if (text.empty())
     {
         return CouldNotRun;

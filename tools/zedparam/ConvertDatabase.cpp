@@ -1,69 +1,39 @@
 #include "ConvertDatabase.h"
 
-#include <boost/make_shared.hpp>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
-#include <set>
 
-#include "AxEnvXMLWriter.h"
-#include "AxSxpParameterDbFileData.h"
-#include "AxSxpParameterDbWriter.h"
 #include "AxZedObjectParameters.h"
-#include "AxZedXmlUtils.h"
 #include "Commands.h"
+#include "ConvertWriters.h"
 #include "Database.h"
 #include "Findings.h"
+#include "ShownPath.h"
 
 namespace
 {
 namespace fs = std::filesystem;
 
-/// Writes what is specified, as parameter text.
-class TextWriter : public AxSxpParameterDbWriter
+/// Null after a line that says why there is none.
+std::unique_ptr<TextWriter> newWriter(Database const& database, fs::path const& target, bool toEntities)
 {
-public:
-    bool writeParameterFile(AxFilename const& file, AxZedObjectParameters* record) const override
+    if (!toEntities)
     {
-        return writeText(file, record->writtenText());
+        return std::make_unique<TextWriter>();
     }
-};
-
-/// Writes entity files, which the database finds by itself.
-class EntityWriter : public AxSxpParameterDbWriter
-{
-public:
-    bool writeParameterFile(AxFilename const& file, AxZedObjectParameters* record) const override
+    auto writer = std::make_unique<EntityWriter>(database, fs::absolute(target).lexically_normal());
+    fs::path const foreign = writer->foreignFile();
+    if (foreign.empty())
     {
-        auto const env = boost::make_shared<AxEnvironment>();
-        std::string text;
-        return AxZedXmlUtils::addObject(env, AxEnvValuePtr(), *record) && AxEnvXMLWriter().writeText(env, text) &&
-               writeText(file, text);
+        return writer;
     }
-
-protected:
-    void writeEntry(AxSxpParameterDbFileData* data, AxSxpParameterDbEntry* entry, AxFilename const& parameterDir,
-                    AxFilename const& fileDir) override
-    {
-        data->variableBindings().setString("data-root",
-                                           AxString("$(opd-dir)/" + parameterDir.stripPath().string().string()));
-        if (entry->parameters() == nullptr)
-        {
-            AxSxpParameterDbWriter::writeEntry(data, entry, parameterDir, fileDir);
-            return;
-        }
-        std::string const stem = fs::path(entry->filename().native()).stem().string();
-        std::string name = stem;
-        for (int i = 2; !myNames.insert(name).second; ++i)
-        {
-            name = stem + '-' + std::to_string(i);
-        }
-        writeParameterFile(fileDir.combine(parameterDir).combine(AxFilename(name + ".entity")), entry->parameters());
-    }
-
-private:
-    std::set<std::string> myNames;
-};
+    std::fprintf(stderr,
+                 "zedparam: cannot convert to \"%s\"; its folder holds \"%s\", which is not of this conversion: move "
+                 "that away first\n",
+                 target.c_str(), shownPath(foreign.string()).c_str());
+    return nullptr;
+}
 } // namespace
 
 int convertDatabase(std::string const& from, std::string const& to, bool toEntities)
@@ -89,19 +59,17 @@ int convertDatabase(std::string const& from, std::string const& to, bool toEntit
         return CouldNotRun;
     }
     database->readRecords("reading records");
+    std::unique_ptr<TextWriter> writer = newWriter(*database, to, toEntities);
+    if (writer == nullptr)
+    {
+        return CouldNotRun;
+    }
     std::size_t records = 0;
     for (AxSxpParameterDbEntry const* entry : database->entries())
     {
         records += entry->parameters() != nullptr;
     }
-    if (toEntities)
-    {
-        database->setWriter(new EntityWriter);
-    }
-    else
-    {
-        database->setWriter(new TextWriter);
-    }
+    database->setWriter(writer.release());
     if (!database->save(AxFilename(to)))
     {
         return CouldNotRun;
