@@ -4,6 +4,7 @@
 #include "AxSystemElement.h"
 #include "AxTreeCells.h"
 #include "AxTypeItem.h"
+#include "AxXmlDocument.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
 
@@ -20,16 +21,15 @@ constexpr char const* theBindings = "variable-bindings";
 std::unique_ptr<AxZedObjectParameters> newRecord(AxEnvironmentPtr const& env, AxEnvValuePtr element,
                                                  AxEnvObjectPtr const& platform)
 {
-    for (AxEnvObject::Attribute const& attribute : platform->attributes())
+    AxString type;
+    AxXmlDocument::Place found{};
+    if (AxXmlDocument::attributeOf(*platform, theRecordType, type, found))
     {
-        if (attribute.name == theRecordType)
-        {
-            AxlObjPtr const item = AxTreeCells::attributeItem(*platform, attribute, nullptr);
-            AxTypeItem::Scope const place(item->cdr()->car());
-            AxString const& type = attribute.value->value();
-            return std::unique_ptr<AxZedObjectParameters>(
-                AxZedObjectParameters::createParameters(type.c_str(), env, &element));
-        }
+        AxlObjPtr const item = AxTreeCells::attributeItem(AxSymbolString(theRecordType), type.string(),
+                                                          {found.line, found.column}, nullptr);
+        AxTypeItem::Scope const place(item->cdr()->car());
+        return std::unique_ptr<AxZedObjectParameters>(
+            AxZedObjectParameters::createParameters(type.c_str(), env, &element));
     }
     AxElement::report(*platform, AxSeverity::Error, "no-parameter-type",
                       "expected the attribute \"parameter-type\" in \"platform\"");

@@ -6,6 +6,8 @@
 #include "AxEnvValue.h"
 #include "AxExport.h"
 
+class AxXmlDocument;
+
 /// A node with children, in order.
 class ZEDOBJPARAM_API AxEnvList : public AxEnvValue
 {
@@ -15,8 +17,12 @@ public:
 
     bool isList() const override { return true; }
 
-    std::vector<AxEnvValuePtr> const& children() const { return myChildren; }
-    std::size_t count() const { return myChildren.size(); }
+    std::vector<AxEnvValuePtr> const& children() const
+    {
+        expand();
+        return myChildren;
+    }
+    std::size_t count() const { return children().size(); }
 
     /// Appends `child`, taking it out of the list that held it. False for null, this node itself and those above it.
     bool add(AxEnvValuePtr const& child);
@@ -26,6 +32,23 @@ public:
     bool remove(AxEnvValuePtr const& child);
     void removeAll();
 
+protected:
+    /// What was read from a document is made of it when it is looked for.
+    void expand() const
+    {
+        if (mySource) [[unlikely]]
+        {
+            expandFromSource();
+        }
+    }
+
 private:
+    friend class AxXmlDocument;
+
+    void expandFromSource() const;
+    void letGo();
+
     std::vector<AxEnvValuePtr> myChildren;
+    boost::shared_ptr<AxXmlDocument const> mySource;
+    std::uint32_t mySourceNode = 0;
 };

@@ -27,7 +27,11 @@ public:
     void setType(AxString const& type) { myType = type; }
 
     /// All attributes but the name.
-    std::vector<Attribute> const& attributes() const { return myAttributes; }
+    std::vector<Attribute> const& attributes() const
+    {
+        expand();
+        return myAttributes;
+    }
 
     /// Text of an attribute, "name" included; null when it is absent. Valid until it is set or removed.
     AxString const* attribute(AxString const& name) const;

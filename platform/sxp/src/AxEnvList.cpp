@@ -3,15 +3,24 @@
 #include <algorithm>
 
 #include "AxEnvObject.h"
+#include "AxXmlDocument.h"
 
 AxEnvList::~AxEnvList()
 {
-    removeAll();
+    letGo();
+}
+
+void AxEnvList::expandFromSource() const
+{
+    boost::shared_ptr<AxXmlDocument const> source;
+    auto& object = const_cast<AxEnvObject&>(static_cast<AxEnvObject const&>(*this)); // no other kind has a source
+    object.mySource.swap(source);
+    AxXmlDocument::expand(object, source, mySourceNode);
 }
 
 bool AxEnvList::add(AxEnvValuePtr const& child)
 {
-    return insert(myChildren.size(), child);
+    return insert(count(), child);
 }
 
 bool AxEnvList::insert(std::size_t index, AxEnvValuePtr const& child)
@@ -27,6 +36,7 @@ bool AxEnvList::insert(std::size_t index, AxEnvValuePtr const& child)
             return false;
         }
     }
+    expand();
     AxEnvValuePtr kept = child;
     if (kept->myParent != nullptr)
     {
@@ -44,6 +54,7 @@ bool AxEnvList::insert(std::size_t index, AxEnvValuePtr const& child)
 
 bool AxEnvList::remove(AxEnvValuePtr const& child)
 {
+    expand();
     auto found = std::find(myChildren.begin(), myChildren.end(), child);
     if (found == myChildren.end())
     {
@@ -57,6 +68,12 @@ bool AxEnvList::remove(AxEnvValuePtr const& child)
 }
 
 void AxEnvList::removeAll()
+{
+    expand();
+    letGo();
+}
+
+void AxEnvList::letGo()
 {
     for (AxEnvValuePtr const& child : myChildren)
     {

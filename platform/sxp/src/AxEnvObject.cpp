@@ -32,7 +32,7 @@ AxString const* AxEnvObject::attribute(AxString const& name) const
     {
         return hasName() ? &this->name() : nullptr;
     }
-    auto found = findAttribute(myAttributes, name);
+    auto found = findAttribute(attributes(), name);
     return found != myAttributes.end() ? &found->value->value() : nullptr;
 }
 
@@ -43,6 +43,7 @@ AxEnvValuePtr AxEnvObject::setAttribute(AxString const& name, AxString const& va
         setName(value);
         return {};
     }
+    expand();
     auto found = findAttribute(myAttributes, name);
     if (found != myAttributes.end())
     {
@@ -59,6 +60,7 @@ AxEnvValuePtr AxEnvObject::appendAttribute(AxString name, AxString value)
         setName(value);
         return {};
     }
+    expand();
     AxEnvValuePtr node = boost::make_shared<AxEnvValue>(std::move(value));
     myAttributes.push_back({std::move(name), node});
     node->myParent = this;
@@ -78,6 +80,7 @@ bool AxEnvObject::removeAttribute(AxString const& name)
 
 bool AxEnvObject::removeAttribute(AxEnvValuePtr const& value)
 {
+    expand();
     auto found = std::find_if(myAttributes.begin(), myAttributes.end(),
                               [&](Attribute const& attribute) { return attribute.value == value; });
     if (found == myAttributes.end())
@@ -91,7 +94,7 @@ bool AxEnvObject::removeAttribute(AxEnvValuePtr const& value)
 
 AxEnvValuePtr AxEnvObject::attributeNode(AxString const& name) const
 {
-    auto found = findAttribute(myAttributes, name);
+    auto found = findAttribute(attributes(), name);
     return found != myAttributes.end() ? found->value : AxEnvValuePtr();
 }
 

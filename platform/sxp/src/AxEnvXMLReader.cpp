@@ -15,6 +15,7 @@
 #include "AxLimits.h"
 #include "AxReadWholeFile.h"
 #include "AxWindows1252.h"
+#include "AxXmlDocument.h"
 
 namespace
 {
@@ -463,11 +464,13 @@ void reportFile(AxFilename const& file, char const* code, std::string text)
     AxDiagnostics::report(std::move(finding));
 }
 
-AxEnvironmentPtr guardedRead(std::string_view text, AxFilename const& name, bool reports)
+/// Most documents are plain and need no parser.
+AxEnvironmentPtr guardedRead(std::string&& text, AxFilename const& name, bool reports)
 {
     try
     {
-        return XmlParse(text, name, reports).read();
+        AxXmlDocument::Ptr const plain = AxXmlDocument::scanned(std::move(text));
+        return plain ? AxXmlDocument::environment(plain) : XmlParse(text, name, reports).read();
     }
     catch (std::exception const& error)
     {
@@ -482,7 +485,7 @@ AxEnvironmentPtr guardedRead(std::string_view text, AxFilename const& name, bool
 
 AxEnvironmentPtr AxEnvXMLReader::readText(std::string_view text, AxFilename const& name, bool* ok, bool reports)
 {
-    AxEnvironmentPtr environment = guardedRead(text, name, reports);
+    AxEnvironmentPtr environment = guardedRead(std::string(text), name, reports);
     if (ok != nullptr)
     {
         *ok = environment != nullptr;
@@ -494,17 +497,15 @@ AxEnvironmentPtr AxEnvXMLReader::readFile(AxFilename const& file, bool* ok, bool
 {
     std::string text;
     int error = 0;
-    if (axReadWholeFile(file, text, error))
-    {
-        return readText(text, file, ok, reports);
-    }
+    bool const isRead = axReadWholeFile(file, text, error);
+    AxEnvironmentPtr environment = isRead ? guardedRead(std::move(text), file, reports) : AxEnvironmentPtr();
     if (ok != nullptr)
     {
-        *ok = false;
+        *ok = environment != nullptr;
     }
-    if (reports)
+    if (!isRead && reports)
     {
         reportFile(file, "unreadable-file", std::string("cannot be read: ") + std::strerror(error));
     }
-    return {};
+    return environment;
 }

@@ -292,6 +292,7 @@ private:
     friend class AxRecord;
     friend class AxRwList;
     friend class AxTextReader;
+    friend class AxXmlReader;
     friend class AxPlainValue;
     friend struct ::AxReadFrame;
     friend class ::AxTreeForm;

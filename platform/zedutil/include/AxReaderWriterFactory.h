@@ -89,6 +89,7 @@ struct AxTypeInfo
     };
     AxTypeOps const* ops = nullptr;
     Reading reading = Reading::Cells;
+    bool readsTrees = false; ///< a record that overrides the data hook of trees
 };
 
 #pragma GCC diagnostic push

@@ -88,6 +88,7 @@ public:
 private:
     friend class AxReaderWriter;
     friend class AxTextReader;
+    friend class AxXmlReader;
 
     struct Own;
 

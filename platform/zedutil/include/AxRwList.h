@@ -84,6 +84,7 @@ public:
 protected:
     friend class AxReaderWriter;
     friend class AxTextReader;
+    friend class AxXmlReader;
 
     /// To be called by a derived `getData` that could make no element: the item is kept and written back.
     void keepElement(AxlObj const* item);

@@ -5,9 +5,13 @@
 
 #include <string_view>
 
+class AxXmlReader;
+
 /// Reads records straight from characters into their members. Cells are made only for what needs them: values in an
 /// unusual shape, items that no member takes, and classes that override a hook of cells. What it reads, keeps and
 /// reports is what `getSelf` does with the cells of the same text.
+///
+/// A list in XML reads its elements through one of these too, which passes the questions on.
 class ZEDOBJPARAM_API AxTextReader
 {
 public:
@@ -40,6 +44,11 @@ public:
     bool unclosed() const { return myUnclosed; }
 
 private:
+    friend class AxXmlReader;
+
+    /// For the elements of a list in XML.
+    explicit AxTextReader(AxXmlReader& xml) : myXml(&xml) {}
+
     void readItems(AxReaderWriter& rw, char const* open, AxFilenameList const& files, AxBindingsList const& bindings);
     void readElements(AxReaderWriter& rw, char const* open, AxFilenameList const& files,
                       AxBindingsList const& bindings);
@@ -53,11 +62,12 @@ private:
     bool scanReal(double& value);
     void noteUnclosed(char const* open);
 
-    AxlInputStream& myStream;
-    char const* myBegin;
-    char const* myEnd; // a zero byte
-    char const* myAt;
+    AxlInputStream* myStream = nullptr;
+    char const* myBegin = nullptr;
+    char const* myEnd = nullptr; // a zero byte
+    char const* myAt = nullptr;
     bool myUnclosed = false;
-    char const* myLineStart; // of the line located last
+    char const* myLineStart = nullptr; // of the line located last
     std::uint32_t myLine = 1;
+    AxXmlReader* myXml = nullptr; ///< answers instead
 };

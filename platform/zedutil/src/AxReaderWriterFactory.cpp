@@ -32,8 +32,9 @@ FunctionTable functionsOf(AxReaderWriter const& rw)
     return *reinterpret_cast<FunctionTable const*>(&rw);
 }
 
-// Places of the hooks of cells; the check of the slot order guards them.
+// Places of the hooks of cells and of that of trees; the check of the slot order guards them.
 constexpr std::size_t getSelfOfCells = 7;
+constexpr std::size_t getDataOfTrees = 13;
 constexpr std::size_t getDataOfCells = 14;
 constexpr std::size_t getLocalData = 62;
 
@@ -91,6 +92,8 @@ private:
         AxTypeInfo info;
         info.ops = search(typeid(rw));
         info.reading = readingOf(rw, info.ops);
+        AxReaderWriter const plain{AxSymbolString(), nullptr};
+        info.readsTrees = functionsOf(rw)[getDataOfTrees] != functionsOf(plain)[getDataOfTrees];
         return info;
     }
     static AxTypeInfo::Reading readingOf(AxReaderWriter const& rw, AxTypeOps const* ops)

@@ -13,6 +13,7 @@
 #include "AxRwString.h"
 #include "AxRwUnsigned.h"
 #include "AxRwVector.h"
+#include "AxXmlReader.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
@@ -99,7 +100,7 @@ bool isPlainName(std::string_view word)
 } // namespace
 
 AxTextReader::AxTextReader(AxlInputStream& stream)
-    : myStream(stream),
+    : myStream(&stream),
       myBegin(stream.text().data()),
       myEnd(myBegin + stream.text().size()),
       myAt(myBegin + stream.position()),
@@ -130,11 +131,15 @@ bool AxTextReader::closes()
 
 void AxTextReader::finish()
 {
-    myStream.moveTo(static_cast<std::size_t>(myAt - myBegin));
+    myStream->moveTo(static_cast<std::size_t>(myAt - myBegin));
 }
 
 AxlObjPtr AxTextReader::cellsSince(char const* place) const
 {
+    if (myXml)
+    {
+        return myXml->elementCells();
+    }
     AxlInputStream text(std::string(place, myAt));
     AxlReadOptions options;
     options.closeOpenLists = true;
@@ -165,11 +170,11 @@ bool AxTextReader::skipLead(char const* head)
 
 AxlObjPtr AxTextReader::cellsAt(char const* from)
 {
-    myStream.moveTo(static_cast<std::size_t>(from - myBegin));
+    myStream->moveTo(static_cast<std::size_t>(from - myBegin));
     AxlReadOptions options;
     options.closeOpenLists = true;
-    AxlReadResult const result = AxcRead(myStream, AxlEnv(), options);
-    myAt = myBegin + myStream.position();
+    AxlReadResult const result = AxcRead(*myStream, AxlEnv(), options);
+    myAt = myBegin + myStream->position();
     if (result.stringLine != 0)
     {
         throw result.fault(); // as for a string that is read without cells
@@ -181,6 +186,11 @@ AxlObjPtr AxTextReader::cellsAt(char const* from)
 
 void AxTextReader::locate(char const* place, std::uint32_t& line, std::uint32_t& column)
 {
+    if (myXml)
+    {
+        myXml->locateElement(line, column);
+        return;
+    }
     if (place < myLineStart)
     {
         myLineStart = myBegin;
@@ -210,6 +220,10 @@ void AxTextReader::noteUnclosed(char const* open)
 
 std::string_view AxTextReader::peekHead()
 {
+    if (myXml)
+    {
+        return myXml->elementHead();
+    }
     skipBlanks();
     if (*myAt != '(')
     {
@@ -222,6 +236,10 @@ std::string_view AxTextReader::peekHead()
 
 std::string_view AxTextReader::peekType(std::string_view wanted)
 {
+    if (myXml)
+    {
+        return myXml->elementType(wanted);
+    }
     std::string_view const head = peekHead();
     if (head.empty())
     {
@@ -255,6 +273,11 @@ std::string_view AxTextReader::peekType(std::string_view wanted)
 
 void AxTextReader::read(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings)
 {
+    if (myXml)
+    {
+        myXml->readListElement(rw, files, bindings);
+        return;
+    }
     if (!readObject(rw, files, bindings))
     {
         skipBlanks();
@@ -264,6 +287,10 @@ void AxTextReader::read(AxReaderWriter& rw, AxFilenameList const& files, AxBindi
 
 bool AxTextReader::readObject(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings)
 {
+    if (myXml)
+    {
+        return myXml->readObject(rw, files, bindings);
+    }
     AxTypeInfo const& info = AxReaderWriterFactory::typeInfo(rw);
     if (info.reading != Reading::Record && info.reading != Reading::List)
     {

@@ -120,28 +120,36 @@ bool isNullType(AxEnvObject const& object)
     return (object.type() == "objectType" || object.type() == "entityType") && value && isBlank(value->string());
 }
 
-/// An empty object of the type that an element names; null when it names none.
-std::unique_ptr<AxReaderWriter> modelOf(AxEnvObject const& object)
+std::unique_ptr<AxReaderWriter> modelFor(AxEnvObject const& object)
 {
-    AxReaderWriterFactory* const factory = AxReaderWriter::factory();
-    AxString const* const named = object.type() == AxTreeCells::theAnyTag ? object.attribute("type") : nullptr;
-    AxString const type = named ? *named : factory->mapXmlToRwType(object.type());
-    std::unique_ptr<AxReaderWriter> model(type.isNull() ? nullptr : factory->createItem(type, AxString(), nullptr));
-    if (model && !named && !(object.type() == model->xmlType()))
-    {
-        model.reset();
-    }
-    // These tags stand for many types.
-    bool const isAny = object.type() == AxTreeCells::theAnyTag || object.type() == AxTreeCells::theAnyListTag;
-    return named || !isAny ? std::move(model) : nullptr;
+    return AxTreeCells::modelOf(object.type(), object.attribute("type"));
 }
 
-/// The word that an element of a list begins with.
-AxSymbolString elementHead(AxEnvObject const& object)
+AxSymbolString headFor(AxEnvObject const& object)
 {
-    AxString const* const type = object.type() == AxTreeCells::theAnyTag ? object.attribute("type") : nullptr;
-    bool const isByType = type && (!object.hasName() || AxReaderWriter::factory()->knowsType(*type));
-    return AxSymbolString(isByType ? *type : object.name());
+    return AxTreeCells::elementHead(object.type(), object.hasName() ? &object.name() : nullptr,
+                                    object.attribute("type"));
+}
+
+AxlObjPtr valueCell(std::string_view text, Place place, AxReaderWriter const* member)
+{
+    if (text.size() > 1 && text.front() == '$' && !text.starts_with("$(") && !text.starts_with("$$("))
+    {
+        return text[1] == '$' ? textCell(text.substr(1), place)
+                              : AxlCellPool::adopt(AxlCellPool::newSymbol(AxSymbolString(text), place));
+    }
+    std::string_view const word = member ? trimmed(text) : text;
+    double number = 0.0;
+    if (axParseReal(word, number) && !isTextKind(member))
+    {
+        bool const isInteger = word.find_first_of(".eE") == std::string_view::npos;
+        return AxlCellPool::adopt(AxlCellPool::newSpelledNumber(number, isInteger, word, place));
+    }
+    if (AxTreeCells::isNumeral(word) && !isTextKind(member))
+    {
+        return placed(AxTreeCells::parsed(word)->car(), place);
+    }
+    return textCell(text, place);
 }
 
 /// Items with a keyword that others may be put behind.
@@ -337,23 +345,13 @@ bool AxTreeCells::isOfForm(AxEnvObject const& object, AxString const& attribute,
 
 AxlObjPtr AxTreeCells::attributeCell(std::string_view text, AxEnvValue const& place, AxReaderWriter const* member)
 {
-    if (text.size() > 1 && text.front() == '$' && !text.starts_with("$(") && !text.starts_with("$$("))
-    {
-        return text[1] == '$' ? textCell(text.substr(1), placeOf(place))
-                              : AxlCellPool::adopt(AxlCellPool::newSymbol(AxSymbolString(text), placeOf(place)));
-    }
-    std::string_view const word = member ? trimmed(text) : text;
-    double number = 0.0;
-    if (axParseReal(word, number) && !isTextKind(member))
-    {
-        bool const isInteger = word.find_first_of(".eE") == std::string_view::npos;
-        return AxlCellPool::adopt(AxlCellPool::newSpelledNumber(number, isInteger, word, placeOf(place)));
-    }
-    if (isNumeral(word) && !isTextKind(member))
-    {
-        return placed(parsed(word)->car(), placeOf(place));
-    }
-    return textCell(text, placeOf(place));
+    return valueCell(text, placeOf(place), member);
+}
+
+AxlObjPtr AxTreeCells::attributeItem(AxSymbolString name, std::string_view text, Place place,
+                                     AxReaderWriter const* member)
+{
+    return listOf({nameCell(name, place), valueCell(text, place, member)}, place);
 }
 
 AxlObjPtr AxTreeCells::attributeItem(AxEnvObject const& object, AxEnvObject::Attribute const& attribute,
@@ -361,9 +359,27 @@ AxlObjPtr AxTreeCells::attributeItem(AxEnvObject const& object, AxEnvObject::Att
 {
     bool const isPlaced = attribute.value->line() != 0;
     AxEnvValue const& place = isPlaced ? *attribute.value : static_cast<AxEnvValue const&>(object);
-    return listOf({nameCell(AxSymbolString(attribute.name), placeOf(place)),
-                   attributeCell(attribute.value->value().string(), place, member)},
-                  placeOf(place));
+    return attributeItem(AxSymbolString(attribute.name), attribute.value->value().string(), placeOf(place), member);
+}
+
+std::unique_ptr<AxReaderWriter> AxTreeCells::modelOf(AxString const& tag, AxString const* type)
+{
+    AxReaderWriterFactory* const factory = AxReaderWriter::factory();
+    AxString const* const named = tag == theAnyTag ? type : nullptr;
+    // Without a type these tags stand for many.
+    if (!named && (tag == theAnyTag || tag == theAnyListTag))
+    {
+        return {};
+    }
+    AxString const known = named ? *named : factory->mapXmlToRwType(tag);
+    std::unique_ptr<AxReaderWriter> model(known.isNull() ? nullptr : factory->createItem(known, AxString(), nullptr));
+    return model && !named && !(tag == model->xmlType()) ? nullptr : std::move(model);
+}
+
+AxSymbolString AxTreeCells::elementHead(AxString const& tag, AxString const* name, AxString const* type)
+{
+    bool const isByType = tag == theAnyTag && type && (!name || AxReaderWriter::factory()->knowsType(*type));
+    return isByType ? AxSymbolString(*type) : name ? AxSymbolString(*name) : AxSymbolString();
 }
 
 bool AxTreeCells::hasItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide)
@@ -421,9 +437,9 @@ AxlObjPtr AxTreeCells::childItem(AxEnvValue const& child, AxEnvObject const& par
                    : itemWith(nameCell(keyword, placeOf(child)), itemsOf(*object, member), placeOf(child));
     }
     bool const isList = !guide || dynamic_cast<AxRwList const*>(guide);
-    AxSymbolString const head = isList ? elementHead(*object) : AxSymbolString(object->name());
+    AxSymbolString const head = isList ? headFor(*object) : AxSymbolString(object->name());
     bool const isNameless = !isList && head.isNull();
-    return isNameless || (guide && guide->isValue()) ? AxlObjPtr() : expression(*object, head, modelOf(*object).get());
+    return isNameless || (guide && guide->isValue()) ? AxlObjPtr() : expression(*object, head, modelFor(*object).get());
 }
 
 AxlObjPtr AxTreeCells::expression(AxEnvObject const& object, AxSymbolString name, AxReaderWriter const* guide)

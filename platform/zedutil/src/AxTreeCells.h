@@ -1,7 +1,9 @@
 #pragma once
 
 #include "AxReaderWriter.h"
+#include "AxlCellPool.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -20,6 +22,8 @@ AxlObjPtr expression(AxEnvObject const& object, AxSymbolString name, AxReaderWri
 /// The item of an attribute; `member` is what will take it, or null.
 AxlObjPtr attributeItem(AxEnvObject const& object, AxEnvObject::Attribute const& attribute,
                         AxReaderWriter const* member);
+AxlObjPtr attributeItem(AxSymbolString name, std::string_view text, AxlCellPool::Place place,
+                        AxReaderWriter const* member);
 /// The item of a child of `parent`; nil for one that has none: text, comments, nameless unknown elements.
 AxlObjPtr childItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide);
 /// Whether that child has an item, which is told without making it.
@@ -32,6 +36,10 @@ bool isOfForm(AxEnvObject const& object, AxString const& attribute, AxReaderWrit
 
 /// An attribute's text as the cell of a value.
 AxlObjPtr attributeCell(std::string_view text, AxEnvValue const& place, AxReaderWriter const* member);
+/// An empty object of the type that an element names by its tag or, if not null, `type`; null when it names none.
+std::unique_ptr<AxReaderWriter> modelOf(AxString const& tag, AxString const* type);
+/// The word that an element of a list begins with. `name` and `type` may be null.
+AxSymbolString elementHead(AxString const& tag, AxString const* name, AxString const* type);
 /// The one cell in a text; nil when there is none, or more than one.
 AxlObjPtr cellIn(AxString const& text);
 /// All expressions in a text, as a list. Throws AxlSyntaxError.

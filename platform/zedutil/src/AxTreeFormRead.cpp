@@ -2,6 +2,7 @@
 #include "AxRegistryShape.h"
 #include "AxTreeCells.h"
 #include "AxTreeForm.h"
+#include "AxXmlReader.h"
 #include "AxlFunctions.h"
 
 #include <algorithm>
@@ -63,8 +64,27 @@ void AxTreeForm::read(AxReaderWriter& rw, AxEnvironmentPtr const& env, AxEnvValu
         reportFailure("not-an-element", node.get(), "expected an element for \"" + rw.name().string().string() + '"');
         return;
     }
-    rw.getSelf(AxTreeCells::expression(*object, AxSymbolString(object->name()), &rw), files, bindings);
-    finish(rw, env, object, files, bindings);
+    AxXmlReader reader(object);
+    if (!reader.readObject(rw, files, bindings))
+    {
+        rw.getSelf(AxTreeCells::expression(*object, AxSymbolString(object->name()), &rw), files, bindings);
+        finish(rw, env, object, files, bindings);
+    }
+    else if (reader.isOdd() || (rw.flag(AxReaderWriter::List) && !reader.oddChildren().empty()))
+    {
+        finish(rw, env, object, files, bindings);
+    }
+    else
+    {
+        for (std::uint32_t const position : reader.oddChildren())
+        {
+            AxEnvObjectPtr const child = object->children()[position]->castToObject();
+            if (AxReaderWriter* const member = AxTreeCells::memberFor(&rw, *child))
+            {
+                finish(*member, env, child, files, bindings);
+            }
+        }
+    }
 }
 
 bool AxTreeForm::readReference(AxReaderWriter& rw, AxEnvValuePtr const& node)
