@@ -72,7 +72,7 @@ AxEnvValue const* referenceBelow(AxEnvObject const& object, std::string const& w
 }
 } // namespace
 
-AxEnvValue const* ElementSource::value(std::vector<SourceStep> const& path) const
+AxEnvValue const* ElementSource::value(std::span<SourceStep const> path) const
 {
     if (path.empty() || myElement == nullptr)
     {
@@ -83,7 +83,7 @@ AxEnvValue const* ElementSource::value(std::vector<SourceStep> const& path) cons
     for (AxEnvValuePtr const& node : myElement->children())
     {
         AxEnvObject const* const child = objectIn(node);
-        std::span<SourceStep const> rest(path);
+        std::span<SourceStep const> const rest = path;
         AxEnvValue const* found = nullptr;
         if (child != nullptr && isInSystem && child->type() == "componentSystem" && matches(path[1], child->name()))
         {
@@ -96,6 +96,31 @@ AxEnvValue const* ElementSource::value(std::vector<SourceStep> const& path) cons
         if (found != nullptr)
         {
             return found;
+        }
+    }
+    return nullptr;
+}
+
+AxEnvValue const* ElementSource::variable(std::string_view name) const
+{
+    if (myElement == nullptr)
+    {
+        return nullptr;
+    }
+    for (AxEnvValuePtr const& node : myElement->children())
+    {
+        AxEnvObject const* const set = objectIn(node);
+        if (set == nullptr || set->type() != "variableBindings")
+        {
+            continue;
+        }
+        for (AxEnvValuePtr const& variable : set->children())
+        {
+            AxEnvObject const* const its = objectIn(variable);
+            if (its != nullptr && its->name().string() == name)
+            {
+                return its;
+            }
         }
     }
     return nullptr;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <span>
 #include <string_view>
-#include <vector>
 
 #include "AxEnvironment.h"
 #include "Source.h"
@@ -13,7 +13,9 @@ class ElementSource
 public:
     explicit ElementSource(AxEnvValuePtr const& element) : myElement(element->castToObject()) {}
 
-    AxEnvValue const* value(std::vector<SourceStep> const& path) const;
+    AxEnvValue const* value(std::span<SourceStep const> path) const;
+    /// What binds the variable for all of the record.
+    AxEnvValue const* variable(std::string_view name) const;
     /// The first attribute that is `$variable` or holds `$(variable)`.
     AxEnvValue const* reference(std::string_view variable) const;
 

@@ -8,8 +8,9 @@
 #include "AxNumberText.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwList.h"
-#include "AxlFunctions.h"
 #include "Json.h"
+#include "RecordValue.h"
+#include "RecordWalk.h"
 
 namespace
 {
@@ -92,21 +93,6 @@ void writeCells(JsonWriter& json, AxlObj const& items)
     json.endObject();
 }
 
-/// What the object itself writes in front of its members.
-AxlObjPtr ownItems(AxReaderWriter& rw)
-{
-    std::string text = "(";
-    rw.putData(text, 0);
-    AxlInputStream stream(text + ")");
-    return AxcRead(stream);
-}
-
-bool hasMembers(AxReaderWriter const& rw)
-{
-    AxReaderWriterRegistry const* registry = rw.registryIfAny();
-    return registry != nullptr && registry->count() != 0;
-}
-
 void writeElements(JsonWriter& json, AxRwList const& list, bool all)
 {
     json.beginArray();
@@ -186,4 +172,9 @@ void writeJson(JsonWriter& json, AxReaderWriter& rw, bool all)
     {
         writeCells(json, *ownItems(rw));
     }
+}
+
+void writeJson(JsonWriter& json, RecordWalk const& at, bool all)
+{
+    at.ownItem() != nullptr ? writeCells(json, *at.ownItem()->cdr()) : writeJson(json, at.rw(), all);
 }

@@ -1,7 +1,6 @@
 #include "Source.h"
 
 #include <exception>
-#include <span>
 
 #include "AxDiagnostic.h"
 #include "AxFilename.h"
@@ -21,10 +20,12 @@ bool matches(SourceStep const& step, AxlObj const& item)
 AxlObj const* valueBelow(AxlObj const* items, std::span<SourceStep const> path)
 {
     AxlObj const* found = nullptr;
+    int occurrence = 0;
     for (; items->isPair(); items = items->cdr())
     {
         AxlObj const& item = *items->car();
-        if (!matches(path.front(), item))
+        int const wanted = path.front().occurrence;
+        if (!matches(path.front(), item) || (wanted != SourceStep::theLast && occurrence++ != wanted))
         {
             continue;
         }
@@ -68,7 +69,7 @@ Source::Source(std::string const& file)
     }
 }
 
-AxlObj const* Source::value(std::vector<SourceStep> const& path) const
+AxlObj const* Source::value(std::span<SourceStep const> path) const
 {
     return path.empty() ? nullptr : valueBelow(myExpression->cdr(), path);
 }

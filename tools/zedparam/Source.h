@@ -1,9 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "AxSymbolString.h"
 #include "AxlObj.h"
@@ -14,8 +14,11 @@ struct AxDiagnostic;
 /// One keyword on the way from a file's first expression to a value, and what is read there, which knows its aliases.
 struct SourceStep
 {
+    static constexpr int theLast = -1;
+
     AxSymbolString keyword; ///< null: any item
     AxReaderWriter const* rw = nullptr;
+    int occurrence = theLast; ///< of an element among those of its name, from 0; of repeated members the last counts
 };
 
 /// The first expression of a file, read again to tell where something stands in it. Each search answers null when
@@ -28,8 +31,8 @@ public:
 
     /// Nil when there is none.
     AxlObj const& expression() const { return *myExpression; }
-    /// What follows the last keyword. Of repeated keywords the last counts, as in reading.
-    AxlObj const* value(std::vector<SourceStep> const& path) const;
+    /// What follows the last keyword.
+    AxlObj const* value(std::span<SourceStep const> path) const;
     /// The first `$variable`, or string with `$(variable)` in it.
     AxlObj const* reference(std::string_view variable) const;
     /// Shows `visit` every list, each before those in it.

@@ -1,0 +1,59 @@
+#include "Places.h"
+
+#include "AxZedObjectParameters.h"
+#include "ElementSource.h"
+#include "Json.h"
+#include "RecordWalk.h"
+#include "ShownPath.h"
+
+std::string Place::text() const
+{
+    std::string text = file;
+    if (line != 0)
+    {
+        text.append(":").append(std::to_string(line)).append(":").append(std::to_string(column));
+    }
+    return text;
+}
+
+void Place::write(JsonWriter& json) const
+{
+    json.member("file", file);
+    if (line != 0)
+    {
+        json.key("line").integer(line).key("column").integer(column);
+    }
+}
+
+Place Places::of(RecordWalk const& at)
+{
+    AxEnvValuePtr const& element = at.record().objectNode();
+    if (at.isInRecordsOwnFile() && element)
+    {
+        AxEnvValue const* const node = ElementSource(element).value(at.stepsInFile());
+        return {shownPath(at.file()), node != nullptr ? node->line() : 0, node != nullptr ? node->column() : 0};
+    }
+    return Places::at(at.file(), valueIn(at.file(), at.stepsInFile()));
+}
+
+Place Places::ofRecord(RecordWalk const& walk)
+{
+    std::string const& file = walk.files().front();
+    AxEnvValuePtr const& element = walk.record().objectNode();
+    return element ? Place{shownPath(file), element->line(), element->column()} : at(file, &source(file).expression());
+}
+
+AxlObj const* Places::valueIn(std::string const& file, std::span<SourceStep const> path)
+{
+    return source(file).value(path);
+}
+
+Place Places::at(std::string const& file, AxlObj const* cell)
+{
+    return {shownPath(file), cell != nullptr ? cell->line() : 0, cell != nullptr ? cell->column() : 0};
+}
+
+Source const& Places::source(std::string const& file)
+{
+    return mySources.try_emplace(file, file).first->second;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "AxEnvironment.h"
+#include "Source.h"
+
+class JsonWriter;
+class RecordWalk;
+
+/// A place in a file; both numbers count from 1 and are 0 where they are not known.
+struct Place
+{
+    std::string file;
+    unsigned line = 0;
+    unsigned column = 0;
+
+    /// "file:line:column", without what is not known.
+    std::string text() const;
+    /// The members "file", "line" and "column", into an object that was begun.
+    void write(JsonWriter& json) const;
+};
+
+/// Tells where the values of records stand. Keeps the files it has read for as long as it lives.
+class Places
+{
+public:
+    /// The value at which the walk stands; the file alone when it does not stand there.
+    Place of(RecordWalk const& at);
+    /// What follows the keywords in a file of parameter text.
+    AxlObj const* valueIn(std::string const& file, std::span<SourceStep const> path);
+    /// Where the record begins.
+    Place ofRecord(RecordWalk const& walk);
+    static Place at(std::string const& file, AxlObj const* cell);
+
+private:
+    Source const& source(std::string const& file);
+
+    std::map<std::string, Source> mySources;
+};

@@ -1,0 +1,278 @@
+#include "RecordWalk.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+#include "AxReaderWriterFile.h"
+#include "AxRwList.h"
+#include "AxRwProperty.h"
+#include "AxZedObjectParameters.h"
+#include "AxlFunctions.h"
+#include "RecordValue.h"
+
+namespace
+{
+using Step = KeywordPath::Step;
+
+bool matches(Step const& step, AxSymbolString keyword, AxReaderWriter const& rw)
+{
+    return step.kind == Step::Kind::Any || step.keyword == keyword || rw.hasAlias(step.keyword);
+}
+
+/// The one keyword that the path goes on with; null when there may be several.
+AxSymbolString onlyKeyword(std::span<Step const> rest)
+{
+    return rest.front().kind == Step::Kind::Keyword ? rest.front().keyword : AxSymbolString();
+}
+
+/// A keyword that must come in what is written of an object for the path to go on in it; empty for any.
+std::string_view neededText(std::span<Step const> rest)
+{
+    Step const& next = rest.size() > 1 && rest.front().kind == Step::Kind::AnyDepth ? rest[1] : rest.front();
+    return next.keyword.view();
+}
+} // namespace
+
+bool KeywordPath::parse(std::string_view text, KeywordPath& out, std::string& fault)
+{
+    out.myText = text;
+    out.mySteps.clear();
+    int anyDepths = 0;
+    for (std::size_t begin = 0; begin <= text.size();)
+    {
+        std::size_t const end = std::min(text.find('/', begin), text.size());
+        std::string_view const word = text.substr(begin, end - begin);
+        begin = end + 1;
+        Step::Kind const kind = word == "*"    ? Step::Kind::Any
+                                : word == "**" ? Step::Kind::AnyDepth
+                                               : Step::Kind::Keyword;
+        anyDepths += kind == Step::Kind::AnyDepth;
+        if (word.empty() || anyDepths > 1)
+        {
+            fault = "\"" + std::string(text) + "\" is no path of keywords; expected one such as \"max-speed\"";
+            fault += anyDepths > 1 ? ", with \"**\" at most once" : "";
+            return false;
+        }
+        out.mySteps.push_back({kind, kind == Step::Kind::Keyword ? AxSymbolString(word) : AxSymbolString()});
+    }
+    return true;
+}
+
+KeywordPath const& KeywordPath::everything()
+{
+    static KeywordPath const everything = []
+    {
+        KeywordPath path;
+        std::string fault;
+        parse("**", path, fault);
+        return path;
+    }();
+    return everything;
+}
+
+bool KeywordPath::isPlain() const
+{
+    return std::ranges::all_of(mySteps, [](Step const& step) { return step.kind == Step::Kind::Keyword; });
+}
+
+RecordWalk::RecordWalk(std::string file, AxZedObjectParameters& record) : myRecord(&record), myFiles{std::move(file)} {}
+
+void RecordWalk::run(KeywordPath const& path, Visit const& visit)
+{
+    myVisit = &visit;
+    below(*myRecord, path.steps());
+}
+
+std::string RecordWalk::path() const
+{
+    std::string path;
+    for (SourceStep const& step : mySteps)
+    {
+        path.append(path.empty() ? "" : "/").append(step.keyword.isNull() ? "*" : step.keyword.view());
+    }
+    return path;
+}
+
+void RecordWalk::below(AxReaderWriter& rw, Steps rest)
+{
+    if (!rw.isValue())
+    {
+        if (AxReaderWriterRegistry const* registry = rw.registryIfAny())
+        {
+            members(*registry, rest);
+        }
+        elements(rw, rest);
+        auto const* property = dynamic_cast<AxRwProperty const*>(&rw);
+        if (property != nullptr && property->rwValue() != nullptr)
+        {
+            below(*property->rwValue(), rest);
+        }
+    }
+    auto const* file = dynamic_cast<AxReaderWriterFile const*>(&rw);
+    if (file != nullptr && file->content() != nullptr && file->contentKind() != AxReaderWriterFile::ContentKind::Member)
+    {
+        content(*file, rest, nullptr, {});
+    }
+    ownWords(rw, rest);
+}
+
+void RecordWalk::members(AxReaderWriterRegistry const& registry, Steps rest)
+{
+    AxSymbolString const only = onlyKeyword(rest);
+    AxReaderWriter* const named = only.isNull() ? nullptr : registry.find(only);
+    if (!only.isNull() && named == nullptr)
+    {
+        return;
+    }
+    if (named != nullptr && named->isValue())
+    {
+        child(named->name(), SourceStep::theLast, *named, nullptr, rest);
+        return;
+    }
+    // A member that a file was read into stands in that file.
+    std::unordered_map<AxReaderWriter const*, AxReaderWriterFile const*> contents;
+    for (std::size_t i = 0; i < registry.size(); ++i)
+    {
+        auto const* file = dynamic_cast<AxReaderWriterFile const*>(registry.entry(i).member);
+        if (file != nullptr && file->contentKind() == AxReaderWriterFile::ContentKind::Member &&
+            !file->foundFilename().isNull())
+        {
+            contents.emplace(file->content(), file);
+        }
+    }
+    for (std::size_t i = 0; i < registry.size(); ++i)
+    {
+        AxRegistryEntry const entry = registry.entry(i);
+        if (entry.content || (named != nullptr && entry.member != named))
+        {
+            continue;
+        }
+        auto const file = contents.find(entry.member);
+        if (file != contents.end())
+        {
+            content(*file->second, rest, entry.member, entry.keyword);
+        }
+        else
+        {
+            child(entry.keyword, SourceStep::theLast, *entry.member, nullptr, rest);
+        }
+    }
+}
+
+void RecordWalk::elements(AxReaderWriter& rw, Steps rest)
+{
+    auto const* list = dynamic_cast<AxRwList const*>(&rw);
+    std::unordered_map<AxSymbolString, int> occurrences;
+    AxSymbolString const only = onlyKeyword(rest);
+    for (AxListItem const* item = list != nullptr ? list->first() : nullptr; item != nullptr; item = item->next())
+    {
+        AxReaderWriter& element = *AxRwList::element(item);
+        AxSymbolString const name = element.name();
+        if (only.isNull() || only == name)
+        {
+            child(name, occurrences[name]++, element, nullptr, rest);
+        }
+    }
+}
+
+void RecordWalk::content(AxReaderWriterFile const& file, Steps rest, AxReaderWriter* asMember, AxSymbolString keyword)
+{
+    std::size_t const outerFile = myFile;
+    std::size_t const outerStep = myFirstStep;
+    if (!file.foundFilename().isNull())
+    {
+        myFile = myFiles.size();
+        myFirstStep = mySteps.size() + (asMember != nullptr ? 1 : 0);
+        myFiles.push_back(file.foundFilename().native());
+    }
+    if (asMember != nullptr)
+    {
+        child(keyword, SourceStep::theLast, *asMember, nullptr, rest);
+    }
+    else
+    {
+        below(*file.content(), rest);
+    }
+    myFile = outerFile;
+    myFirstStep = outerStep;
+}
+
+void RecordWalk::ownWords(AxReaderWriter& rw, Steps rest)
+{
+    static AxSymbolString const typeWord("parameter-type");
+    bool const isType = &rw == myRecord && neededText(rest) == typeWord.view();
+    myOwnText.assign("(");
+    if (isType)
+    {
+        // What the record was made as; its class may write another.
+        myOwnText.append("(parameter-type \"").append(myRecord->parameterType().string()).append("\")");
+    }
+    else
+    {
+        rw.putData(myOwnText, 0);
+    }
+    if (myOwnText.find('(', 1) == std::string::npos || myOwnText.find(neededText(rest)) == std::string::npos)
+    {
+        return;
+    }
+    AxlInputStream stream(myOwnText + ")");
+    AxlObjPtr const items = AxcRead(stream);
+    words(rw, *items, rest);
+}
+
+void RecordWalk::words(AxReaderWriter& rw, AxlObj const& items, Steps rest)
+{
+    std::unordered_map<AxSymbolString, int> occurrences;
+    for (AxlObj const* left = &items; left->isPair(); left = left->cdr())
+    {
+        AxlObj const& item = *left->car();
+        AxSymbolString const word = item.isPair() ? item.car()->symbol() : AxSymbolString();
+        if (!word.isNull() && (onlyKeyword(rest).isNull() || onlyKeyword(rest) == word))
+        {
+            child(word, occurrences[word]++, rw, &item, rest);
+        }
+    }
+}
+
+void RecordWalk::child(AxSymbolString keyword, int occurrence, AxReaderWriter& rw, AxlObj const* item, Steps rest)
+{
+    mySteps.push_back({keyword, &rw, occurrence});
+    if (rest.front().kind != Step::Kind::AnyDepth)
+    {
+        arrive(rw, item, rest.subspan(1));
+    }
+    else
+    {
+        Steps const tail = rest.subspan(1);
+        if (tail.empty())
+        {
+            visit(rw, item);
+        }
+        else if (matches(tail.front(), keyword, rw))
+        {
+            arrive(rw, item, tail.subspan(1));
+        }
+        item != nullptr ? words(rw, *item->cdr(), rest) : below(rw, rest);
+    }
+    mySteps.pop_back();
+}
+
+void RecordWalk::arrive(AxReaderWriter& rw, AxlObj const* item, Steps rest)
+{
+    if (rest.empty())
+    {
+        visit(rw, item);
+    }
+    else
+    {
+        item != nullptr ? words(rw, *item->cdr(), rest) : below(rw, rest);
+    }
+}
+
+void RecordWalk::visit(AxReaderWriter& rw, AxlObj const* item)
+{
+    myRw = &rw;
+    myOwnItem = item;
+    (*myVisit)(*this);
+}
