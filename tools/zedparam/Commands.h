@@ -16,7 +16,9 @@ enum ExitCode
 /// Each adds one sub-command. When the command line calls it, it runs and leaves what it ended with in `exitCode`.
 void addInfoCommand(CLI::App& app, int& exitCode);
 void addListCommand(CLI::App& app, int& exitCode);
+void addFindCommand(CLI::App& app, int& exitCode);
 void addLookupCommand(CLI::App& app, int& exitCode);
+void addWhyCommand(CLI::App& app, int& exitCode);
 void addShowCommand(CLI::App& app, int& exitCode);
 void addCheckCommand(CLI::App& app, int& exitCode);
 void addSaveCommand(CLI::App& app, int& exitCode);

@@ -15,13 +15,18 @@ std::unique_ptr<Database> Database::openNone()
     return database->init() ? std::move(database) : nullptr;
 }
 
-std::unique_ptr<Database> Database::open(std::string const& file)
+std::unique_ptr<Database> Database::open(std::string const& file, std::unique_ptr<AxSxpParameterDbReader> reader)
 {
     std::unique_ptr<Database> database = openNone();
+    if (database != nullptr && reader != nullptr)
+    {
+        database->setReader(reader.release());
+    }
     if (database == nullptr || !database->load(AxFilename(file)))
     {
         return nullptr;
     }
+    database->myFile = file;
     database->myDirectory = std::filesystem::path(file).parent_path().string();
     if (database->myDirectory.empty())
     {
@@ -68,14 +73,46 @@ void Database::readRecords(std::string const& what) const
     }
 }
 
+bool Database::withRecord(AxSxpParameterDbEntry& entry, std::function<void(AxZedObjectParameters&)> const& visit) const
+{
+    std::unique_ptr<AxZedObjectParameters> const record(getParameters(&entry));
+    if (record != nullptr)
+    {
+        visit(*record);
+        entry.setParameters(nullptr);
+    }
+    return record != nullptr;
+}
+
+bool Database::forEachRecord(
+    std::string const& what,
+    std::function<void(AxSxpParameterDbEntry&, AxZedObjectParameters&, Progress&)> const& visit) const
+{
+    std::vector<AxSxpParameterDbEntry*> const all = entries();
+    Progress progress(what, all.size());
+    bool isComplete = true;
+    for (AxSxpParameterDbEntry* entry : all)
+    {
+        bool const isRead = withRecord(*entry, [&](AxZedObjectParameters& record) { visit(*entry, record, progress); });
+        isComplete = isComplete && isRead;
+        progress.step();
+    }
+    return isComplete;
+}
+
 bool Database::isPattern(AxZedParameterDbEntry const& entry)
 {
     return entry.typeIsMatchType() || std::ranges::find(entry.objectType().fields(), AxObjectType::theWildcard) !=
                                           entry.objectType().fields().end();
 }
 
-std::string Database::fileOf(AxSxpParameterDbEntry const& entry)
+std::string Database::foundFile(AxSxpParameterDbEntry const& entry)
 {
     AxFilename const found = entry.foundFilename();
-    return shownPath((found.isNull() ? entry.filename() : found).native());
+    return (found.isNull() ? entry.filename() : found).native();
+}
+
+std::string Database::fileOf(AxSxpParameterDbEntry const& entry)
+{
+    return shownPath(foundFile(entry));
 }

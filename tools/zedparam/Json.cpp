@@ -80,6 +80,12 @@ void JsonWriter::print()
     std::fwrite(whole.data(), 1, whole.size(), stdout);
 }
 
+void JsonWriter::flush()
+{
+    std::fwrite(myText.data(), 1, myText.size(), stdout);
+    myText.clear();
+}
+
 JsonWriter& JsonWriter::open(char bracket)
 {
     separate();

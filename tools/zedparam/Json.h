@@ -30,6 +30,8 @@ public:
     /// The whole value, ending in a newline.
     std::string const& text();
     void print();
+    /// Prints what was written so far and forgets it; the value may go on.
+    void flush();
 
 private:
     JsonWriter& open(char bracket);

@@ -11,6 +11,11 @@ Progress::Progress(std::string what, std::size_t total)
 
 Progress::~Progress()
 {
+    clear();
+}
+
+void Progress::clear()
+{
     if (myIsShown && myDone != 0)
     {
         std::fputs("\r\033[K", stderr);

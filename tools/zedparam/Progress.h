@@ -14,6 +14,8 @@ public:
     ~Progress();
 
     void step();
+    /// Clears the line, so that others may print; the next step shows it again.
+    void clear();
 
 private:
     std::string myWhat;

@@ -44,7 +44,9 @@ int run(int argc, char** argv)
     int exitCode = Fine;
     addInfoCommand(app, exitCode);
     addListCommand(app, exitCode);
+    addFindCommand(app, exitCode);
     addLookupCommand(app, exitCode);
+    addWhyCommand(app, exitCode);
     addShowCommand(app, exitCode);
     addCheckCommand(app, exitCode);
     addSaveCommand(app, exitCode);

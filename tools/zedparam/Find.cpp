@@ -1,0 +1,248 @@
+#include "Commands.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "AxNearest.h"
+#include "AxZedObjectParameters.h"
+#include "Catalogue.h"
+#include "Database.h"
+#include "FindExpression.h"
+#include "Findings.h"
+#include "Json.h"
+#include "Places.h"
+#include "Progress.h"
+#include "RecordJson.h"
+
+namespace
+{
+struct Options
+{
+    std::string database;
+    std::string expression;
+    std::vector<std::string> keywords;
+    bool json = false;
+};
+
+void reportFault(std::string const& expression, ExpressionFault const& fault)
+{
+    AxDiagnostic diagnostic;
+    diagnostic.file = "expression";
+    diagnostic.line = 1;
+    diagnostic.column = static_cast<unsigned>(fault.column);
+    diagnostic.text = fault.text;
+    std::fprintf(stderr, "%s\n  %s\n  %*s\n", diagnostic.format().c_str(), expression.c_str(),
+                 static_cast<int>(fault.column), "^");
+}
+
+/// Tells of the keywords that nothing had; often they are misspelt.
+void reportUnknown(FindExpression const& expression)
+{
+    for (FindExpression::Path const& path : expression.paths())
+    {
+        if (path.wasFound)
+        {
+            continue;
+        }
+        std::set<std::string_view> known;
+        for (TypeInfo const& type : knownTypes())
+        {
+            for (KeywordInfo const& info : type.keywords)
+            {
+                known.insert(info.keyword());
+            }
+        }
+        std::vector<std::string_view> const candidates(known.begin(), known.end());
+        std::string_view const nearest = axNearest(path.keywords.last(), candidates);
+        bool const isMisspelt = !nearest.empty() && nearest != path.keywords.last();
+        std::fprintf(stderr,
+                     isMisspelt ? "zedparam: no record has \"%s\"; did you mean \"%s\"?\n"
+                                : "zedparam: no record has \"%s\"\n",
+                     path.keywords.text().c_str(), std::string(nearest).c_str());
+    }
+}
+
+/// Asks record after record, and prints each that answers at once.
+class Search
+{
+public:
+    Search(Options const& options, FindExpression& expression, std::vector<KeywordPath> shown)
+        : myOptions(options), myExpression(expression), myShown(std::move(shown))
+    {
+    }
+
+    int run(Database const& database)
+    {
+        if (myOptions.json)
+        {
+            myJson.beginArray();
+        }
+        bool const isComplete =
+            database.forEachRecord("reading", [this](AxSxpParameterDbEntry& entry, AxZedObjectParameters& record,
+                                                     Progress& progress) { ask(entry, record, progress); });
+        if (myOptions.json)
+        {
+            myJson.endArray().print();
+        }
+        if (!myFault.text.empty())
+        {
+            reportFault(myOptions.expression, myFault);
+            return CouldNotRun;
+        }
+        return isComplete && myHasFound ? Fine : HasFindings;
+    }
+
+private:
+    void ask(AxSxpParameterDbEntry& entry, AxZedObjectParameters& record, Progress& progress)
+    {
+        RecordWalk walk(Database::foundFile(entry), record);
+        if (!myFault.text.empty() || !myExpression.holds(entry, walk, myFault))
+        {
+            return;
+        }
+        myHasFound = true;
+        progress.clear();
+        myOptions.json ? writeFound(entry, walk) : printFound(entry, walk);
+    }
+
+    /// Where the first value stands that is shown, else where the record begins.
+    Place placeOf(RecordWalk& walk)
+    {
+        Places places;
+        Place place;
+        for (KeywordPath const& path : myShown)
+        {
+            walk.run(path,
+                     [&](RecordWalk const& at)
+                     {
+                         bool const isGiven = at.ownItem() != nullptr || at.rw().isDue();
+                         place = place.line == 0 && isGiven && at.isInRecordsOwnFile() ? places.of(at) : place;
+                     });
+        }
+        return place.line != 0 ? place : places.ofRecord(walk);
+    }
+
+    void printFound(AxSxpParameterDbEntry const& entry, RecordWalk& walk)
+    {
+        Place const place = placeOf(walk);
+        std::string line = entry.objectType().string().string() + "  " + place.file + ":" + std::to_string(place.line) +
+                           "  " + walk.record().name().string().string();
+        for (KeywordPath const& path : myShown)
+        {
+            walk.run(path, [&line](RecordWalk const& at) { appendValue(line, at); });
+        }
+        std::printf("%s\n", line.c_str());
+    }
+
+    static void appendValue(std::string& line, RecordWalk const& at)
+    {
+        std::string const value = valueText(at);
+        if (value.empty())
+        {
+            return;
+        }
+        line.append("  ").append(at.path()).append(" ").append(value);
+        std::string unit;
+        unitOf(at, unit);
+        line.append(unit.empty() ? "" : " ").append(unit);
+        line.append(at.ownItem() != nullptr || at.rw().isDue() ? "" : " (default)");
+    }
+
+    void writeFound(AxSxpParameterDbEntry const& entry, RecordWalk& walk)
+    {
+        Place const place = placeOf(walk);
+        myJson.beginObject().member("entry", entry.objectType().string().string());
+        place.write(myJson);
+        myJson.member("name", walk.record().name().view());
+        myJson.key("values").beginArray();
+        for (KeywordPath const& path : myShown)
+        {
+            walk.run(path, [this](RecordWalk const& at) { writeValue(at); });
+        }
+        myJson.endArray().endObject().flush();
+    }
+
+    void writeValue(RecordWalk const& at)
+    {
+        myJson.beginObject().member("path", at.path()).key("value");
+        writeJson(myJson, at, false);
+        std::string unit;
+        if (unitOf(at, unit))
+        {
+            myJson.member("unit", unit);
+        }
+        myJson.key("default").boolean(at.ownItem() == nullptr && !at.rw().isDue());
+        myJson.endObject();
+    }
+
+    Options const& myOptions;
+    FindExpression& myExpression;
+    std::vector<KeywordPath> myShown;
+    ExpressionFault myFault;
+    JsonWriter myJson;
+    bool myHasFound = false;
+};
+
+int find(Options const& options)
+{
+    ExpressionFault fault;
+    std::unique_ptr<FindExpression> const expression = FindExpression::parse(options.expression, fault);
+    if (expression == nullptr)
+    {
+        reportFault(options.expression, fault);
+        return CouldNotRun;
+    }
+    std::vector<KeywordPath> shown;
+    for (std::string const& keyword : options.keywords)
+    {
+        std::string why;
+        shown.emplace_back();
+        if (!KeywordPath::parse(keyword, shown.back(), why))
+        {
+            std::fprintf(stderr, "zedparam: %s\n", why.c_str());
+            return CouldNotRun;
+        }
+    }
+    if (shown.empty())
+    {
+        std::ranges::transform(expression->paths(), std::back_inserter(shown), &FindExpression::Path::keywords);
+    }
+    Findings findings(Findings::Print::AtOnce);
+    std::unique_ptr<Database> const database = Database::open(options.database);
+    if (database == nullptr)
+    {
+        return CouldNotRun;
+    }
+    int const exitCode = Search(options, *expression, std::move(shown)).run(*database);
+    if (exitCode != CouldNotRun)
+    {
+        reportUnknown(*expression);
+    }
+    return exitCode;
+}
+} // namespace
+
+void addFindCommand(CLI::App& app, int& exitCode)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App* command = app.add_subcommand("find", "The records that meet a condition.");
+    command->add_option("DB", options->database, "The database file (.opd)")->required();
+    command
+        ->add_option("EXPRESSION", options->expression,
+                     "The condition, such as 'max-speed > 60 km/h and parameter-type = \"ground-vehicle-param\"'")
+        ->required();
+    command->add_option("KEYWORD", options->keywords, "Values to show; none: those that the condition names");
+    command->add_flag("--json", options->json, "Print JSON");
+    command->footer(
+        "Conditions: KEYWORD =, !=, <, <=, >, >= VALUE; KEYWORD ~ \"te*t\"; exists KEYWORD; specified "
+        "KEYWORD;\nand, or, not, parentheses. A KEYWORD may be a path (systems/*/reload-time), @type, @name "
+        "or @file;\na VALUE is a number with or without a unit, a text in quotes, true, false or another "
+        "KEYWORD.");
+    command->callback([options, &exitCode] { exitCode = find(*options); });
+}

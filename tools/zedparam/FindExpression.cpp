@@ -1,0 +1,195 @@
+#include "FindExpression.h"
+
+#include <algorithm>
+#include <cctype>
+#include <numbers>
+
+#include "AxSxpParameterDbEntry.h"
+#include "AxZedObjectParameters.h"
+#include "Database.h"
+#include "FindNode.h"
+
+namespace
+{
+/// `*` stands for any text, `?` for any character; upper and lower case are alike.
+bool isLike(std::string_view text, std::string_view pattern)
+{
+    auto const lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+    std::size_t star = std::string_view::npos; // the last one met, and what it stands for up to now
+    std::size_t starEnd = 0;
+    std::size_t p = 0;
+    for (std::size_t t = 0; t < text.size();)
+    {
+        if (p < pattern.size() && pattern[p] == '*')
+        {
+            star = p++;
+            starEnd = t;
+        }
+        else if (p < pattern.size() && (pattern[p] == '?' || lower(pattern[p]) == lower(text[t])))
+        {
+            ++p;
+            ++t;
+        }
+        else if (star != std::string_view::npos)
+        {
+            p = star + 1;
+            t = ++starEnd;
+        }
+        else
+        {
+            return false;
+        }
+    }
+    return pattern.find_first_not_of('*', p) == std::string_view::npos;
+}
+} // namespace
+
+/// The record that is asked, and the first unit that did not fit.
+struct FindExpression::Subject
+{
+    AxSxpParameterDbEntry const& entry;
+    RecordWalk& walk;
+    ExpressionFault& fault;
+};
+
+FindExpression::Unit const FindExpression::theUnits[] = {
+    {"m", "m", 1.0},
+    {"km", "m", 1000.0},
+    {"cm", "m", 0.01},
+    {"ft", "m", 0.3048},
+    {"nmi", "m", 1852.0},
+    {"m/s", "m/s", 1.0},
+    {"km/h", "m/s", 1.0 / 3.6},
+    {"kt", "m/s", 1852.0 / 3600.0},
+    {"m/s2", "m/s2", 1.0},
+    {"rad", "rad", 1.0},
+    {"deg", "rad", std::numbers::pi / 180.0},
+    {"rad/s", "rad/s", 1.0},
+    {"deg/s", "rad/s", std::numbers::pi / 180.0},
+    {"s", "s", 1.0},
+    {"ms", "s", 0.001},
+    {"min", "s", 60.0},
+    {"h", "s", 3600.0},
+    {"kg", "kg", 1.0},
+    {"t", "kg", 1000.0},
+    {"Hz", "Hz", 1.0},
+    {"kHz", "Hz", 1e3},
+    {"MHz", "Hz", 1e6},
+    {"GHz", "Hz", 1e9},
+};
+
+FindExpression::FindExpression() = default;
+FindExpression::~FindExpression() = default;
+
+FindExpression::Unit const* FindExpression::unit(std::string_view name)
+{
+    auto const found = std::ranges::find(theUnits, name, [](Unit const& unit) { return std::string_view(unit.name); });
+    return found != std::end(theUnits) ? found : nullptr;
+}
+
+bool FindExpression::holds(AxSxpParameterDbEntry const& entry, RecordWalk& walk, ExpressionFault& fault)
+{
+    Subject subject{entry, walk, fault};
+    return holds(*myRoot, subject) && fault.text.empty();
+}
+
+bool FindExpression::holds(Node const& node, Subject& subject)
+{
+    auto const part = [&](NodePtr const& its) { return holds(*its, subject); };
+    bool found = false;
+    switch (node.kind)
+    {
+    case Node::Kind::And:
+        return std::ranges::all_of(node.parts, part);
+    case Node::Kind::Or:
+        return std::ranges::any_of(node.parts, part);
+    case Node::Kind::Not:
+        return !part(node.parts.front());
+    case Node::Kind::Exists:
+    case Node::Kind::Specified:
+        subject.walk.run(myPaths[node.left.path].keywords,
+                         [&](RecordWalk const& at)
+                         {
+                             myPaths[node.left.path].wasFound = true;
+                             bool const isOwn = at.ownItem() != nullptr;
+                             found = found || node.kind == Node::Kind::Exists || isOwn || at.rw().isDue();
+                         });
+        return found;
+    case Node::Kind::Compare:
+        break;
+    }
+    return compares(node, subject);
+}
+
+bool FindExpression::compares(Node const& node, Subject& subject)
+{
+    std::vector<Atom> const left = atoms(node.left, node.right.unit, node.right.column, subject);
+    std::vector<Atom> const right = atoms(node.right, node.left.unit, node.left.column, subject);
+    auto const isEqual = [](Atom const& a, Atom const& b)
+    { return a.isNumber && b.isNumber ? a.number == b.number : a.text == b.text; };
+    auto const holdsFor = [&](Atom const& a, Atom const& b)
+    {
+        switch (node.op)
+        {
+        case Operator::Equal:
+        case Operator::Unequal:
+            return isEqual(a, b);
+        case Operator::Like:
+            return isLike(a.text, b.text);
+        case Operator::Less:
+            return a.isNumber && b.isNumber && a.number < b.number;
+        case Operator::LessOrEqual:
+            return a.isNumber && b.isNumber && a.number <= b.number;
+        case Operator::Greater:
+            return a.isNumber && b.isNumber && a.number > b.number;
+        case Operator::GreaterOrEqual:
+            return a.isNumber && b.isNumber && a.number >= b.number;
+        }
+        return false;
+    };
+    bool const holdsForAny = std::ranges::any_of(
+        left, [&](Atom const& a) { return std::ranges::any_of(right, [&](Atom const& b) { return holdsFor(a, b); }); });
+    return node.op == Operator::Unequal ? !holdsForAny && !left.empty() && !right.empty() : holdsForAny;
+}
+
+std::vector<Atom> FindExpression::atoms(Operand const& operand, Unit const* unit, std::size_t unitColumn,
+                                        Subject& subject)
+{
+    if (operand.kind == Operand::Kind::Literal)
+    {
+        return {operand.literal};
+    }
+    if (operand.kind == Operand::Kind::Attribute)
+    {
+        std::string const text = operand.attribute == "@type"   ? subject.entry.objectType().string().string()
+                                 : operand.attribute == "@name" ? subject.walk.record().name().string().string()
+                                                                : Database::fileOf(subject.entry);
+        return {{false, 0.0, text}};
+    }
+    std::vector<Atom> found;
+    Path& path = myPaths[operand.path];
+    subject.walk.run(path.keywords,
+                     [&](RecordWalk const& at)
+                     {
+                         path.wasFound = true;
+                         std::size_t const before = found.size();
+                         appendAtoms(at, found);
+                         if (found.size() > before + 1)
+                         {
+                             std::string whole;
+                             for (std::size_t i = before; i < found.size(); ++i)
+                             {
+                                 whole.append(i == before ? "" : " ").append(found[i].text);
+                             }
+                             found.push_back({false, 0.0, std::move(whole)});
+                         }
+                         std::string its;
+                         if (unit != nullptr && subject.fault.text.empty() && unitOf(at, its) && its != unit->base)
+                         {
+                             subject.fault = {unitColumn, "\"" + at.path() + "\" is " +
+                                                              (its.empty() ? "without a unit" : "in " + its) +
+                                                              ", which does not go with " + unit->name};
+                         }
+                     });
+    return found;
+}
