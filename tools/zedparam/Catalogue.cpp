@@ -79,7 +79,7 @@ void addKeywords(TypeInfo& type, AxReaderWriter& rw, std::string const& path, Ty
         {
             info.aliases.push_back(alias.string().string());
         }
-        info.kind = kindName(className(typeid(member)));
+        info.kind = kindOf(typeid(member));
         info.defaultText = member.isValue() ? defaultOf(member) : std::string();
         info.unit = description->unit;
         info.help = description->help;
@@ -151,6 +151,11 @@ AxReaderWriter* sampleElement(AxRwList& list)
                       AxReaderWriter::nullVariableReference());
     }
     return list.firstElement();
+}
+
+std::string kindOf(std::type_info const& type)
+{
+    return kindName(className(type));
 }
 
 std::string KeywordInfo::valueText() const

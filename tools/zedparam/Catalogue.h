@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <typeinfo>
 #include <vector>
 
 #include "AxKeyword.h"
@@ -45,6 +46,8 @@ std::vector<TypeInfo> const& knownTypes();
 /// A first element of a list, as the list itself makes it; null when it needs to be told a type, or for elements that
 /// are values.
 AxReaderWriter* sampleElement(AxRwList& list);
+/// What the class is called in words: "AxRwOffsetVector" as "offset-vector".
+std::string kindOf(std::type_info const& type);
 
 /// The object members "kind" to "from", into an object that was begun.
 void writeKeyword(JsonWriter& json, KeywordInfo const& keyword);

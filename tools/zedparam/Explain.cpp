@@ -12,7 +12,10 @@
 
 #include "AxNearest.h"
 #include "Catalogue.h"
+#include "Database.h"
+#include "Findings.h"
 #include "Json.h"
+#include "KeywordUse.h"
 
 namespace
 {
@@ -69,7 +72,7 @@ std::map<std::string, std::string> aliasesOf(Meaning const& meaning)
     return typesByAlias;
 }
 
-void tellUnknown(std::string const& keyword)
+void tellUnknown(std::string_view keyword)
 {
     std::set<std::string_view> known;
     for (TypeInfo const& type : knownTypes())
@@ -80,7 +83,7 @@ void tellUnknown(std::string const& keyword)
             known.insert(info.aliases.begin(), info.aliases.end());
         }
     }
-    std::fprintf(stderr, "zedparam: no type has the keyword \"%s\"", keyword.c_str());
+    std::fprintf(stderr, "zedparam: no type has the keyword \"%s\"", std::string(keyword).c_str());
     std::vector<std::string_view> const candidates(known.begin(), known.end());
     if (std::string_view const nearest = axNearest(keyword, candidates); !nearest.empty())
     {
@@ -113,9 +116,8 @@ void printMeaning(Meaning const& meaning)
     std::printf("\n");
 }
 
-void printJson(std::vector<Meaning> const& meanings)
+void writeMeanings(JsonWriter& json, std::vector<Meaning> const& meanings)
 {
-    JsonWriter json;
     json.beginArray();
     for (Meaning const& meaning : meanings)
     {
@@ -134,40 +136,96 @@ void printJson(std::vector<Meaning> const& meanings)
         }
         json.endObject().endObject();
     }
-    json.endArray().print();
+    json.endArray();
+}
+
+void printMeanings(std::vector<Meaning> const& meanings)
+{
+    for (Meaning const& meaning : meanings)
+    {
+        std::printf("%s", &meaning == meanings.data() ? "" : "\n");
+        printMeaning(meaning);
+    }
+}
+
+struct Options
+{
+    std::string keyword;
+    std::string database;
+    bool json = false;
+};
+
+/// What the keyword means, without a database.
+int explain(Options const& options)
+{
+    std::vector<Meaning> const meanings = meaningsOf(options.keyword);
+    if (meanings.empty())
+    {
+        tellUnknown(options.keyword);
+        return HasFindings;
+    }
+    if (options.json)
+    {
+        JsonWriter json;
+        writeMeanings(json, meanings);
+        json.print();
+        return Fine;
+    }
+    printMeanings(meanings);
+    return Fine;
+}
+
+/// The same, and how the records of the database use it. A keyword alone is meant wherever it stands.
+int explainUse(Options const& options)
+{
+    bool const isPath = options.keyword.find('/') != std::string::npos;
+    KeywordPath path;
+    std::string fault;
+    if (!KeywordPath::parse(isPath ? options.keyword : "**/" + options.keyword, path, fault))
+    {
+        std::fprintf(stderr, "zedparam: %s\n", fault.c_str());
+        return CouldNotRun;
+    }
+    Findings findings(Findings::Print::AtOnce);
+    std::unique_ptr<Database> const database = Database::open(options.database);
+    if (database == nullptr)
+    {
+        return CouldNotRun;
+    }
+    bool isComplete = false;
+    KeywordUses const uses = usesOf(path, *database, isComplete);
+    std::vector<Meaning> const meanings = meaningsOf(path.last());
+    if (options.json)
+    {
+        JsonWriter json;
+        writeMeanings(json.beginObject().key("meanings"), meanings);
+        writeUses(json.key("uses"), uses);
+        json.endObject().print();
+    }
+    else
+    {
+        printMeanings(meanings);
+        std::printf("%s%s %s\n", meanings.empty() ? "" : "\n", uses.empty() ? "not used in" : "in",
+                    options.database.c_str());
+        printUses(uses);
+    }
+    if (meanings.empty() && uses.empty())
+    {
+        tellUnknown(path.last());
+    }
+    return isComplete && !uses.empty() ? Fine : HasFindings;
 }
 } // namespace
 
 void addExplainCommand(CLI::App& app, int& exitCode)
 {
-    struct Options
-    {
-        std::string keyword;
-        bool json = false;
-    };
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("explain", "What a keyword means, and which types have it.");
-    command->add_option("KEYWORD", options->keyword, "The keyword, such as max-speed")->required();
+    CLI::App* command =
+        app.add_subcommand("explain", "What a keyword means, which types have it, and how a database uses it.");
+    command->add_option("KEYWORD", options->keyword, "The keyword, such as max-speed; with a database also a path")
+        ->required();
+    command->add_option("DB", options->database, "A database file (.opd) to tell the use in");
     command->add_flag("--json", options->json, "Print JSON; under \"types\" stands the default of each");
-    command->callback(
-        [options, &exitCode]
-        {
-            std::vector<Meaning> const meanings = meaningsOf(options->keyword);
-            if (meanings.empty())
-            {
-                tellUnknown(options->keyword);
-                exitCode = HasFindings;
-                return;
-            }
-            if (options->json)
-            {
-                printJson(meanings);
-                return;
-            }
-            for (Meaning const& meaning : meanings)
-            {
-                std::printf("%s", &meaning == meanings.data() ? "" : "\n");
-                printMeaning(meaning);
-            }
-        });
+    command->callback([options, &exitCode]
+                      { exitCode = options->database.empty() ? explain(*options) : explainUse(*options); });
 }

@@ -1,21 +1,22 @@
 #include "Commands.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "Answer.h"
 #include "AxNearest.h"
-#include "AxReaderWriterFile.h"
-#include "AxRwList.h"
 #include "AxZedObjectParameters.h"
 #include "Findings.h"
 #include "Json.h"
+#include "Origin.h"
 #include "RecordJson.h"
+#include "RecordValue.h"
+#include "RecordWalk.h"
 
 namespace
 {
@@ -26,76 +27,80 @@ struct Options
     std::vector<std::string> keywords;
     bool json = false;
     bool all = false;
+    bool origin = false;
 };
 
-/// The member, list element or content of that name; null when there is none. `known` receives all names there are.
-AxReaderWriter* childOf(AxReaderWriter& parent, std::string_view name, std::vector<std::string_view>& known)
+/// Tells that the record has nothing of that path, and what may be meant.
+void tellMissing(RecordWalk& walk, KeywordPath const& path)
 {
-    AxReaderWriter* found = nullptr;
-    auto const offer = [&](AxReaderWriter* child, std::string_view childName)
+    // The longest beginning of the path that there is, and what stands below that.
+    std::string const& text = path.text();
+    std::string parent = walk.record().name().string().string();
+    std::string missing = text.substr(0, text.find('/'));
+    std::vector<std::string> names;
+    auto const collect = [&](std::string const& pattern, auto const& visit)
     {
-        known.push_back(childName);
-        found = found == nullptr && childName == name ? child : found;
+        KeywordPath below;
+        std::string fault;
+        KeywordPath::parse(pattern, below, fault);
+        walk.run(below, visit);
     };
-    if (AxReaderWriterRegistry const* registry = parent.registryIfAny())
+    for (std::size_t end = text.rfind('/'); end != std::string::npos && end != 0; end = text.rfind('/', end - 1))
     {
-        for (std::size_t i = 0; i < registry->size(); ++i)
+        bool isThere = false;
+        collect(text.substr(0, end), [&](RecordWalk const&) { isThere = true; });
+        if (isThere)
         {
-            AxRegistryEntry const entry = registry->entry(i);
-            if (!entry.content && !entry.keyword.isNull())
-            {
-                offer(entry.member, entry.keyword.view());
-            }
+            std::string const prefix = text.substr(0, end);
+            parent = prefix.substr(prefix.rfind('/') + 1);
+            missing = text.substr(end + 1, text.find('/', end + 1) - end - 1);
+            collect(prefix + "/*", [&](RecordWalk const& at) { names.push_back(at.keyword().string().string()); });
+            break;
         }
     }
-    if (auto const* list = dynamic_cast<AxRwList const*>(&parent))
+    if (names.empty())
     {
-        for (AxListItem const* item = list->first(); item != nullptr; item = item->next())
-        {
-            AxReaderWriter* element = AxRwList::element(item);
-            offer(element, element->name().view());
-        }
+        collect("*", [&](RecordWalk const& at) { names.push_back(at.keyword().string().string()); });
     }
-    auto const* file = dynamic_cast<AxReaderWriterFile const*>(&parent);
-    if (file != nullptr && file->content() != nullptr)
-    {
-        return childOf(*file->content(), name, known);
-    }
-    return found;
+    std::vector<std::string_view> const known(names.begin(), names.end());
+    std::string_view const nearest = axNearest(missing, known);
+    std::fprintf(stderr, "zedparam: \"%s\" has no \"%s\"", parent.c_str(), missing.c_str());
+    std::fprintf(stderr, nearest.empty() ? "\n" : "; did you mean \"%s\"?\n", std::string(nearest).c_str());
 }
 
-/// The object at the end of a path such as "systems/main-gun/reload-time"; null after a line when there is none.
-AxReaderWriter* find(AxReaderWriter& record, std::string_view path)
+/// False, after a line, when one is no path or the record has nothing there.
+bool readPaths(std::vector<std::string> const& keywords, RecordWalk& walk, std::vector<KeywordPath>& paths)
 {
-    AxReaderWriter* current = &record;
-    for (std::size_t begin = 0; begin <= path.size();)
+    for (std::string const& keyword : keywords)
     {
-        std::size_t const end = std::min(path.find('/', begin), path.size());
-        std::string_view const name = path.substr(begin, end - begin);
-        begin = end + 1;
-        if (name.empty())
+        KeywordPath path;
+        std::string fault;
+        if (!KeywordPath::parse(keyword, path, fault))
         {
-            std::fprintf(stderr, "zedparam: \"%s\" is no path of keywords; expected one such as \"max-speed\"\n",
-                         std::string(path).c_str());
-            return nullptr;
+            std::fprintf(stderr, "zedparam: %s\n", fault.c_str());
+            return false;
         }
-        std::vector<std::string_view> known;
-        AxReaderWriter* child = childOf(*current, name, known);
-        if (child == nullptr)
+        bool isThere = false;
+        walk.run(path, [&isThere](RecordWalk const&) { isThere = true; });
+        if (!isThere)
         {
-            std::fprintf(stderr, "zedparam: \"%s\" has no \"%s\"", current->name().c_str(), std::string(name).c_str());
-            std::string_view const nearest = axNearest(name, known);
-            std::fprintf(stderr, nearest.empty() ? "\n" : "; did you mean \"%s\"?\n", std::string(nearest).c_str());
-            return nullptr;
+            tellMissing(walk, path);
+            return false;
         }
-        current = child;
+        paths.push_back(std::move(path));
     }
-    return current;
+    return true;
 }
 
 /// The value as text, with what is known of it as a comment.
-void printText(AxReaderWriter& rw, bool all)
+void printText(RecordWalk const& at, bool all)
 {
+    if (at.ownItem() != nullptr)
+    {
+        std::printf("(%s %s)\n", at.keyword().c_str(), valueText(at).c_str());
+        return;
+    }
+    AxReaderWriter& rw = at.rw();
     std::string text;
     rw.putSelf(text, 0, all, AxFilename::nullFilename());
     AxKeyword const* description = rw.description();
@@ -107,22 +112,93 @@ void printText(AxReaderWriter& rw, bool all)
     std::printf("%s\n", text.c_str());
 }
 
-void printJson(Answer const& answer, std::vector<AxReaderWriter*> const& chosen, Options const& options)
+/// What several objects have under one path comes as an array.
+void writeValues(JsonWriter& json, RecordWalk& walk, KeywordPath const& path, bool all)
+{
+    std::size_t count = 0;
+    walk.run(path, [&count](RecordWalk const&) { ++count; });
+    if (count > 1)
+    {
+        json.beginArray();
+    }
+    walk.run(path, [&](RecordWalk const& at) { writeJson(json, at, all); });
+    if (count > 1)
+    {
+        json.endArray();
+    }
+}
+
+void printJson(Answer const& answer, RecordWalk& walk, std::vector<KeywordPath> const& paths, bool all)
 {
     JsonWriter json;
     json.beginObject();
     writeAnswer(json, answer);
     json.key("values").beginObject();
-    for (std::size_t i = 0; i < chosen.size(); ++i)
+    for (KeywordPath const& path : paths)
     {
-        json.key(options.keywords[i]);
-        writeJson(json, *chosen[i], options.all);
+        json.key(path.text());
+        writeValues(json, walk, path, all);
     }
-    if (options.keywords.empty())
+    if (paths.empty())
     {
-        writeJsonMembers(json, *answer.record, options.all);
+        writeJsonMembers(json, *answer.record, all);
     }
     json.endObject().endObject().print();
+}
+
+/// Shows `visit` each value of the paths and below them; without paths those of the whole record that are given.
+template <class Visit>
+void forEachValue(RecordWalk& walk, std::vector<KeywordPath> const& paths, bool all, Visit const& visit)
+{
+    auto const visitValue = [&](RecordWalk const& at, bool alsoDefaults)
+    {
+        bool const isGiven = at.ownItem() != nullptr || at.rw().isDue() || at.rw().inherited();
+        bool const isPart = at.ownItem() != nullptr && isLeaf(at.rw());
+        std::string const value = isPart ? std::string() : valueText(at);
+        if (!value.empty() && value.front() != '(' && (isGiven || alsoDefaults))
+        {
+            visit(at, value);
+        }
+    };
+    if (paths.empty())
+    {
+        walk.run(KeywordPath::everything(), [&](RecordWalk const& at) { visitValue(at, all); });
+    }
+    for (KeywordPath const& path : paths)
+    {
+        walk.run(path, [&](RecordWalk const& at) { visitValue(at, true); });
+        KeywordPath below;
+        std::string fault;
+        if (KeywordPath::parse(path.text() + "/**", below, fault))
+        {
+            walk.run(below, [&](RecordWalk const& at) { visitValue(at, all); });
+        }
+    }
+}
+
+void printOrigins(Answer const& answer, RecordWalk& walk, std::vector<KeywordPath> const& paths, Options const& options)
+{
+    Origins origins(options.database, walk.files().front(), *answer.record);
+    if (!options.json)
+    {
+        forEachValue(walk, paths, options.all,
+                     [&](RecordWalk const& at, std::string const& value) {
+                         std::printf("%s %s  ; %s\n", at.path().c_str(), value.c_str(), origins.of(at).text().c_str());
+                     });
+        return;
+    }
+    JsonWriter json;
+    json.beginObject();
+    writeAnswer(json, answer);
+    json.key("values").beginArray();
+    forEachValue(walk, paths, options.all,
+                 [&](RecordWalk const& at, std::string const&)
+                 {
+                     writeJson(json.beginObject().member("path", at.path()).key("value"), at, true);
+                     origins.of(at).write(json);
+                     json.endObject();
+                 });
+    json.endArray().endObject().print();
 }
 
 int show(Options const& options)
@@ -134,28 +210,29 @@ int show(Options const& options)
     {
         return exitCode;
     }
-    std::vector<AxReaderWriter*> chosen;
-    for (std::string const& keyword : options.keywords)
+    RecordWalk walk(Database::foundFile(*answer.entry), *answer.record);
+    std::vector<KeywordPath> paths;
+    if (!readPaths(options.keywords, walk, paths))
     {
-        chosen.push_back(find(*answer.record, keyword));
-        if (chosen.back() == nullptr)
-        {
-            return CouldNotRun;
-        }
+        return CouldNotRun;
     }
-    if (options.json)
+    if (options.origin)
     {
-        printJson(answer, chosen, options);
+        printOrigins(answer, walk, paths, options);
     }
-    else if (chosen.empty())
+    else if (options.json)
+    {
+        printJson(answer, walk, paths, options.all);
+    }
+    else if (paths.empty())
     {
         std::printf("%s", answer.record->writtenText(options.all).c_str());
     }
-    else
+    for (KeywordPath const& path : paths)
     {
-        for (AxReaderWriter* rw : chosen)
+        if (!options.origin && !options.json)
         {
-            printText(*rw, options.all);
+            walk.run(path, [&options](RecordWalk const& at) { printText(at, options.all); });
         }
     }
     return findings.empty() ? Fine : HasFindings;
@@ -172,5 +249,7 @@ void addShowCommand(CLI::App& app, int& exitCode)
                         "Values to show, such as max-speed or systems/main-gun/reload-time; none: the whole record");
     command->add_flag("--json", options->json, "Print JSON");
     command->add_flag("--all", options->all, "Show members that hold their default, too");
+    command->add_flag("--origin", options->origin,
+                      "Show for each value where it comes from: its place, a variable, another record, a default");
     command->callback([options, &exitCode] { exitCode = show(*options); });
 }

@@ -1,0 +1,222 @@
+#include "Origin.h"
+
+#include <utility>
+
+#include "AxComponentSystemDescriptor.h"
+#include "AxSystemParameterData.h"
+#include "AxZedObjectParameters.h"
+#include "ElementSource.h"
+#include "Json.h"
+#include "ShownPath.h"
+
+namespace
+{
+constexpr std::size_t theLongestChain = 32;
+
+/// How the walk reached its first steps, as a path.
+KeywordPath pathOf(std::span<SourceStep const> steps, std::string const& rest)
+{
+    std::string text;
+    for (SourceStep const& step : steps)
+    {
+        text.append(step.keyword.isNull() ? "*" : step.keyword.view()).append("/");
+    }
+    KeywordPath path;
+    std::string fault;
+    KeywordPath::parse(text + rest, path, fault);
+    return path;
+}
+
+/// How many steps lead to the innermost component system around the value; 0 when there is none.
+std::size_t stepsToSystem(RecordWalk const& at)
+{
+    std::size_t count = at.steps().size() - 1;
+    while (count > 0 && dynamic_cast<AxComponentSystemDescriptor const*>(at.steps()[count - 1].rw) == nullptr)
+    {
+        --count;
+    }
+    return count;
+}
+} // namespace
+
+Place const& Origin::valuePlace() const
+{
+    return bindings.empty() || bindings.back().place.file.empty() ? place : bindings.back().place;
+}
+
+std::string Origin::text() const
+{
+    switch (kind)
+    {
+    case Kind::Given:
+        return place.text();
+    case Kind::Inherited:
+        return "inherited from " + parent + ", " + place.text();
+    case Kind::Default:
+        return place.file.empty() ? "default" : "default, " + place.text();
+    case Kind::Variable:
+        break;
+    }
+    std::string text = place.text();
+    for (Binding const& binding : bindings)
+    {
+        text += ", $" + binding.variable;
+        text += binding.member.empty() ? "" : " set by " + binding.member;
+        text += binding.place.file.empty() ? " is not bound" : " at " + binding.place.text();
+    }
+    return text;
+}
+
+void Origin::write(JsonWriter& json) const
+{
+    constexpr char const* theKinds[] = {"default", "file", "inherited", "variable"};
+    json.member("origin", theKinds[static_cast<int>(kind)]);
+    if (!place.file.empty())
+    {
+        place.write(json);
+    }
+    if (!parent.empty())
+    {
+        json.member("from", parent);
+    }
+    if (kind == Kind::Variable)
+    {
+        json.key("bindings").beginArray();
+        for (Binding const& binding : bindings)
+        {
+            json.beginObject().member("variable", binding.variable);
+            if (!binding.member.empty())
+            {
+                json.member("set-by", binding.member);
+            }
+            if (!binding.place.file.empty())
+            {
+                binding.place.write(json);
+            }
+            json.endObject();
+        }
+        json.endArray();
+    }
+}
+
+Origins::Origins(std::string databaseFile, std::string recordFile, AxZedObjectParameters& record)
+    : myDatabaseFile(std::move(databaseFile)), myRecordFile(std::move(recordFile)), myRecord(record)
+{
+}
+
+Origin Origins::of(RecordWalk const& at)
+{
+    AxReaderWriter const& rw = at.rw();
+    Origin origin;
+    if (at.ownItem() == nullptr && rw.isVariableReference())
+    {
+        origin.kind = Origin::Kind::Variable;
+        origin.place = myPlaces.of(at);
+        bind(rw.variableName().string().string(), at, origin);
+    }
+    else if (at.ownItem() != nullptr || rw.valueSpecified())
+    {
+        origin.place = myPlaces.of(at);
+        origin.kind = Origin::Kind::Given;
+    }
+    if (origin.place.line == 0) // also some defaults count as given, so that they are written
+    {
+        origin = ofDefault(at);
+    }
+    return origin;
+}
+
+Origin Origins::ofDefault(RecordWalk const& at)
+{
+    // A component system's definition declares its parameters with their defaults.
+    Origin origin;
+    std::size_t const system = stepsToSystem(at);
+    if (system == 0 || system + 1 != at.steps().size())
+    {
+        return origin;
+    }
+    RecordWalk walk(myRecordFile, myRecord);
+    walk.run(pathOf(at.steps().first(system), "system-definition/meta-data/parameter-data-list/*/default-value"),
+             [&](RecordWalk const& declared)
+             {
+                 auto const* data =
+                     dynamic_cast<AxSystemParameterData const*>(declared.steps()[declared.steps().size() - 2].rw);
+                 if (data != nullptr && at.keyword() == data->parameterName())
+                 {
+                     origin.place = myPlaces.of(declared);
+                 }
+             });
+    return origin;
+}
+
+AxlObj const* Origins::cellOf(std::string const& variable, Place& place)
+{
+    SourceStep const steps[] = {{AxSymbolString("variable-bindings"), &myRecord},
+                                {AxSymbolString(std::string_view(variable)), &myRecord}};
+    if (AxEnvValuePtr const& element = myRecord.objectNode())
+    {
+        if (AxEnvValue const* const node = ElementSource(element).variable(variable))
+        {
+            place = {shownPath(myRecordFile), node->line(), node->column()};
+            return AxlObj::nilCell();
+        }
+    }
+    else if (AxlObj const* const cell = myPlaces.valueIn(myRecordFile, steps))
+    {
+        place = Places::at(myRecordFile, cell);
+        return cell;
+    }
+    AxlObj const* const cell = myPlaces.valueIn(myDatabaseFile, steps);
+    if (cell != nullptr)
+    {
+        place = Places::at(myDatabaseFile, cell);
+    }
+    return cell;
+}
+
+void Origins::bind(std::string variable, RecordWalk const& at, Origin& origin)
+{
+    while (origin.bindings.size() < theLongestChain)
+    {
+        Place place;
+        AxlObj const* const cell = cellOf(variable, place);
+        if (cell == nullptr)
+        {
+            if (variable == "opd-dir")
+            {
+                place.file = shownPath(myDatabaseFile);
+            }
+            if (!place.file.empty() || !bindToSystem(variable, at, origin))
+            {
+                origin.bindings.push_back({variable, "", place});
+            }
+            return;
+        }
+        origin.bindings.push_back({variable, "", place});
+        if (!cell->isReference())
+        {
+            return;
+        }
+        variable = cell->text().substr(1);
+    }
+}
+
+bool Origins::bindToSystem(std::string const& variable, RecordWalk const& at, Origin& origin)
+{
+    std::size_t const system = stepsToSystem(at);
+    bool isFound = false;
+    RecordWalk walk(myRecordFile, myRecord);
+    if (system == 0 || system + 1 == at.steps().size())
+    {
+        return false;
+    }
+    walk.run(pathOf(at.steps().first(system), variable),
+             [&](RecordWalk const& member)
+             {
+                 Origin const its = of(member);
+                 origin.bindings.push_back({variable, member.path(), its.place});
+                 origin.bindings.insert(origin.bindings.end(), its.bindings.begin(), its.bindings.end());
+                 isFound = true;
+             });
+    return isFound;
+}
