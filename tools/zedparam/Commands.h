@@ -33,3 +33,4 @@ void addGraphCommand(CLI::App& app, int& exitCode);
 void addSetCommand(CLI::App& app, int& exitCode);
 void addUnsetCommand(CLI::App& app, int& exitCode);
 void addFmtCommand(CLI::App& app, int& exitCode);
+void addDiffCommand(CLI::App& app, int& exitCode);

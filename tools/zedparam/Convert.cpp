@@ -14,14 +14,12 @@
 #include "AxReadWholeFile.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
-#include "AxlFunctions.h"
-#include "AxlSyntaxError.h"
 #include "ConvertDatabase.h"
 #include "ConvertWriters.h"
 #include "Database.h"
 #include "Findings.h"
 #include "Json.h"
-#include "ReadContext.h"
+#include "RecordFile.h"
 #include "RecordJson.h"
 #include "WriteFile.h"
 
@@ -37,67 +35,6 @@ struct Options
     std::string database;
     std::string object;
 };
-
-using Records = std::vector<std::unique_ptr<AxZedObjectParameters>>;
-
-Records readEntities(AxFilename const& file, std::string const& object, ReadContext const& context)
-{
-    Records records;
-    AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
-    std::list<AxEnvValuePtr> elements;
-    AxZedXmlUtils::getObjectElements(env, elements);
-    for (AxEnvValuePtr const& element : elements)
-    {
-        if (!object.empty() && !(AxReaderWriter::getAttribute(env, "name", element) == AxString(object)))
-        {
-            continue;
-        }
-        std::unique_ptr<AxZedObjectParameters> record(
-            AxZedXmlUtils::createParameters(env, element, context.files, context.bindings));
-        if (record == nullptr)
-        {
-            continue;
-        }
-        takeTypesOfElement(*record);
-        records.push_back(std::move(record));
-    }
-    return records;
-}
-
-Records readText(AxFilename const& file, Database const& database, ReadContext const& context)
-{
-    Records records;
-    std::string text;
-    int error = 0;
-    if (!axReadWholeFile(file, text, error))
-    {
-        std::fprintf(stderr, "zedparam: cannot read \"%s\": %s\n", file.c_str(), std::strerror(error));
-        return records;
-    }
-    try
-    {
-        AxlInputStream stream(text);
-        std::unique_ptr<AxZedObjectParameters> record(
-            AxZedObjectParameters::createParameters(AxcRead(stream), context.files, context.bindings));
-        if (record != nullptr)
-        {
-            for (AxSxpParameterDbEntry const* entry : database.entries())
-            {
-                std::error_code ignored;
-                if (fs::equivalent(entry->foundFilename().native(), file.native(), ignored))
-                {
-                    record->setObjectType(entry->objectType());
-                }
-            }
-            records.push_back(std::move(record));
-        }
-    }
-    catch (AxlSyntaxError const& fault)
-    {
-        AxDiagnostics::report(fault.diagnostic());
-    }
-    return records;
-}
 
 /// The entity file that the records were made of, with each record's element written anew and all else as it is. Empty
 /// after a report when it cannot be written.
@@ -185,9 +122,7 @@ int convertRecords(Options const& options)
     }
     AxFilename const file(options.file);
     AxSourceScope const scope(file);
-    ReadContext const context(options.file, *database);
-    Records const records =
-        file.extension() == "entity" ? readEntities(file, options.object, context) : readText(file, *database, context);
+    Records const records = readRecords(options.file, options.object, *database);
     if (records.empty() || (records.size() > 1 && options.form == "ope"))
     {
         std::fprintf(stderr,

@@ -61,6 +61,7 @@ int run(int argc, char** argv)
     addSetCommand(app, exitCode);
     addUnsetCommand(app, exitCode);
     addFmtCommand(app, exitCode);
+    addDiffCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "AxEnvironment.h"
+#include "AxReaderWriter.h"
+#include "Differences.h"
+
+class Database;
+
+/// One object of a file, or all of it, to be held against its like in whatever notation.
+struct Document
+{
+    enum class Kind
+    {
+        Record,
+        Content, ///< of a table, definition or model set; the head word is free
+        Tree     ///< of no known kind: compared as it stands
+    };
+
+    Kind kind = Kind::Tree;
+    std::string file{};
+    std::string name{};               ///< of an object in a file that may hold several; else empty
+    AxReaderWriter* object = nullptr; ///< null for a Tree
+    std::shared_ptr<AxReaderWriter> owned{};
+    AxEnvValuePtr element{}; ///< the object's or the root element of an XML file
+    bool hasParts = false;   ///< the element's types and what users see of it count, too
+};
+
+/// What is in a file; empty after reports when it cannot be read. `database` binds variables of records.
+std::vector<Document> readDocuments(std::string const& file, Database const& database);
+
+/// A document as a tree of items: what is known as it would be saved, everything else as it stands.
+class DocumentTree
+{
+public:
+    /// With `all`, values that hold their default are in it, too.
+    DocumentTree(Document const& document, bool all);
+
+    Item const& root() const { return myRoot; }
+    Item& root() { return myRoot; }
+    /// Gives an element of an entity file its types and what users see of it; a record's text has no place for them.
+    void addEntityParts(Document const& document);
+
+private:
+    std::unique_ptr<TextTree> myText;
+    Item myRoot;
+};
+
+/// Finds where items of a document stand in its file.
+class DocumentPlaces
+{
+public:
+    explicit DocumentPlaces(Document const& document) : myDocument(document) {}
+
+    /// The place of an item's value; of what is not there, that of what it would stand in.
+    TextTree::Place placeOf(Difference const& difference, int side);
+    /// What is read at the path; null when nothing is known of it.
+    AxReaderWriter* objectAt(ItemPath const& path, int side) const;
+
+private:
+    TextTree::Place inText(ItemPath const& path, int side);
+    TextTree::Place inElement(ItemPath const& path, int side) const;
+
+    Document const& myDocument;
+    std::unique_ptr<TextTree> myText;
+    Item mySource;
+};
