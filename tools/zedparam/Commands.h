@@ -34,3 +34,4 @@ void addSetCommand(CLI::App& app, int& exitCode);
 void addUnsetCommand(CLI::App& app, int& exitCode);
 void addFmtCommand(CLI::App& app, int& exitCode);
 void addDiffCommand(CLI::App& app, int& exitCode);
+void addMergeCommand(CLI::App& app, int& exitCode);

@@ -4,11 +4,8 @@
 #include <algorithm>
 #include <boost/make_shared.hpp>
 #include <cstdio>
-#include <cstring>
-#include <filesystem>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "AxEnvXMLWriter.h"
 #include "AxReadWholeFile.h"
@@ -25,8 +22,6 @@
 
 namespace
 {
-namespace fs = std::filesystem;
-
 struct Options
 {
     std::string file;

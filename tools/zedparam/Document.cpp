@@ -1,8 +1,6 @@
 #include "Document.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 
 #include "AxComponentSystemDefinition.h"
@@ -11,7 +9,9 @@
 #include "AxModelSet.h"
 #include "AxReadWholeFile.h"
 #include "ElementSource.h"
+#include "Findings.h"
 #include "Member.h"
+#include "ReadFile.h"
 #include "RecordFile.h"
 #include "Tables.h"
 
@@ -29,11 +29,10 @@ std::vector<Document> recordDocuments(std::string const& file, Database const& d
 {
     std::vector<Document> result;
     Records records = readRecords(file, {}, database);
-    bool const hasMany = records.size() > 1;
     for (auto& record : records)
     {
         AxEnvValuePtr const element = record->objectNode();
-        std::string const name = hasMany ? record->AxReaderWriter::name().string().string() : std::string();
+        std::string const name = record->AxReaderWriter::name().string().string();
         Document& document = result.emplace_back(documentOf(file, Document::Kind::Record, std::move(record)));
         document.name = name;
         document.element = element;
@@ -42,20 +41,7 @@ std::vector<Document> recordDocuments(std::string const& file, Database const& d
     return result;
 }
 
-/// False after a report.
-bool readText(std::string const& file, std::string& text)
-{
-    int error = 0;
-    if (axReadWholeFile(AxFilename(file), text, error))
-    {
-        return true;
-    }
-    std::fprintf(stderr, "zedparam: cannot read \"%s\": %s\n", file.c_str(), std::strerror(error));
-    return false;
-}
-
-/// The object that all of the file is read into; null when its kind is not known.
-std::shared_ptr<AxReaderWriter> contentOf(std::string const& file)
+std::shared_ptr<AxReaderWriter> readContent(std::string const& file)
 {
     std::string const extension = fs::path(file).extension().string();
     if (extension == ".models")
@@ -69,6 +55,16 @@ std::shared_ptr<AxReaderWriter> contentOf(std::string const& file)
         content = std::make_shared<AxComponentSystemDefinition>(AxComponentSystemDefinition::elementWord(), nullptr);
     }
     return content != nullptr && loadTable(file, *content) ? content : nullptr;
+}
+
+/// The object that all of the file is read into; null when its kind is not known, or when not all of it could be read.
+std::shared_ptr<AxReaderWriter> contentOf(std::string const& file)
+{
+    Findings findings(Findings::Print::Never);
+    std::shared_ptr<AxReaderWriter> content = readContent(file);
+    bool const isWhole = std::ranges::none_of(findings.sorted(), [](AxDiagnostic const& finding)
+                                              { return finding.severity == AxSeverity::Error; });
+    return isWhole ? content : nullptr;
 }
 
 bool isRecord(TextItem const& root)
@@ -111,7 +107,7 @@ TextTree::Place valuePlace(Item const& item)
 std::vector<Document> readDocuments(std::string const& file, Database const& database)
 {
     std::string text;
-    if (!readText(file, text))
+    if (!readFile(file, text))
     {
         return {};
     }
@@ -161,7 +157,7 @@ DocumentTree::DocumentTree(Document const& document, bool all)
     }
     else
     {
-        readText(document.file, text);
+        readFile(document.file, text);
     }
     myText = std::make_unique<TextTree>(std::move(text));
     myRoot = itemOf(myText->root());

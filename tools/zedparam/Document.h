@@ -22,7 +22,7 @@ struct Document
 
     Kind kind = Kind::Tree;
     std::string file{};
-    std::string name{};               ///< of an object in a file that may hold several; else empty
+    std::string name{};               ///< of a record
     AxReaderWriter* object = nullptr; ///< null for a Tree
     std::shared_ptr<AxReaderWriter> owned{};
     AxEnvValuePtr element{}; ///< the object's or the root element of an XML file

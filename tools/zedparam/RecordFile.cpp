@@ -1,12 +1,9 @@
 #include "RecordFile.h"
 
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <list>
 
 #include "AxDiagnostic.h"
-#include "AxReadWholeFile.h"
 #include "AxSourceScope.h"
 #include "AxZedXmlUtils.h"
 #include "AxlFunctions.h"
@@ -14,6 +11,7 @@
 #include "ConvertWriters.h"
 #include "Database.h"
 #include "ReadContext.h"
+#include "ReadFile.h"
 
 namespace
 {
@@ -47,10 +45,8 @@ Records readText(AxFilename const& file, Database const& database, ReadContext c
 {
     Records records;
     std::string text;
-    int error = 0;
-    if (!axReadWholeFile(file, text, error))
+    if (!readFile(file.native(), text))
     {
-        std::fprintf(stderr, "zedparam: cannot read \"%s\": %s\n", file.c_str(), std::strerror(error));
         return records;
     }
     try

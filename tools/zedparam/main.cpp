@@ -62,6 +62,7 @@ int run(int argc, char** argv)
     addUnsetCommand(app, exitCode);
     addFmtCommand(app, exitCode);
     addDiffCommand(app, exitCode);
+    addMergeCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {

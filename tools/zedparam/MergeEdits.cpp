@@ -1,0 +1,134 @@
+#include "MergeEdits.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+bool endsInComment(std::string const& text)
+{
+    TextTree const tree(text);
+    return !tree.tokens().empty() && tree.tokens().back().kind == TextTree::Kind::Comment;
+}
+
+/// Whether the byte in front of `offset` belongs to a comment.
+bool isBehindComment(TextTree const& tree, std::size_t offset)
+{
+    auto const& tokens = tree.tokens();
+    auto const token = std::ranges::lower_bound(tokens, offset, {}, &TextTree::Token::end);
+    return token != tokens.end() && token->end == offset && token->kind == TextTree::Kind::Comment;
+}
+} // namespace
+
+MergeEdits::MergeEdits(TextTree const& text, MergeOptions const& options)
+    : myText(text), myOptions(options), myLineEnd(text.text().find("\r\n") != std::string::npos ? "\r\n" : "\n")
+{
+}
+
+void MergeEdits::replace(std::size_t begin, std::size_t end, std::string with)
+{
+    myEdits.push_back({begin, end, adapted(with), false, {}});
+}
+
+void MergeEdits::conflict(std::size_t begin, std::size_t end, std::string theirs, MergeConflict what)
+{
+    myEdits.push_back({begin, end, adapted(theirs), true, std::move(what)});
+}
+
+/// With the line ends of the text that it goes into.
+std::string MergeEdits::adapted(std::string_view text) const
+{
+    std::string out;
+    for (char const c : text)
+    {
+        if (c == '\n')
+        {
+            out += myLineEnd;
+        }
+        else if (c != '\r')
+        {
+            out += c;
+        }
+    }
+    return out;
+}
+
+void MergeEdits::emit(std::string_view piece, bool endsLine)
+{
+    if (piece.empty())
+    {
+        return;
+    }
+    if (myNeedsLineEnd && !piece.starts_with('\n') && !piece.starts_with("\r\n"))
+    {
+        myResult.text += myLineEnd;
+    }
+    myResult.text += piece;
+    myNeedsLineEnd = endsLine;
+}
+
+void MergeEdits::emitKept(std::size_t end)
+{
+    if (end > myKept)
+    {
+        emit(std::string_view(myText.text()).substr(myKept, end - myKept), isBehindComment(myText, end));
+        myKept = end;
+    }
+}
+
+void MergeEdits::emitConflict(Edit const& edit)
+{
+    std::string& out = myResult.text;
+    std::size_t const lineStart = out.find_last_of('\n') + 1; // 0 on the first line
+    std::string indent = out.substr(lineStart);
+    if (indent.find_first_not_of(" \t") == std::string::npos)
+    {
+        out.resize(lineStart);
+    }
+    else
+    {
+        out += myLineEnd;
+        indent.clear();
+    }
+    myNeedsLineEnd = false;
+    MergeConflict conflict = edit.what;
+    conflict.line = static_cast<unsigned>(std::ranges::count(out, '\n')) + 1;
+    myResult.conflicts.push_back(std::move(conflict));
+
+    auto const marker = [&](char c, std::string const& label)
+    { return std::string(myOptions.markerSize, c) + (label.empty() ? "" : " ") + label; };
+    auto const version = [&](std::string_view text)
+    { return text.empty() ? std::string() : indent + std::string(text) + (text.ends_with('\n') ? "" : myLineEnd); };
+    out += marker('<', myOptions.ours) + myLineEnd;
+    out += version(std::string_view(myText.text()).substr(edit.begin, edit.end - edit.begin));
+    out += marker('=', {}) + myLineEnd;
+    out += version(edit.text);
+    out += marker('>', myOptions.theirs);
+    myNeedsLineEnd = true;
+}
+
+MergeResult MergeEdits::apply()
+{
+    // What is put in front of a byte comes before what replaces it.
+    std::ranges::stable_sort(myEdits, {},
+                             [](Edit const& edit) { return std::pair(edit.begin, edit.end != edit.begin); });
+    for (Edit const& edit : myEdits)
+    {
+        emitKept(edit.begin);
+        if (edit.isConflict)
+        {
+            emitConflict(edit);
+        }
+        else
+        {
+            emit(edit.text, endsInComment(edit.text));
+        }
+        myKept = std::max(myKept, edit.end);
+    }
+    emitKept(myText.text().size());
+    if (myNeedsLineEnd)
+    {
+        myResult.text += myResult.conflicts.empty() ? "" : myLineEnd;
+    }
+    return std::move(myResult);
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "TextMerge.h"
+#include "TextTree.h"
+
+/// Changes to a text, made all at once in the end.
+class MergeEdits
+{
+public:
+    /// How many there are, to go back to.
+    using Mark = std::size_t;
+
+    MergeEdits(TextTree const& text, MergeOptions const& options);
+
+    void replace(std::size_t begin, std::size_t end, std::string with);
+    /// Both versions of what stands from `begin` to `end`, which begins with no blank.
+    void conflict(std::size_t begin, std::size_t end, std::string theirs, MergeConflict what);
+
+    Mark mark() const { return myEdits.size(); }
+    void goBackTo(Mark mark) { myEdits.resize(mark); }
+
+    MergeResult apply();
+    /// The line end that the text uses.
+    char const* lineEnd() const { return myLineEnd; }
+
+private:
+    struct Edit
+    {
+        std::size_t begin;
+        std::size_t end;
+        std::string text;
+        bool isConflict;
+        MergeConflict what;
+    };
+
+    void emit(std::string_view piece, bool endsLine);
+    void emitKept(std::size_t end);
+    void emitConflict(Edit const& edit);
+    std::string adapted(std::string_view text) const;
+
+    TextTree const& myText;
+    MergeOptions const& myOptions;
+    char const* myLineEnd;
+    std::vector<Edit> myEdits;
+
+    MergeResult myResult;
+    std::size_t myKept = 0;      // of the text, what went into the result or was replaced
+    bool myNeedsLineEnd = false; // a comment or marker must not run on
+};
