@@ -30,6 +30,7 @@ void addSchemaCommand(CLI::App& app, int& exitCode);
 void addProbabilityCommand(CLI::App& app, int& exitCode);
 void addPlotCommand(CLI::App& app, int& exitCode);
 void addGraphCommand(CLI::App& app, int& exitCode);
+void addReportCommand(CLI::App& app, int& exitCode);
 void addSetCommand(CLI::App& app, int& exitCode);
 void addUnsetCommand(CLI::App& app, int& exitCode);
 void addFmtCommand(CLI::App& app, int& exitCode);

@@ -83,7 +83,7 @@ void addSteps(AxPrbRangeList const& rows, std::string const& subject, double end
     }
     for (AxString const& outcome : outcomes)
     {
-        Curve curve{outcome.string(), subject, {}};
+        Curve curve{outcome.string(), subject, true, {}};
         double from = 0.0;
         for (AxListItem const* item = rows.first(); item != nullptr; item = item->next())
         {
@@ -104,7 +104,7 @@ void addPolynomials(AxPrbCoefficientList const& polynomials, std::string const& 
     constexpr int theSamples = 200;
     for (AxPrbProbabilityCoefficients const* polynomial : polynomials)
     {
-        Curve curve{polynomial->AxReaderWriter::name().string().string(), subject, {}};
+        Curve curve{polynomial->AxReaderWriter::name().string().string(), subject, false, {}};
         for (int i = 0; i <= theSamples; ++i)
         {
             double const range = end * i / theSamples;

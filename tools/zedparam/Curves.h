@@ -16,6 +16,7 @@ struct Curve
 {
     std::string outcome;
     std::string subject;            ///< an object type, or a munition, surface and angle
+    bool isStep;                    ///< whether it is that of a step table
     std::vector<CurvePoint> points; ///< of ascending ranges, to be joined by lines; a step has two of one range
 };
 

@@ -61,7 +61,7 @@ Plot makePlot(std::vector<std::unique_ptr<TableFile>> const& tables)
         for (Curve& curve : curvesOf(*tables[i], plot.end))
         {
             std::size_t const subject = placeOf(plot.subjects, curve.subject);
-            panelFor(plot, curve.outcome).lines.push_back({subject, i == 1, std::move(curve.points)});
+            panelFor(plot, curve.outcome).lines.push_back({subject, i == 1, curve.isStep, std::move(curve.points)});
         }
     }
     return plot;

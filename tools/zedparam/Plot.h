@@ -12,6 +12,7 @@ struct PlotLine
 {
     std::size_t subject; ///< its place in the legend
     bool isSecond;       ///< of the second version of the table
+    bool isStep;
     std::vector<CurvePoint> points;
 };
 

@@ -58,6 +58,7 @@ int run(int argc, char** argv)
     addProbabilityCommand(app, exitCode);
     addPlotCommand(app, exitCode);
     addGraphCommand(app, exitCode);
+    addReportCommand(app, exitCode);
     addSetCommand(app, exitCode);
     addUnsetCommand(app, exitCode);
     addFmtCommand(app, exitCode);

@@ -1,0 +1,18 @@
+# Makes a source file that holds files as texts: cmake -DFOLDER=... -DOUTPUT=... -P Embed.cmake
+# Each file of FOLDER becomes the std::string_view of its name in OUTPUT's namespace: page.html is reportFiles::pageHtml.
+file(GLOB files "${FOLDER}/*.*")
+list(SORT files)
+set(text "#include \"ReportFiles.h\"\n\nnamespace reportFiles\n{\n")
+foreach(file IN LISTS files)
+    file(READ "${file}" bytes HEX)
+    string(LENGTH "${bytes}" digits)
+    math(EXPR size "${digits} / 2")
+    string(REGEX REPLACE "(..)" "\\\\x\\1" bytes "${bytes}")
+    get_filename_component(name "${file}" NAME_WE)
+    get_filename_component(extension "${file}" LAST_EXT)
+    string(SUBSTRING "${extension}" 1 1 first)
+    string(SUBSTRING "${extension}" 2 -1 rest)
+    string(TOUPPER "${first}" first)
+    string(APPEND text "std::string_view const ${name}${first}${rest}(\"${bytes}\", ${size});\n")
+endforeach()
+file(WRITE "${OUTPUT}" "${text}} // namespace reportFiles\n")
