@@ -310,18 +310,19 @@ private:
         {
             if (finding.file == shownPath(file))
             {
-                items += findingItem(finding, "");
+                items += findingItem(finding, "#L" + std::to_string(finding.line));
             }
         }
         return items.empty() ? "" : "<h2 id=\"findings\">Findings</h2>\n<ul>\n" + items + "</ul>\n";
     }
 
-    static std::string findingItem(AxDiagnostic const& finding, std::string const& page)
+    /// Without a link when `href` is empty.
+    static std::string findingItem(AxDiagnostic const& finding, std::string const& href)
     {
         constexpr char const* theSeverities[] = {"error", "warning", "info"};
         char const* const severity = theSeverities[static_cast<int>(finding.severity)];
-        std::string const line = std::to_string(finding.line);
-        return "<li>" + htmlLink(page + "#L" + line, "line " + line) + ": <strong class=\"" + severity + "\">" +
+        std::string const line = "line " + std::to_string(finding.line);
+        return "<li>" + (href.empty() ? line : htmlLink(href, line)) + ": <strong class=\"" + severity + "\">" +
                severity + "</strong>: " + markup(finding.text) +
                (finding.hint.empty() ? "" : "; " + markup(finding.hint)) +
                (finding.code.empty() ? "" : " " + htmlCode(finding.code)) + "</li>\n";
@@ -421,7 +422,7 @@ private:
                        (page.empty() ? htmlCode(file) : htmlLink(page, file)) + "</h2>\n<ul>\n";
                 isOpen = true;
             }
-            out += findingItem(finding, page);
+            out += findingItem(finding, page.empty() ? "" : page + "#L" + std::to_string(finding.line));
         }
         return myFolder.writePage("findings.html", "Findings", out + (isOpen ? "</ul>\n" : ""));
     }

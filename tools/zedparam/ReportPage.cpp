@@ -118,11 +118,11 @@ std::string htmlSource(std::string const& file)
     int error = 0;
     if (!axReadWholeFile(AxFilename(file), text, error))
     {
-        return "<p>The file cannot be read.</p>\n";
+        return "<p id=\"L1\">The file cannot be read.</p>\n";
     }
     std::string out = "<pre class=\"source\" tabindex=\"0\" role=\"region\" aria-label=\"Text of the file\">";
     std::size_t number = 0;
-    for (std::string_view rest = text; !rest.empty();)
+    for (std::string_view rest = text; !rest.empty() || number == 0;)
     {
         std::size_t const end = std::min(rest.find('\n'), rest.size());
         std::string_view line = rest.substr(0, end);
