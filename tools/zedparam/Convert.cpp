@@ -1,14 +1,12 @@
 #include "Commands.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <boost/make_shared.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
 
 #include "AxEnvXMLWriter.h"
-#include "AxReadWholeFile.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
 #include "ConvertDatabase.h"
@@ -56,12 +54,7 @@ std::string asText(AxZedObjectParameters& record)
 void reportLostTypes(AxFilename const& file, AxZedObjectParameters const& record, Database const& database)
 {
     AxObjectType const& type = record.objectType().isNull() ? record.matchType() : record.objectType();
-    auto const isListed = [&file](AxSxpParameterDbEntry const* entry)
-    {
-        std::error_code ignored;
-        return fs::equivalent(entry->foundFilename().native(), file.native(), ignored);
-    };
-    if (record.objectNode() == nullptr || type.isNull() || std::ranges::any_of(database.entries(), isListed))
+    if (record.objectNode() == nullptr || type.isNull() || !database.entriesOf(file.native()).empty())
     {
         return;
     }

@@ -1,6 +1,5 @@
 #include "RecordFile.h"
 
-#include <filesystem>
 #include <list>
 
 #include "AxDiagnostic.h"
@@ -15,8 +14,6 @@
 
 namespace
 {
-namespace fs = std::filesystem;
-
 Records readEntities(AxFilename const& file, std::string const& object, ReadContext const& context)
 {
     Records records;
@@ -56,13 +53,9 @@ Records readText(AxFilename const& file, Database const& database, ReadContext c
             AxZedObjectParameters::createParameters(AxcRead(stream), context.files, context.bindings));
         if (record != nullptr)
         {
-            for (AxSxpParameterDbEntry const* entry : database.entries())
+            for (AxSxpParameterDbEntry const* entry : database.entriesOf(file.native()))
             {
-                std::error_code ignored;
-                if (fs::equivalent(entry->foundFilename().native(), file.native(), ignored))
-                {
-                    record->setObjectType(entry->objectType());
-                }
+                record->setObjectType(entry->objectType());
             }
             records.push_back(std::move(record));
         }
