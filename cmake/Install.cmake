@@ -15,6 +15,11 @@ endforeach()
 install(TARGETS zedobjparam EXPORT zedobjparamTargets)
 if(TARGET zedparam)
     install(TARGETS zedparam)
+    install(FILES "${PROJECT_BINARY_DIR}/zedparam.man" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" RENAME zedparam.1)
+    install(FILES "${PROJECT_BINARY_DIR}/zedparam.bash"
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME zedparam)
+    install(FILES "${PROJECT_BINARY_DIR}/zedparam.zsh" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions"
+            RENAME _zedparam)
 endif()
 
 install(

@@ -36,3 +36,4 @@ void addUnsetCommand(CLI::App& app, int& exitCode);
 void addFmtCommand(CLI::App& app, int& exitCode);
 void addDiffCommand(CLI::App& app, int& exitCode);
 void addMergeCommand(CLI::App& app, int& exitCode);
+void addManualCommand(CLI::App& app, int& exitCode);

@@ -39,7 +39,7 @@ int run(int argc, char** argv)
     app.require_subcommand(1);
     app.failure_message(CLI::FailureMessage::simple);
     app.footer("Object types are eight numbers, super type first (1:1:1:225:1:1:3:0), or seven.\n"
-               "Exit codes: 0 fine, 1 findings or no entry, 2 could not run.");
+               "Exit codes: 0 fine or same, 1 findings, different or no answer, 2 could not run.");
 
     int exitCode = Fine;
     addInfoCommand(app, exitCode);
@@ -64,6 +64,7 @@ int run(int argc, char** argv)
     addFmtCommand(app, exitCode);
     addDiffCommand(app, exitCode);
     addMergeCommand(app, exitCode);
+    addManualCommand(app, exitCode);
 
     if (argc > 1 && !namesSubcommand(app, argv[1]))
     {

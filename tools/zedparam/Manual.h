@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace CLI
+{
+class App;
+}
+
+// What the command says of itself, made from the descriptions of its sub-commands and their options.
+
+std::string bashCompletion(CLI::App const& app);
+std::string zshCompletion(CLI::App const& app);
+/// A page for man(1).
+std::string manPage(CLI::App const& app, std::string const& version);
+/// The help texts of all sub-commands.
+std::string helpTexts(CLI::App const& app);
