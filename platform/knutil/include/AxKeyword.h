@@ -32,5 +32,5 @@ struct AxKeyword
     char const* unit = "";
     /// One line of help, without a newline.
     char const* help = "";
-    AxRange range{};
+    AxRange range{-axUnbounded, axUnbounded};
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,13 @@ ZEDOBJPARAM_API void axAppendReal(std::string& out, double value);
 
 /// Appends decimal digits, with "-" in front of a negative number.
 ZEDOBJPARAM_API void axAppendInt(std::string& out, long long value);
+
+/// Characters that `axWriteReal` and `axWriteInt` need at most.
+inline constexpr std::size_t axLongestNumber = 32;
+
+/// Write what the two above append, to a place with room for `axLongestNumber` characters; they answer its end.
+ZEDOBJPARAM_API char* axWriteReal(char* to, double value);
+ZEDOBJPARAM_API char* axWriteInt(char* to, long long value);
 
 /// Whether the whole token is spelled `[+-]digits[.digits][e[+-]digits]` with a digit before or after the point.
 ZEDOBJPARAM_API bool axIsNumber(std::string_view token);

@@ -1,10 +1,12 @@
 #include "AxNumberText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <system_error>
 
@@ -92,59 +94,79 @@ NumberScan scanNumber(std::string_view token)
 constexpr std::array<double, 23> thePowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                                 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-template <class... Format>
-void appendChars(std::string& out, double value, Format... format)
+/// What every sort of number ends in: the digits, or nothing if there was no room.
+char* written(char* to, std::to_chars_result const& result)
 {
-    char buffer[64];
-    auto const [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value, format...);
-    out.append(buffer, error == std::errc() ? end : buffer);
+    return result.ec == std::errc() ? result.ptr : to;
+}
+
+char* writeDigits(char* to, std::uint64_t value)
+{
+    return std::to_chars(to, to + std::numeric_limits<std::uint64_t>::digits10 + 1, value).ptr;
 }
 } // namespace
 
 void axAppendInt(std::string& out, long long value)
 {
-    char buffer[std::numeric_limits<long long>::digits10 + 2];
-    out.append(buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr);
+    char buffer[axLongestNumber];
+    out.append(buffer, axWriteInt(buffer, value));
+}
+
+char* axWriteInt(char* to, long long value)
+{
+    auto magnitude = static_cast<std::uint64_t>(value);
+    if (value < 0)
+    {
+        *to++ = '-';
+        magnitude = 0 - magnitude;
+    }
+    return writeDigits(to, magnitude);
 }
 
 void axAppendReal(std::string& out, double value)
 {
+    char buffer[axLongestNumber];
+    out.append(buffer, axWriteReal(buffer, value));
+}
+
+char* axWriteReal(char* to, double value)
+{
     double const magnitude = std::fabs(value);
-    if (!(magnitude <= std::numeric_limits<double>::max()))
-    {
-        out += std::isnan(value) ? "nan" : value < 0.0 ? "-inf" : "inf";
-        return;
-    }
     // Below 1e12 three decimals make at most 15 digits, and two different texts of 15 digits never stand for one
     // double: the text is the shortest as soon as it reads back.
     if (magnitude < 1e12)
     {
-        auto const thousandths = static_cast<long long>(magnitude * 1000.0 + 0.5);
-        if (static_cast<double>(thousandths) / 1000.0 == magnitude)
+        auto const thousandths = static_cast<std::uint64_t>(static_cast<std::int64_t>(magnitude * 1000.0 + 0.5));
+        if (static_cast<double>(static_cast<std::int64_t>(thousandths)) / 1000.0 == magnitude)
         {
             if (std::signbit(value))
             {
-                out += '-';
+                *to++ = '-';
             }
-            axAppendInt(out, thousandths / 1000);
+            to = writeDigits(to, thousandths / 1000);
             auto const decimals = static_cast<int>(thousandths % 1000);
             char const digits[] = {'.', static_cast<char>('0' + decimals / 100),
                                    static_cast<char>('0' + decimals / 10 % 10), static_cast<char>('0' + decimals % 10)};
-            out.append(digits, decimals % 100 == 0 ? 2 : decimals % 10 == 0 ? 3 : 4);
-            return;
+            std::memcpy(to, digits, sizeof digits);
+            return to + (decimals % 100 == 0 ? 2 : decimals % 10 == 0 ? 3 : 4);
         }
+    }
+    if (!(magnitude <= std::numeric_limits<double>::max()))
+    {
+        std::string_view const word = std::isnan(value) ? "nan" : value < 0.0 ? "-inf" : "inf";
+        return std::copy(word.begin(), word.end(), to);
     }
     if (magnitude < 1e-5 || magnitude >= 1e15)
     {
-        appendChars(out, value, std::chars_format::scientific);
-        return;
+        return written(to, std::to_chars(to, to + axLongestNumber, value, std::chars_format::scientific));
     }
-    std::size_t const begin = out.size();
-    appendChars(out, value, std::chars_format::fixed);
-    if (out.find('.', begin) == std::string::npos)
+    char* end = written(to, std::to_chars(to, to + axLongestNumber - 2, value, std::chars_format::fixed));
+    if (std::find(to, end, '.') == end)
     {
-        out += ".0";
+        *end++ = '.';
+        *end++ = '0';
     }
+    return end;
 }
 
 bool axIsNumber(std::string_view token)

@@ -210,11 +210,17 @@ protected:
         Value = 256,       ///< no members: one value, written on the line of its keyword
         List = 512,        ///< an AxRwList
         KeepsItems = 1024, ///< kept items are present
-        FileBacked = 2048  ///< content of a file member that names a file: never written inline
+        FileBacked = 2048, ///< content of a file member that names a file: never written inline
+        RestBehind = 4096, ///< an AxRecord, whose `Rest` stands right behind this part of it
+        RestApart = 8192   ///< another object that has a `Rest`
     };
 
     /// For kinds that begin with other flags.
     AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, Flag flags);
+    /// The same, and remembers the value of up to eight bytes that `reset` goes back to.
+    AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, Flag flags, std::uint64_t initial);
+    /// For those that see to their name themselves.
+    explicit AxReaderWriter(Flag flags) : myFlags(flags) {}
 
     bool flag(Flag f) const { return (myFlags & f) != 0; }
     void setFlag(Flag f, bool on) { myFlags = static_cast<std::uint16_t>(on ? (myFlags | f) : (myFlags & ~f)); }
@@ -237,12 +243,12 @@ protected:
     }
     void stamp()
     {
-        if (ourHasTimeSource)
+        if (ourHasTimeSource || (myFlags & RestApart) != 0)
         {
-            stampFromSource();
+            stampOtherwise();
             return;
         }
-        myStamp = ++ourStamp;
+        myStampOrNumber = ++ourStamp;
     }
     /// Takes over the state of a member of the same kind when neither has any but flags; else false.
     bool carryPlainState(AxReaderWriter const& other)
@@ -298,7 +304,8 @@ private:
     friend class ::AxTreeForm;
 
     struct Rare;
-    /// What a record has and a value mostly has not.
+    struct RestTable;
+    /// What a record has and a value mostly has not: a member takes its name from the table of its owner's class.
     struct Rest
     {
         Rest(AxReaderWriter* owner, AxSymbolString itsName);
@@ -307,19 +314,30 @@ private:
         AxReaderWriterRegistry registry;
         AxReaderWriterRegistry* parent = nullptr;
         std::unique_ptr<Rare> rare;
+        std::uint32_t stamp = 0; // of an object whose `Rest` stands apart
     };
 
-    bool hasRest() const { return (myNameOrRest & 1U) != 0; }
-    Rest* restOrNull() const { return hasRest() ? reinterpret_cast<Rest*>(myNameOrRest - 1U) : nullptr; }
-    Rest& rest() { return hasRest() ? *reinterpret_cast<Rest*>(myNameOrRest - 1U) : makeRest(); }
+    bool hasRest() const { return (myFlags & (RestBehind | RestApart)) != 0; }
+    Rest* restOrNull() const
+    {
+        if ((myFlags & RestBehind) != 0)
+        {
+            return reinterpret_cast<Rest*>(reinterpret_cast<std::uintptr_t>(this) + sizeof(AxReaderWriter));
+        }
+        return (myFlags & RestApart) != 0 ? ourRests[myStampOrNumber] : nullptr;
+    }
+    Rest& rest()
+    {
+        Rest* const mine = restOrNull();
+        return mine ? *mine : makeRest();
+    }
     Rest& makeRest();
-    void useRest(Rest& rest) { myNameOrRest = reinterpret_cast<std::uintptr_t>(&rest) | 1U; }
-    void dropRest() { myNameOrRest = reinterpret_cast<std::uintptr_t>(restOrNull()->name.id()); }
+    /// Deletes the `Rest` that stands apart.
+    void dropRest();
+    std::uint32_t lastStamp() const { return (myFlags & RestApart) != 0 ? restOrNull()->stamp : myStampOrNumber; }
     void leaveOtherwise();
     /// Leaves the registry that this was entered in by pointer; there must be a `Rest`.
     void leaveParent();
-    void nameAlone(AxKeyword const& keyword);
-    void noteInitialValueOtherwise(void const* bytes, std::size_t size);
     Rare& rare();
     Rare const* rareOrNull() const;
     /// The registry of the object that this is a data member of.
@@ -341,13 +359,13 @@ private:
     void takeHead(AxlObj const* head);
     void reportUnknown(AxlObj const* item, std::string_view word);
 
-    void stampFromSource();
+    void stampOtherwise();
 
     static std::uint32_t ourStamp;
     static bool ourHasTimeSource;
+    static Rest** ourRests; // those that stand apart, by their numbers
 
-    std::uintptr_t myNameOrRest; // the interned name, or Rest with the lowest bit set
-    std::uint16_t myPlace = 0;   // in its owner, in units of eight bytes; 0 when not bound as a data member
+    std::uint16_t myPlace = 0; // in its owner, in units of eight bytes; 0 when not bound as a data member
     std::uint16_t myFlags = 0;
-    std::uint32_t myStamp = 0;
+    std::uint32_t myStampOrNumber = 0; // the number of the `Rest` that stands apart
 };

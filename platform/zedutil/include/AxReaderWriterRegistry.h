@@ -100,6 +100,8 @@ private:
     void leaveShape();
     std::size_t assignShared(AxReaderWriterRegistry const& other);
     AxRegistryTable const& table() const;
+    /// Of the member bound there.
+    AxSymbolString nameAt(std::uint16_t place) const;
     AxRegistryShape const* shapeOf(AxReaderWriter const* member) const;
     AxRegistryEntry entryOf(AxRegistryShape const& shape) const;
     AxRegistryEntry entryOf(AxReaderWriter const* member) const;

@@ -17,7 +17,6 @@ public:
     }
     AxRwBoolean(AxRwBoolean const&) = default;
     AxRwBoolean(AxRwBoolean const& other, AxReaderWriterRegistry* registry) : AxRwValueOf(other, registry) {}
-    ~AxRwBoolean() override;
 
     AxRwBoolean& operator=(AxRwBoolean const&) = default;
     bool operator=(bool value)
@@ -32,6 +31,8 @@ public:
     static bool ToBool(AxString const& text);
     /// The attribute `name` of a tree node by `ToBool`; false when it is absent.
     static bool getBoolAttribute(AxEnvironmentPtr const& env, AxString const& name, AxEnvValuePtr const& node);
+
+    char const* xmlType() const override;
 
     static bool readValue(AxlObj const*& items, bool& value);
     static void writeValue(std::string& out, bool const& value);

@@ -9,7 +9,6 @@ public:
     using AxRwValueOf::AxRwValueOf;
     AxRwInt(AxRwInt const&) = default;
     AxRwInt(AxRwInt const& other, AxReaderWriterRegistry* registry) : AxRwValueOf(other, registry) {}
-    ~AxRwInt() override;
 
     AxRwInt& operator=(AxRwInt const&) = default;
     int operator=(int value)
@@ -27,6 +26,8 @@ public:
     static int getInt(AxEnvironmentPtr const& env, AxString const& name, AxEnvValuePtr const& node);
     /// The attribute `name` of a tree node, written in hexadecimal with or without "0x"; 0 when it is none.
     static int getIntegerFromHex(AxEnvironmentPtr const& env, AxString const& name, AxEnvValuePtr const& node);
+
+    char const* xmlType() const override;
 
     static bool readValue(AxlObj const*& items, int& value);
     static void writeValue(std::string& out, int const& value);

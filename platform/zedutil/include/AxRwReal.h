@@ -9,7 +9,6 @@ public:
     using AxRwValueOf::AxRwValueOf;
     AxRwReal(AxRwReal const&) = default;
     AxRwReal(AxRwReal const& other, AxReaderWriterRegistry* registry) : AxRwValueOf(other, registry) {}
-    ~AxRwReal() override;
 
     AxRwReal& operator=(AxRwReal const&) = default;
     double operator=(double value)
@@ -26,6 +25,8 @@ public:
 
     /// The attribute `name` of a tree node as a number, 0.0 when it is absent or no number.
     static double getDouble(AxEnvironmentPtr const& env, AxString const& name, AxEnvValuePtr const& node);
+
+    char const* xmlType() const override;
 
     static bool readValue(AxlObj const*& items, double& value);
     static void writeValue(std::string& out, double const& value);

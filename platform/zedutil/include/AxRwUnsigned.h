@@ -9,7 +9,6 @@ public:
     using AxRwValueOf::AxRwValueOf;
     AxRwUnsigned(AxRwUnsigned const&) = default;
     AxRwUnsigned(AxRwUnsigned const& other, AxReaderWriterRegistry* registry) : AxRwValueOf(other, registry) {}
-    ~AxRwUnsigned() override;
 
     AxRwUnsigned& operator=(AxRwUnsigned const&) = default;
     unsigned operator=(unsigned value)
@@ -19,6 +18,8 @@ public:
     }
     operator unsigned() const { return myValue; }
     bool operator==(AxRwUnsigned const& other) const { return myValue == other.myValue; }
+
+    char const* xmlType() const override;
 
     static bool readValue(AxlObj const*& items, unsigned& value);
     static void writeValue(std::string& out, unsigned const& value);

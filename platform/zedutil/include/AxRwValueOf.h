@@ -2,6 +2,8 @@
 
 #include "AxReaderWriter.h"
 
+#include <algorithm>
+#include <cstring>
 #include <type_traits>
 
 /// What the kinds that hold one value have in common. `Derived` supplies
@@ -17,6 +19,8 @@
 template <class Derived, class T, bool isScalar, class Held = T>
 class AxRwValueOf : public AxReaderWriter
 {
+    static constexpr bool isWord = std::is_trivially_copyable_v<T> && sizeof(T) <= sizeof(std::uint64_t);
+
 public:
     AxRwValueOf(AxSymbolString keyword, AxReaderWriterRegistry* registry) : AxReaderWriter(keyword, registry)
     {
@@ -33,7 +37,12 @@ public:
     AxRwValueOf(AxKeyword const& keyword, AxReaderWriterRegistry* registry) : AxReaderWriter(keyword, registry, theKind)
     {
     }
-    AxRwValueOf(AxKeyword const& keyword, T const& initial, AxReaderWriterRegistry* registry)
+    AxRwValueOf(AxKeyword const& keyword, T const& initial, AxReaderWriterRegistry* registry) requires isWord
+        : AxReaderWriter(keyword, registry, theKind, wordOf(initial)),
+          myValue(initial)
+    {
+    }
+    AxRwValueOf(AxKeyword const& keyword, T const& initial, AxReaderWriterRegistry* registry) requires(!isWord)
         : AxReaderWriter(keyword, registry, theKind)
     {
         start(initial);
@@ -114,6 +123,12 @@ public:
         {
             value = other->value();
         }
+        else if constexpr (isWord)
+        {
+            std::uint64_t word = 0;
+            initialValue(&word, sizeof word);
+            std::memcpy(&value, &word, sizeof value);
+        }
         else if constexpr (std::is_trivially_copyable_v<T>)
         {
             initialValue(&value, sizeof value);
@@ -135,7 +150,12 @@ protected:
     {
         myValue = initial;
         // A null value is noted too: objects of one class may differ in it.
-        if constexpr (std::is_trivially_copyable_v<T>)
+        if constexpr (isWord)
+        {
+            std::uint64_t const word = wordOf(initial);
+            noteInitialValue(&word, sizeof word);
+        }
+        else if constexpr (std::is_trivially_copyable_v<T>)
         {
             noteInitialValue(&initial, sizeof initial);
         }
@@ -152,5 +172,11 @@ private:
     friend class AxPlainValue;
 
     static constexpr Flag theKind = static_cast<Flag>(isScalar ? Value | Scalar : Value);
+    static std::uint64_t wordOf(T const& value)
+    {
+        std::uint64_t word = 0;
+        std::memcpy(&word, &value, std::min(sizeof value, sizeof word));
+        return word;
+    }
     void markKind() { setFlag(theKind, true); }
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AxNumberText.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRegistryShape.h"
 #include "AxRwBoolean.h"
@@ -9,7 +10,12 @@
 #include "AxRwString.h"
 #include "AxRwUnsigned.h"
 #include "AxRwVector.h"
+#include "AxTextRoom.h"
+#include "AxlObj.h"
 
+#include <algorithm>
+#include <cstring>
+#include <type_traits>
 #include <utility>
 
 /// The walks over a record's members meet plain values nearly always; this does with them, without a virtual call,
@@ -54,17 +60,51 @@ public:
         {
             return false;
         }
-        constexpr auto special =
-            static_cast<std::uint16_t>(AxReaderWriter::VariableReference | AxReaderWriter::KeepsItems);
+        constexpr auto special = static_cast<std::uint16_t>(AxReaderWriter::VariableReference |
+                                                            AxReaderWriter::KeepsItems | AxReaderWriter::RestApart);
         constexpr auto carried = static_cast<std::uint16_t>(AxReaderWriter::Specified | AxReaderWriter::Inherited);
         if (((to.myFlags | from.myFlags) & special) != 0) [[unlikely]]
         {
             return false;
         }
-        visit(reading, to, from, [](auto& target, auto const& source) { target.myValue = source.myValue; });
+        if (reading <= Reading::Boolean)
+        {
+            copyWord(to, from);
+        }
+        else
+        {
+            visit(reading, to, from, [](auto& target, auto const& source) { target.myValue = source.myValue; });
+        }
         to.myFlags = static_cast<std::uint16_t>((to.myFlags & ~carried) | (from.myFlags & carried));
-        to.myStamp = stamp;
+        to.myStampOrNumber = stamp;
         return true;
+    }
+    /// Takes a value from the items behind the member's keyword, and marks it specified; false, and nothing done, when
+    /// they are no plain value of its kind.
+    static bool read(AxRegistryTable::Slot const& slot, AxReaderWriter& member, AxlObj const* items)
+    {
+        Reading const reading = slot.readingOf(member);
+        AxlObj const* const first = items->car();
+        constexpr auto special =
+            static_cast<std::uint16_t>(AxReaderWriter::VariableReference | AxReaderWriter::KeepsItems);
+        if (!isPlain(reading) || (member.myFlags & special) != 0 || first->isReference() ||
+            first->hasEmbeddedReference())
+        {
+            return false;
+        }
+        return visit(reading, member, member,
+                     [items](auto& target, auto const&)
+                     {
+                         std::remove_cvref_t<decltype(target.value())> value{};
+                         AxlObj const* rest = items;
+                         bool const isRead = target.readValue(rest, value) && rest->nil();
+                         if (isRead)
+                         {
+                             target.setInvalid(false);
+                             target.takeRead(std::move(value));
+                         }
+                         return isRead;
+                     });
     }
     static bool equal(AxRegistryTable::Slot const& slot, AxReaderWriter const& a, AxReaderWriter const& b)
     {
@@ -77,12 +117,13 @@ public:
                      [](auto const& left, auto const& right) { return left.equals(right); });
     }
     /// Writes "(name value)" on a line of its own when that is due; false when the member needs the general way.
-    static bool write(Reading reading, AxReaderWriter& member, AxSymbolString name, std::string& out, int indent,
+    static bool write(AxRegistryTable::Slot const& slot, AxReaderWriter const& member, AxTextRoom& room, int indent,
                       bool all)
     {
+        Reading const reading = slot.readingOf(member);
         constexpr auto special = static_cast<std::uint16_t>(AxReaderWriter::VariableReference |
                                                             AxReaderWriter::KeepsItems | AxReaderWriter::FileBacked);
-        if (!isPlain(reading) || (member.myFlags & special) != 0 || !name.isBareWord())
+        if (!isPlain(reading) || (member.myFlags & special) != 0 || !slot.isBareWord)
         {
             return false;
         }
@@ -90,17 +131,97 @@ public:
         {
             return true;
         }
-        out += '\n';
-        AxReaderWriter::putIndent(out, indent);
-        out += '(';
-        out += name.view();
-        out += ' ';
-        visit(reading, member, member, [&out](auto& value, auto const&) { value.writeValue(out, value.value()); });
-        out += ')';
+        std::size_t const blanks = indent > 0 ? static_cast<std::size_t>(indent) * 2 : 0;
+        std::size_t const longest = reading == Reading::String ? longestWritten(textOf(member)) : 8 * axLongestNumber;
+        char* at = room.take(blanks + slot.word.size() + longest + 4);
+        *at++ = '\n';
+        at = std::fill_n(at, blanks, ' ');
+        *at++ = '(';
+        at = std::copy(slot.word.begin(), slot.word.end(), at);
+        *at++ = ' ';
+        at = writeValue(at, reading, member);
+        *at++ = ')';
+        room.put(at);
         return true;
     }
 
+    static std::size_t longestWritten(std::string_view text) { return 2 * text.size() + 2; }
+    /// Writes a text in quotes.
+    static char* writeText(char* to, std::string_view text)
+    {
+        *to++ = '"';
+        for (std::size_t i = 0; i < text.size(); ++i)
+        {
+            if (text[i] == '"' || text[i] == '\\')
+            {
+                *to++ = '\\';
+            }
+            else if (text[i] == '$' && i + 1 < text.size() && text[i + 1] == '(')
+            {
+                *to++ = '$'; // "$$(" is how a literal "$(" stands in a text
+            }
+            *to++ = text[i];
+        }
+        *to++ = '"';
+        return to;
+    }
+
 private:
+    template <class Member>
+    static auto const& valueOf(AxReaderWriter const& member)
+    {
+        return static_cast<Member const&>(member).value();
+    }
+    static std::string const& textOf(AxReaderWriter const& member) { return valueOf<AxRwString>(member).string(); }
+
+    /// What the `writeValue` of the member's class appends.
+    static char* writeValue(char* to, Reading reading, AxReaderWriter const& member)
+    {
+        switch (reading)
+        {
+        case Reading::Int:
+            return axWriteInt(to, valueOf<AxRwInt>(member));
+        case Reading::Unsigned:
+            return axWriteInt(to, valueOf<AxRwUnsigned>(member));
+        case Reading::Boolean:
+            return copied(to, valueOf<AxRwBoolean>(member) ? "true" : "false");
+        case Reading::String:
+            return writeText(to, textOf(member));
+        case Reading::Vector:
+        {
+            AxVector64 const& vector = valueOf<AxRwVector>(member);
+            to = axWriteReal(to, vector.x());
+            *to++ = ' ';
+            to = axWriteReal(to, vector.y());
+            *to++ = ' ';
+            return axWriteReal(to, vector.z());
+        }
+        case Reading::ObjectType:
+        {
+            AxObjectType::Fields const& fields = valueOf<AxRwObjectType>(member).fields();
+            bool const isShort = fields[0] == 0;
+            to = axWriteInt(to, fields[isShort ? 1 : 0]);
+            for (std::size_t i = isShort ? 2 : 1; i < fields.size(); ++i)
+            {
+                *to++ = ' ';
+                to = axWriteInt(to, fields[i]);
+            }
+            return to;
+        }
+        default:
+            return axWriteReal(to, valueOf<AxRwReal>(member));
+        }
+    }
+    static char* copied(char* to, std::string_view text) { return std::copy(text.begin(), text.end(), to); }
+    /// The value of a number or truth value, which is all that follows the common part of the member.
+    static void copyWord(AxReaderWriter& to, AxReaderWriter const& from)
+    {
+        constexpr std::size_t size = sizeof(AxRwReal) - sizeof(AxReaderWriter);
+        static_assert(sizeof(AxRwInt) == sizeof(AxRwReal) && sizeof(AxRwUnsigned) == sizeof(AxRwReal) &&
+                      sizeof(AxRwBoolean) == sizeof(AxRwReal));
+        std::memcpy(reinterpret_cast<char*>(&to) + sizeof(AxReaderWriter),
+                    reinterpret_cast<char const*>(&from) + sizeof(AxReaderWriter), size);
+    }
     static bool sameClass(AxReaderWriter const& a, AxReaderWriter const& b)
     {
         return AxReaderWriterFactory::functionsOf(a) == AxReaderWriterFactory::functionsOf(b);

@@ -28,10 +28,53 @@ AxReaderWriter::Rest::Rest(AxReaderWriter* owner, AxSymbolString itsName) : name
 
 AxReaderWriter::Rest::~Rest() = default;
 
-AxReaderWriter::AxReaderWriter(AxSymbolString name, AxReaderWriterRegistry* registry, bool specified)
-    : myNameOrRest(reinterpret_cast<std::uintptr_t>(name.id())),
-      myFlags(specified ? static_cast<std::uint16_t>(Specified) : std::uint16_t{0})
+/// The numbers of what stands apart. Never destroyed, because static objects may have such.
+struct AxReaderWriter::RestTable
 {
+    std::vector<Rest*> all;
+    std::vector<std::uint32_t> gaps; // numbers that are free
+
+    static RestTable& get()
+    {
+        static auto* const table = new RestTable;
+        return *table;
+    }
+    /// One for each member of an object that is made. False, and nothing done, where that takes more than a step.
+    static bool bindNext(AxReaderWriter& member, AxKeyword const& keyword, AxReaderWriterRegistry& registry)
+    {
+        AxReaderWriter const& owner = *registry.myOwner;
+        AxRegistryShape* const next = registry.myShape + 1;
+        std::size_t const distance =
+            reinterpret_cast<std::uintptr_t>(&member) - reinterpret_cast<std::uintptr_t>(&owner);
+        if (!next->isFor(owner, keyword, distance) || registry.myOwn) [[unlikely]]
+        {
+            return false;
+        }
+        registry.bindTo(*next, member);
+        return true;
+    }
+    /// A function of its own, so that the usual way needs no room on the stack.
+    [[gnu::noinline]] static void bindOtherwise(AxReaderWriter& member, AxKeyword const& keyword,
+                                                AxReaderWriterRegistry* registry)
+    {
+        if (registry)
+        {
+            registry->bind(member, keyword);
+            return;
+        }
+        member.makeRest().name = AxSymbolString(keyword.text);
+    }
+};
+
+AxReaderWriter::Rest** AxReaderWriter::ourRests = nullptr;
+
+AxReaderWriter::AxReaderWriter(AxSymbolString name, AxReaderWriterRegistry* registry, bool specified)
+    : myFlags(specified ? static_cast<std::uint16_t>(Specified) : std::uint16_t{0})
+{
+    if (!name.isNull())
+    {
+        makeRest().name = name;
+    }
     enter(registry);
 }
 
@@ -47,17 +90,20 @@ AxReaderWriter::AxReaderWriter(char const* name, AxReaderWriterRegistry* registr
 
 AxReaderWriter::AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, Flag flags) : myFlags(flags)
 {
-    if (registry) [[likely]]
+    if (!registry || !RestTable::bindNext(*this, keyword, *registry)) [[unlikely]]
     {
-        registry->bind(*this, keyword);
-        return;
+        RestTable::bindOtherwise(*this, keyword, registry);
     }
-    nameAlone(keyword);
 }
 
-[[gnu::noinline]] void AxReaderWriter::nameAlone(AxKeyword const& keyword)
+AxReaderWriter::AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry* registry, Flag flags,
+                               std::uint64_t initial)
+    : AxReaderWriter(keyword, registry, flags)
 {
-    myNameOrRest = reinterpret_cast<std::uintptr_t>(AxSymbolString(keyword.text).id());
+    if (myPlace == 0 || !registry->myShape->details->isInitial(initial)) [[unlikely]]
+    {
+        noteInitialValue(&initial, sizeof initial);
+    }
 }
 
 AxReaderWriter::AxReaderWriter(AxSymbolString name, AxReaderWriter const& other, AxReaderWriterRegistry* registry)
@@ -75,7 +121,7 @@ inline AxReaderWriterRegistry& AxReaderWriter::ownersRegistry() const
 {
     auto const* const owner = reinterpret_cast<AxReaderWriter const*>(reinterpret_cast<std::uintptr_t>(this) -
                                                                       myPlace * AxRegistryShape::theUnit);
-    return reinterpret_cast<Rest*>(owner->myNameOrRest - 1U)->registry;
+    return owner->restOrNull()->registry;
 }
 
 AxReaderWriter::~AxReaderWriter()
@@ -95,7 +141,7 @@ AxReaderWriter::~AxReaderWriter()
     if (hasRest())
     {
         leaveParent();
-        delete restOrNull();
+        dropRest();
     }
 }
 
@@ -109,9 +155,30 @@ void AxReaderWriter::leaveParent()
 
 AxReaderWriter::Rest& AxReaderWriter::makeRest()
 {
-    auto* const made = new Rest(this, AxSymbolString::fromId(reinterpret_cast<void const*>(myNameOrRest)));
-    useRest(*made);
-    return *made;
+    auto made = std::make_unique<Rest>(this, AxReaderWriter::name());
+    made->stamp = myStampOrNumber;
+    std::vector<Rest*>& all = RestTable::get().all;
+    std::vector<std::uint32_t>& gaps = RestTable::get().gaps;
+    if (gaps.empty())
+    {
+        all.push_back(nullptr);
+        gaps.push_back(static_cast<std::uint32_t>(all.size() - 1));
+        gaps.reserve(all.capacity()); // so that giving a number back takes no memory
+        ourRests = all.data();
+    }
+    myStampOrNumber = gaps.back();
+    gaps.pop_back();
+    setFlag(RestApart, true);
+    return *(all[myStampOrNumber] = made.release());
+}
+
+void AxReaderWriter::dropRest()
+{
+    Rest* const dropped = std::exchange(ourRests[myStampOrNumber], nullptr);
+    RestTable::get().gaps.push_back(myStampOrNumber);
+    myStampOrNumber = dropped->stamp;
+    setFlag(RestApart, false);
+    delete dropped;
 }
 
 AxReaderWriter::Rare& AxReaderWriter::rare()
@@ -156,8 +223,11 @@ AxKeyword const* AxReaderWriter::description() const
 
 AxSymbolString AxReaderWriter::name() const
 {
-    Rest const* const mine = restOrNull();
-    return mine ? mine->name : AxSymbolString::fromId(reinterpret_cast<void const*>(myNameOrRest));
+    if (Rest const* const mine = restOrNull())
+    {
+        return mine->name;
+    }
+    return myPlace != 0 ? ownersRegistry().nameAt(myPlace) : AxSymbolString();
 }
 
 void AxReaderWriter::setName(AxString const& name)
@@ -181,14 +251,7 @@ void AxReaderWriter::setName(AxString const& name)
             }
         }
     }
-    if (Rest* const mine = restOrNull())
-    {
-        mine->name = symbol;
-    }
-    else
-    {
-        myNameOrRest = reinterpret_cast<std::uintptr_t>(symbol.id());
-    }
+    rest().name = symbol;
 }
 
 void AxReaderWriter::setValueSpecified(bool specified, bool ownOnly)
@@ -288,39 +351,7 @@ AxReaderWriter const* AxReaderWriter::defaultRWValue() const
     return mine ? mine->defaultValue.get() : nullptr;
 }
 
-namespace
-{
-/// False for other sizes than those of nearly all values.
-bool areSameFewBytes(void const* a, void const* b, std::size_t size)
-{
-    switch (size)
-    {
-    case 1:
-        return std::memcmp(a, b, 1) == 0;
-    case 4:
-        return std::memcmp(a, b, 4) == 0;
-    case 8:
-        return std::memcmp(a, b, 8) == 0;
-    default:
-        return false;
-    }
-}
-} // namespace
-
 void AxReaderWriter::noteInitialValue(void const* bytes, std::size_t size)
-{
-    if (myPlace != 0) [[likely]]
-    {
-        AxRegistryShape::Details const& shared = *ownersRegistry().myShape->details;
-        if (shared.initialSize == size && areSameFewBytes(shared.initial, bytes, size)) [[likely]]
-        {
-            return;
-        }
-    }
-    noteInitialValueOtherwise(bytes, size);
-}
-
-[[gnu::noinline]] void AxReaderWriter::noteInitialValueOtherwise(void const* bytes, std::size_t size)
 {
     if (myPlace != 0)
     {
@@ -362,9 +393,14 @@ bool AxReaderWriter::initialValue(void* bytes, std::size_t size) const
 std::uint32_t AxReaderWriter::ourStamp = 0;
 bool AxReaderWriter::ourHasTimeSource = false;
 
-void AxReaderWriter::stampFromSource()
+void AxReaderWriter::stampOtherwise()
 {
-    rare().stamp = timeSource()();
+    if (ourHasTimeSource)
+    {
+        rare().stamp = timeSource()();
+        return;
+    }
+    restOrNull()->stamp = ++ourStamp;
 }
 
 void AxReaderWriter::setTimeSource(std::function<double()> source)
@@ -376,7 +412,7 @@ void AxReaderWriter::setTimeSource(std::function<double()> source)
 double AxReaderWriter::recordUpdateTime() const
 {
     Rare const* const mine = rareOrNull();
-    double latest = std::max(static_cast<double>(myStamp), mine ? mine->stamp : 0.0);
+    double latest = std::max(static_cast<double>(lastStamp()), mine ? mine->stamp : 0.0);
     if (AxReaderWriterRegistry const* const members = registryIfAny())
     {
         for (std::size_t i = 0; i < members->size(); ++i)
@@ -451,7 +487,7 @@ void AxReaderWriter::adoptKeptItems(AxReaderWriter const& other)
         if (item.replaces)
         {
             AxReaderWriter const* const mine = registry()->lookup(item.after);
-            item.stamp = mine && other.standsFor(item) ? mine->myStamp : ourStamp + 1;
+            item.stamp = mine && other.standsFor(item) ? mine->lastStamp() : ourStamp + 1;
         }
     }
 }
@@ -460,7 +496,7 @@ bool AxReaderWriter::standsFor(AxKeptItem const& item) const
 {
     AxReaderWriterRegistry const* const members = item.replaces ? registryIfAny() : nullptr;
     AxReaderWriter const* const member = members ? members->lookup(item.after) : nullptr;
-    return member && (member->myStamp == item.stamp || member->inherited());
+    return member && (member->lastStamp() == item.stamp || member->inherited());
 }
 
 AxReaderWriter& AxReaderWriter::operator=(AxReaderWriter const& other)

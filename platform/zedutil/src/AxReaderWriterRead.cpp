@@ -1,5 +1,6 @@
 #include "AxDiagnostic.h"
 #include "AxNumberText.h"
+#include "AxPlainValue.h"
 #include "AxReadFrame.h"
 #include "AxReaderWriter.h"
 #include "AxReaderWriterFactory.h"
@@ -212,6 +213,7 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
         head->tag() == AxlObj::Tag::Symbol ? head->symbol() : AxSymbolString::find(head->text());
     AxReaderWriterRegistry* const members = keyword.isNull() ? nullptr : registryIfAny();
     AxReaderWriter* member = nullptr;
+    AxRegistryTable::Slot const* slot = nullptr;
     std::size_t place = 0;
     if (members)
     {
@@ -220,7 +222,8 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
                                                                                                 : shared.find(keyword);
         if (place != AxRegistryTable::none)
         {
-            member = members->at(shared.slots[place].distance);
+            slot = &shared.slots[place];
+            member = members->at(slot->distance);
             frame.next = place + 1;
         }
         else if ((member = members->find(keyword)) != nullptr)
@@ -265,12 +268,16 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
                        "\"" + std::string(head->text()) + "\" is given in the text and by a file; the file counts"));
         return;
     }
-    frame.last = member->AxReaderWriter::name();
+    frame.last = slot ? slot->keyword : member->AxReaderWriter::name();
+    if (slot && AxPlainValue::read(*slot, *member, item->cdr()))
+    {
+        return;
+    }
     member->getSelf(AxlObjPtr(item), files, bindings);
     if (member->flag(Rejected))
     {
         member->setFlag(Rejected, false);
-        rare().kept.push_back({frame.last, printed(item), true, member->myStamp});
+        rare().kept.push_back({frame.last, printed(item), true, member->lastStamp()});
         setFlag(KeepsItems, true);
     }
 }

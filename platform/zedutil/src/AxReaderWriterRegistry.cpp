@@ -38,6 +38,12 @@ AxReaderWriterRegistry::Own& AxReaderWriterRegistry::own()
     return *myOwn;
 }
 
+void AxReaderWriterRegistry::bind(AxReaderWriter& member, AxKeyword const& keyword)
+{
+    bindOtherwise(member, keyword,
+                  reinterpret_cast<std::uintptr_t>(&member) - reinterpret_cast<std::uintptr_t>(myOwner));
+}
+
 void AxReaderWriterRegistry::bindOtherwise(AxReaderWriter& member, AxKeyword const& keyword, std::size_t distance)
 {
     constexpr std::size_t farthest = std::numeric_limits<std::uint16_t>::max() * AxRegistryShape::theUnit;
@@ -49,7 +55,7 @@ void AxReaderWriterRegistry::bindOtherwise(AxReaderWriter& member, AxKeyword con
         return;
     }
     AxSymbolString const name(keyword.text);
-    member.myNameOrRest = reinterpret_cast<std::uintptr_t>(name.id());
+    member.rest().name = name;
     addEntry(name, &member);
 }
 
@@ -96,6 +102,10 @@ void AxReaderWriterRegistry::leaveShape()
     for (AxRegistryTable::Slot const& slot : table().slots)
     {
         entries.push_back(entryOf(*slot.shape));
+    }
+    for (AxRegistryShape const* shape = myShape; !shape->isRoot(); shape = shape->parent())
+    {
+        at(shape->distance)->rest(); // keeps the name that was the shape's
     }
     Own& mine = own();
     mine.entries.insert(mine.entries.begin(), entries.begin(), entries.end());
@@ -249,6 +259,25 @@ void AxReaderWriterRegistry::setCompared(AxReaderWriter const* member, bool comp
     {
         found->compared = compared;
     }
+}
+
+AxSymbolString AxReaderWriterRegistry::nameAt(std::uint16_t place) const
+{
+    if (myShape->place == place)
+    {
+        return AxSymbolString::fromId(myShape->name); // it was bound just now
+    }
+    AxRegistryTable const& shared = table();
+    if (std::size_t const slot = shared.findPlace(place); slot != AxRegistryTable::none)
+    {
+        return shared.slots[slot].keyword;
+    }
+    AxRegistryShape const* shape = myShape; // a later binding superseded it
+    while (!shape->isRoot() && shape->place != place)
+    {
+        shape = shape->parent();
+    }
+    return AxSymbolString::fromId(shape->name);
 }
 
 AxRegistryShape const* AxReaderWriterRegistry::shapeOf(AxReaderWriter const* member) const

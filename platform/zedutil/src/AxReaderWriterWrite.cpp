@@ -3,6 +3,7 @@
 #include "AxPlainValue.h"
 #include "AxRegistryShape.h"
 #include "AxRwList.h"
+#include "AxlPrint.h"
 
 #include <limits>
 
@@ -10,25 +11,6 @@ namespace
 {
 AxReaderWriter::PrePutSelfCallback ourCallback = nullptr;
 void* ourContext = nullptr;
-
-void appendName(std::string& out, AxSymbolString name)
-{
-    if (name.isBareWord())
-    {
-        out += name.view();
-        return;
-    }
-    out += '"';
-    for (char const byte : name.view())
-    {
-        if (byte == '"' || byte == '\\')
-        {
-            out += '\\';
-        }
-        out += byte;
-    }
-    out += '"';
-}
 } // namespace
 
 void AxReaderWriter::setPrePutSelfCallback(PrePutSelfCallback callback, void* context)
@@ -93,7 +75,7 @@ void AxReaderWriter::writeAs(AxSymbolString head, std::string& out, int indent, 
     }
     prePutSelf();
     out += '(';
-    appendName(out, head);
+    axAppendName(out, head);
     out += ' ';
     std::size_t const start = out.size();
     if (flag(VariableReference))
@@ -171,14 +153,16 @@ void AxReaderWriter::writeMembers(std::string& out, int indent, bool all, AxFile
     AxReaderWriterRegistry& members = restOrNull()->registry;
     std::size_t const shared = members.table().slots.size();
     bool const isPlain = !ourCallback && !flag(KeepsItems) && !flag(VariableReference);
-    for (AxRegistryTable::Slot const& slot : members.table().slots)
     {
-        AxReaderWriter& member = *members.at(slot.distance);
-        if (isPlain && AxPlainValue::write(slot.readingOf(member), member, slot.keyword, out, indent + 1, all))
+        AxTextRoom room(out);
+        for (AxRegistryTable::Slot const& slot : members.table().slots)
         {
-            continue;
+            AxReaderWriter& member = *members.at(slot.distance);
+            if (!isPlain || !AxPlainValue::write(slot, member, room, indent + 1, all))
+            {
+                room.append([&](std::string& text) { writeMember(member, slot.keyword, text, indent + 1, all, file); });
+            }
         }
-        writeMember(member, slot.keyword, out, indent + 1, all, file);
     }
     for (std::size_t i = shared; i < members.size(); ++i)
     {

@@ -3,25 +3,25 @@
 #include "AxRegistryShape.h"
 
 AxRecord::AxRecord(AxSymbolString name, AxReaderWriterRegistry* registry, bool specified)
-    : AxReaderWriter(name, nullptr, specified), myRest(this, name)
+    : AxReaderWriter(static_cast<Flag>(specified ? RestBehind | Specified : RestBehind)), myRest(this, name)
 {
-    useRest(myRest);
+    static_assert(sizeof(AxRecord) == sizeof(AxReaderWriter) + sizeof(Rest), "the one stands right behind the other");
     enter(registry);
 }
 
 AxRecord::AxRecord(AxKeyword const& keyword, AxReaderWriterRegistry* registry)
     : AxReaderWriter(keyword, registry), myRest(this, AxReaderWriter::name())
 {
-    if (Rest* const made = restOrNull()) // bound by pointer rather than as a data member
+    if (hasRest()) // bound by pointer rather than as a data member
     {
-        myRest.parent = made->parent;
-        delete made;
+        myRest.parent = restOrNull()->parent;
+        dropRest();
     }
-    useRest(myRest);
+    setFlag(RestBehind, true);
 }
 
 AxRecord::~AxRecord()
 {
     leaveParent();
-    dropRest();
+    setFlag(RestBehind, false);
 }

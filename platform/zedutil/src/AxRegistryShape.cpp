@@ -14,12 +14,18 @@ std::size_t hashOf(void const* address, std::size_t more = 0)
 } // namespace
 
 constinit AxRegistryShape AxRegistryShape::theRoot[2];
+constinit AxRegistryShape* AxRegistryShape::theLatest = theRoot;
 
 AxRegistryShape* AxRegistryShape::child(AxReaderWriter const& owner, AxKeyword const& keyword, std::uint16_t itsPlace)
 {
+    if (isRoot() && theLatest->isFor(owner, keyword, itsPlace * theUnit))
+    {
+        return theLatest;
+    }
     void const* const itsFunctions = AxReaderWriterFactory::functionsOf(owner);
     if (AxRegistryShape* const known = details ? details->find(keyword.text, itsPlace, itsFunctions) : nullptr)
     {
+        theLatest = isRoot() ? known : theLatest;
         return known;
     }
     AxRegistryShape* const made = addChild(owner, keyword, itsPlace);
@@ -65,7 +71,7 @@ AxRegistryShape* AxRegistryShape::addChild(AxReaderWriter const& owner, AxKeywor
     made->functions = AxReaderWriterFactory::functionsOf(owner);
     made->details = itsDetails;
     made->place = itsPlace;
-    made->distance = itsPlace * theUnit;
+    made->distance = static_cast<std::uint32_t>(itsPlace * theUnit);
     made->leadsRun = !fits;
     details->children.push_back(made);
     return made;
@@ -126,7 +132,7 @@ AxRegistryTable::AxRegistryTable(AxRegistryShape const& last)
             std::any_of(slots.begin(), slots.end(), [keyword](Slot const& later) { return later.keyword == keyword; });
         if (!superseded)
         {
-            slots.push_back({keyword, shape->distance, shape});
+            slots.emplace_back(keyword, *shape);
         }
     }
     std::reverse(slots.begin(), slots.end());
@@ -145,6 +151,9 @@ AxRegistryTable::AxRegistryTable(AxRegistryShape const& last)
             bucket = (bucket + 1) & myMask;
         }
         myBuckets[bucket] = static_cast<std::uint16_t>(i + 1);
+        std::size_t const place = slots[i].shape->place;
+        myPlaces.resize(std::max(myPlaces.size(), place + 1));
+        myPlaces[place] = static_cast<std::uint16_t>(i + 1);
     }
 }
 

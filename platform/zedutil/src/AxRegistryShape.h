@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <typeinfo>
 #include <vector>
@@ -18,14 +19,15 @@ struct AxRegistryShape
     struct Details;
 
     char const* text = nullptr; ///< of the keyword, known by its address; null behind the last shape of a run
-    void const* name = nullptr; ///< of the keyword
     /// The owner's table of virtual functions while the member was bound: that of the class that declares the member,
     /// so that members of two classes stay apart even if keyword and place are the same.
     void const* functions = nullptr;
+    std::uint32_t distance = 0; ///< of the member from its owner
+    std::uint16_t place = 0;    ///< the same in units of eight bytes; 0 for the root
+    bool leadsRun = false;      ///< its parent stands in another run
+
+    void const* name = nullptr; ///< of the keyword
     Details* details = nullptr;
-    std::size_t distance = 0; ///< of the member from its owner
-    std::uint16_t place = 0;  ///< the same in units of eight bytes; 0 for the root
-    bool leadsRun = false;    ///< its parent stands in another run
 
     static constexpr std::size_t theUnit = 8;
 
@@ -33,6 +35,12 @@ struct AxRegistryShape
     static AxRegistryShape* root() { return theRoot; }
 
     bool isRoot() const { return place == 0; }
+    /// Whether this is what `owner` binds when it binds `keyword` at this distance.
+    bool isFor(AxReaderWriter const& owner, AxKeyword const& keyword, std::size_t itsDistance) const
+    {
+        return text == keyword.text && distance == itsDistance &&
+               functions == AxReaderWriterFactory::functionsOf(owner);
+    }
     inline AxRegistryShape* parent();
     AxRegistryShape const* parent() const { return const_cast<AxRegistryShape*>(this)->parent(); }
     /// Of this shape and its parents; made at the first call.
@@ -48,6 +56,7 @@ private:
 
     AxRegistryTable const* myTable = nullptr;
     static AxRegistryShape theRoot[2];
+    static AxRegistryShape* theLatest; // child of the root that was asked for last: objects of a class come in rows
 };
 
 /// The members of a shape and its parents in binding order, each keyword once, with an index by keyword.
@@ -55,9 +64,19 @@ struct AxRegistryTable
 {
     struct Slot
     {
+        Slot(AxSymbolString itsKeyword, AxRegistryShape const& itsShape)
+            : keyword(itsKeyword),
+              word(itsKeyword.view()),
+              shape(&itsShape),
+              distance(itsShape.distance),
+              isBareWord(itsKeyword.isBareWord())
+        {
+        }
         AxSymbolString keyword;
-        std::size_t distance;
+        std::string_view word; ///< the text of the keyword
         AxRegistryShape const* shape;
+        std::uint32_t distance;
+        bool isBareWord;
         mutable void const* functions = nullptr; ///< table of virtual functions that `reading` was found for
         mutable AxTypeInfo::Reading reading = AxTypeInfo::Reading::Cells;
 
@@ -76,6 +95,11 @@ struct AxRegistryTable
     explicit AxRegistryTable(AxRegistryShape const& last);
     /// The place of `keyword`, or `none`.
     std::size_t find(AxSymbolString keyword) const;
+    /// That of the member bound at this place of the object, or `none`.
+    std::size_t findPlace(std::uint16_t place) const
+    {
+        return place < myPlaces.size() ? myPlaces[place] - std::size_t{1} : none;
+    }
 
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
     std::vector<Slot> slots;
@@ -83,6 +107,7 @@ struct AxRegistryTable
 private:
     std::vector<std::uint16_t> myBuckets; // slot + 1, 0 for free
     std::size_t myMask = 0;
+    std::vector<std::uint16_t> myPlaces; // slot + 1, 0 for none
 };
 
 /// What binding and leaving need seldom.
@@ -94,16 +119,20 @@ struct AxRegistryShape::Details
         AxRegistryShape* shape = nullptr;
     };
 
+    unsigned char initial[32] = {};
+    std::size_t initialSize = 0;
     AxRegistryShape* parent = nullptr;
     AxRegistryShape const* runEnd = nullptr;
     std::type_info const* declaringClass = nullptr;
     AxKeyword description{};
-    unsigned char initial[32] = {};
-    std::size_t initialSize = 0;
     std::vector<AxRegistryShape*> children{};
     std::vector<Known> known{}; ///< children by the addresses of keywords: a hash table, at most half full
     std::size_t knownCount = 0;
 
+    bool isInitial(std::uint64_t value) const
+    {
+        return initialSize == sizeof value && std::memcmp(initial, &value, sizeof value) == 0;
+    }
     AxRegistryShape* find(char const* keyword, std::uint16_t place, void const* functions) const;
     void enter(char const* keyword, AxRegistryShape* shape);
 };
@@ -162,24 +191,8 @@ inline bool AxReaderWriterRegistry::leave(AxReaderWriter const& member)
     return true;
 }
 
-/// One for each member of an object that is made. What is called in the other case is a function of its own, so that
-/// this needs no room on the stack.
-inline void AxReaderWriterRegistry::bind(AxReaderWriter& member, AxKeyword const& keyword)
-{
-    std::size_t const distance = reinterpret_cast<std::uintptr_t>(&member) - reinterpret_cast<std::uintptr_t>(myOwner);
-    AxRegistryShape* const next = myShape + 1;
-    if (next->text != keyword.text || next->distance != distance ||
-        next->functions != AxReaderWriterFactory::functionsOf(*myOwner) || myOwn) [[unlikely]]
-    {
-        bindOtherwise(member, keyword, distance);
-        return;
-    }
-    bindTo(*next, member);
-}
-
 inline void AxReaderWriterRegistry::bindTo(AxRegistryShape& shape, AxReaderWriter& member)
 {
     myShape = &shape;
-    member.myNameOrRest = reinterpret_cast<std::uintptr_t>(shape.name);
     member.myPlace = shape.place;
 }

@@ -1,26 +1,12 @@
 #include "AxRwString.h"
 
+#include "AxPlainValue.h"
 #include "AxRwVariableBindings.h"
 #include "AxlObj.h"
 #include "AxlPrint.h"
 
 namespace
 {
-/// "$$(" is how a literal "$(" stands in a text.
-std::string escaped(std::string const& text)
-{
-    std::string out;
-    for (std::size_t i = 0; i < text.size(); ++i)
-    {
-        if (text[i] == '$' && i + 1 < text.size() && text[i + 1] == '(')
-        {
-            out += '$';
-        }
-        out += text[i];
-    }
-    return out;
-}
-
 std::string unquoted(std::string_view written)
 {
     std::string out;
@@ -40,7 +26,10 @@ AxRwString::~AxRwString() = default;
 
 void AxRwString::start(char const* initial)
 {
-    start(AxString(initial));
+    std::string_view const text(initial ? initial : "");
+    myValue = AxSharedText(text);
+    void const* const id = AxSymbolString(text).id();
+    noteInitialValue(&id, sizeof id);
 }
 
 AxRwString& AxRwString::operator=(AxSymbolString value)
@@ -73,13 +62,8 @@ bool AxRwString::readValue(AxlObj const*& items, AxString& value)
 
 void AxRwString::writeValue(std::string& out, AxString const& value)
 {
-    std::string const& text = value.string();
-    if (text.find("$(") != std::string::npos)
-    {
-        axAppendQuoted(out, escaped(text));
-        return;
-    }
-    axAppendQuoted(out, text);
+    AxTextRoom room(out);
+    room.put(AxPlainValue::writeText(room.take(AxPlainValue::longestWritten(value.string())), value.string()));
 }
 
 AxlObjPtr AxRwString::getData(AxlObjPtr const& items, AxFilenameList const& files, AxBindingsList const& bindings)

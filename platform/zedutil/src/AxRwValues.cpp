@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <boost/algorithm/string/predicate.hpp>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -186,12 +185,18 @@ bool typeOf(AxlObj const*& items, Type& value)
     return true;
 }
 
+/// Letters of ASCII are the same in either case; `small` has small ones only.
+bool isSameWord(std::string_view word, std::string_view small)
+{
+    return std::equal(word.begin(), word.end(), small.begin(), small.end(),
+                      [](char a, char b) { return a == b || (a >= 'A' && a <= 'Z' && a - 'A' + 'a' == b); });
+}
+
 bool boolOf(std::string_view word, bool& value)
 {
-    using boost::algorithm::iequals;
     for (char const* yes : {"true", "yes", "on", "t", "1"})
     {
-        if (iequals(word, yes))
+        if (isSameWord(word, yes))
         {
             value = true;
             return true;
@@ -199,7 +204,7 @@ bool boolOf(std::string_view word, bool& value)
     }
     for (char const* no : {"false", "no", "off", "f", "0"})
     {
-        if (iequals(word, no))
+        if (isSameWord(word, no))
         {
             value = false;
             return true;
@@ -209,7 +214,10 @@ bool boolOf(std::string_view word, bool& value)
 }
 } // namespace
 
-AxRwReal::~AxRwReal() = default;
+char const* AxRwReal::xmlType() const
+{
+    return typeName();
+}
 
 bool AxRwReal::readValue(AxlObj const*& items, double& value)
 {
@@ -226,7 +234,10 @@ void AxRwReal::writeValue(std::string& out, double const& value)
     axAppendReal(out, value);
 }
 
-AxRwInt::~AxRwInt() = default;
+char const* AxRwInt::xmlType() const
+{
+    return typeName();
+}
 
 bool AxRwInt::readValue(AxlObj const*& items, int& value)
 {
@@ -246,7 +257,10 @@ void AxRwInt::writeValue(std::string& out, int const& value)
     axAppendInt(out, value);
 }
 
-AxRwUnsigned::~AxRwUnsigned() = default;
+char const* AxRwUnsigned::xmlType() const
+{
+    return typeName();
+}
 
 bool AxRwUnsigned::readValue(AxlObj const*& items, unsigned& value)
 {
@@ -265,7 +279,10 @@ void AxRwUnsigned::writeValue(std::string& out, unsigned const& value)
     axAppendInt(out, value);
 }
 
-AxRwBoolean::~AxRwBoolean() = default;
+char const* AxRwBoolean::xmlType() const
+{
+    return typeName();
+}
 
 bool AxRwBoolean::readValue(AxlObj const*& items, bool& value)
 {

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cstring>
 #include <limits>
@@ -76,15 +77,50 @@ char const* pastBlanks(char const* at)
     return at;
 }
 
+std::uint64_t eightBytes(char const* at)
+{
+    std::uint64_t word = 0;
+    std::memcpy(&word, at, sizeof word);
+    return word;
+}
+
 /// The same between items, where lines begin with many spaces.
 char const* pastIndentation(char const* at, char const* end)
 {
     at += kindOf(*at) == Blank ? 1 : 0;
-    while (end - at >= 4 && std::memcmp(at, "    ", 4) == 0)
+    while (end - at >= 8)
     {
-        at += 4;
+        constexpr std::uint64_t spaces = 0x2020202020202020U;
+        std::uint64_t const others = eightBytes(at) ^ spaces;
+        if (others != 0)
+        {
+            constexpr bool isFirstLow = std::endian::native == std::endian::little;
+            at += (isFirstLow ? std::countr_zero(others) : std::countl_zero(others)) / 8;
+            break;
+        }
+        at += 8;
     }
     return pastBlanks(at);
+}
+
+/// Whether the text at `at`, which ends at `end`, begins with `word`.
+bool beginsWith(char const* at, char const* end, std::string_view word)
+{
+    std::size_t const size = word.size();
+    if (static_cast<std::size_t>(end - at) < size)
+    {
+        return false;
+    }
+    if (size < 8)
+    {
+        return std::memcmp(at, word.data(), size) == 0;
+    }
+    std::uint64_t different = eightBytes(at + size - 8) ^ eightBytes(word.data() + size - 8);
+    for (std::size_t i = 0; i + 8 < size && different == 0; i += 8)
+    {
+        different = eightBytes(at + i) ^ eightBytes(word.data() + i);
+    }
+    return different == 0;
 }
 
 bool isDigit(char byte)
@@ -389,10 +425,9 @@ void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameLis
             char const* end = head;
             if (place < table.slots.size())
             {
-                std::string_view const expected = table.slots[place].keyword.view();
+                std::string_view const expected = table.slots[place].word;
                 bool const isExpected =
-                    !expected.empty() && expected.size() <= static_cast<std::size_t>(myEnd - head) &&
-                    std::memcmp(head, expected.data(), expected.size()) == 0 && kindOf(head[expected.size()]) != Word;
+                    !expected.empty() && beginsWith(head, myEnd, expected) && kindOf(head[expected.size()]) != Word;
                 end = isExpected ? head + expected.size() : endOfWord(head);
                 if (!isExpected)
                 {

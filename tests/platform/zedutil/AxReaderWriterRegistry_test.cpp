@@ -161,6 +161,7 @@ TEST(AxReaderWriterRegistryTest, LetsMembersLeaveInAnyOrder)
     Loose loose("r", nullptr);
     loose.second.reset();
     EXPECT_EQ(words(loose), "first third ");
+    EXPECT_EQ(loose.first->name(), "first");
     loose.third.reset();
     EXPECT_EQ(words(loose), "first ");
     loose.second.emplace(AxKeyword{"second"}, loose.registry());
