@@ -48,14 +48,14 @@ public:
     // ---- End of the virtual operations. ----
 
     /// Version of the database file that the entry was loaded from; 101 for one that was not.
-    int version() const { return myVersion; }
+    int version() const;
     /// The directory of that file, null for an entry that was not loaded from one.
-    AxFilename const& databaseDirectory() const { return myDatabaseDirectory; }
-    void setDatabaseDirectory(AxFilename const& directory) { myDatabaseDirectory = directory; }
+    AxFilename const& databaseDirectory() const;
+    void setDatabaseDirectory(AxFilename const& directory);
     /// Where the entry stands in that file, for what is wrong with the file that it names.
     void setPlace(boost::shared_ptr<AxFilename const> const& databaseFile, unsigned line, unsigned column);
     /// Whether the entry stands for an object in a file below the data root, and not in the database file.
-    bool isFromDataRoot() const { return myDatabaseFile && myLine == 0; }
+    bool isFromDataRoot() const;
     /// Where the record's file is found now: along the search paths, the path, the database's directory, as named.
     /// Null when it is nowhere.
     AxFilename foundFilename() const;
@@ -64,10 +64,20 @@ public:
     AxSxpParameterDbFileEntry const* fileEntry() const { return myFileEntry.get(); }
     void setFileEntry(AxSxpParameterDbFileEntry const& entry);
 
+    /// Version, path, search paths, variables, directory and name of the database file: entries of one file share them
+    /// until one is given others.
+    struct Origin;
+    using OriginPtr = boost::shared_ptr<Origin>;
+    OriginPtr const& origin() const { return myOrigin; }
+    void setOrigin(OriginPtr const& origin) { myOrigin = origin; }
+
 private:
     struct Sources;
     struct Reading;
 
+    /// That of this entry alone.
+    template <class Change>
+    void changeOrigin(Change const& change);
     AxZedObjectParameters* readRecord(AxlInputStream& stream, AxEnvironmentPtr const& env, AxEnvValuePtr* value);
     std::vector<AxFilename> directories() const;
     using FilePtr = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
@@ -80,12 +90,7 @@ private:
     AxDiagnostic faultOfFile(char const* code, AxFilename const& file, std::string const& text) const;
 
     AxFilename myFilename;
-    AxFilename myPath;
-    int myVersion;
-    boost::shared_ptr<AxRwVariableBindings> myVariableBindings;
-    std::vector<AxFilename> mySearchPaths;
-    AxFilename myDatabaseDirectory;
-    boost::shared_ptr<AxFilename const> myDatabaseFile;
+    OriginPtr myOrigin;
     unsigned myLine = 0;
     unsigned myColumn = 0;
     Reading* myReading = nullptr; // while the record is read

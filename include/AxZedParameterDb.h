@@ -85,7 +85,7 @@ private:
     friend class AxZedParameterDbEntry;
 
     void release(AxZedParameterDbEntry& entry);
-    void typeChanged();
+    void typeChanges();
     void park(AxZedParameterDbEntry* entry);
 
     struct Parked;

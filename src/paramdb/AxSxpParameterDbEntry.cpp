@@ -14,6 +14,7 @@
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
+#include <boost/make_shared.hpp>
 #include <cerrno>
 #include <cstring>
 #include <exception>
@@ -44,6 +45,22 @@ bool namesType(AxlObj const* object)
 }
 } // namespace
 
+struct AxSxpParameterDbEntry::Origin
+{
+    AxFilename path{};
+    int version = theCurrentVersion;
+    boost::shared_ptr<AxRwVariableBindings> variableBindings{};
+    std::vector<AxFilename> searchPaths{};
+    AxFilename databaseDirectory{};
+    boost::shared_ptr<AxFilename const> databaseFile{};
+
+    static OriginPtr const& none()
+    {
+        static OriginPtr const none = boost::make_shared<Origin>();
+        return none;
+    }
+};
+
 /// One reading of the record: the file found and where the record begins in it.
 struct AxSxpParameterDbEntry::Reading
 {
@@ -69,18 +86,18 @@ struct AxSxpParameterDbEntry::Sources
         {
             files.push_back(entry.myReading->file.directory());
         }
-        files.insert(files.end(), entry.mySearchPaths.begin(), entry.mySearchPaths.end());
-        if (!entry.myPath.isNull())
+        files.insert(files.end(), entry.myOrigin->searchPaths.begin(), entry.myOrigin->searchPaths.end());
+        if (!entry.myOrigin->path.isNull())
         {
-            files.push_back(entry.myPath);
+            files.push_back(entry.myOrigin->path);
         }
-        if (entry.myVariableBindings)
+        if (entry.myOrigin->variableBindings)
         {
-            bindings.push_back(entry.myVariableBindings.get());
+            bindings.push_back(entry.myOrigin->variableBindings.get());
         }
-        if (!entry.myDatabaseDirectory.isNull())
+        if (!entry.myOrigin->databaseDirectory.isNull())
         {
-            axBindDatabaseDirectory(database, entry.myDatabaseDirectory);
+            axBindDatabaseDirectory(database, entry.myOrigin->databaseDirectory);
             bindings.push_back(&database);
         }
     }
@@ -89,7 +106,17 @@ struct AxSxpParameterDbEntry::Sources
     AxBindingsList bindings;
 };
 
-AxSxpParameterDbEntry::AxSxpParameterDbEntry() : myVersion(theCurrentVersion) {}
+AxSxpParameterDbEntry::AxSxpParameterDbEntry() : myOrigin(Origin::none()) {}
+
+template <class Change>
+void AxSxpParameterDbEntry::changeOrigin(Change const& change)
+{
+    if (myOrigin.use_count() != 1)
+    {
+        myOrigin = boost::make_shared<Origin>(*myOrigin);
+    }
+    change(*myOrigin);
+}
 
 AxSxpParameterDbEntry::~AxSxpParameterDbEntry() = default;
 
@@ -115,37 +142,52 @@ AxFilename const& AxSxpParameterDbEntry::filename() const
 
 void AxSxpParameterDbEntry::setPath(AxFilename const& path)
 {
-    myPath = path;
+    changeOrigin([&](Origin& origin) { origin.path = path; });
 }
 
 AxFilename const& AxSxpParameterDbEntry::path() const
 {
-    return myPath;
+    return myOrigin->path;
+}
+
+int AxSxpParameterDbEntry::version() const
+{
+    return myOrigin->version;
+}
+
+AxFilename const& AxSxpParameterDbEntry::databaseDirectory() const
+{
+    return myOrigin->databaseDirectory;
+}
+
+void AxSxpParameterDbEntry::setDatabaseDirectory(AxFilename const& directory)
+{
+    changeOrigin([&](Origin& origin) { origin.databaseDirectory = directory; });
 }
 
 void AxSxpParameterDbEntry::setVersion(int version)
 {
-    myVersion = version;
+    changeOrigin([&](Origin& origin) { origin.version = version; });
 }
 
 void AxSxpParameterDbEntry::setVariableBindings(boost::shared_ptr<AxRwVariableBindings> const& bindings)
 {
-    myVariableBindings = bindings;
+    changeOrigin([&](Origin& origin) { origin.variableBindings = bindings; });
 }
 
 boost::shared_ptr<AxRwVariableBindings> AxSxpParameterDbEntry::variableBindings() const
 {
-    return myVariableBindings;
+    return myOrigin->variableBindings;
 }
 
 std::vector<AxFilename> const& AxSxpParameterDbEntry::searchPaths() const
 {
-    return mySearchPaths;
+    return myOrigin->searchPaths;
 }
 
 void AxSxpParameterDbEntry::setSearchPaths(std::vector<AxFilename> const& paths)
 {
-    mySearchPaths = paths;
+    changeOrigin([&](Origin& origin) { origin.searchPaths = paths; });
 }
 
 void AxSxpParameterDbEntry::setFileEntry(AxSxpParameterDbFileEntry const& entry)
@@ -156,14 +198,22 @@ void AxSxpParameterDbEntry::setFileEntry(AxSxpParameterDbFileEntry const& entry)
 void AxSxpParameterDbEntry::setPlace(boost::shared_ptr<AxFilename const> const& databaseFile, unsigned line,
                                      unsigned column)
 {
-    myDatabaseFile = databaseFile;
+    if (myOrigin->databaseFile != databaseFile)
+    {
+        changeOrigin([&](Origin& origin) { origin.databaseFile = databaseFile; });
+    }
     myLine = line;
     myColumn = column;
 }
 
+bool AxSxpParameterDbEntry::isFromDataRoot() const
+{
+    return myOrigin->databaseFile && myLine == 0;
+}
+
 AxDiagnostic AxSxpParameterDbEntry::faultOfFile(char const* code, AxFilename const& file, std::string const& text) const
 {
-    AxDiagnostic fault = axFault(code, myDatabaseFile ? *myDatabaseFile : file, text);
+    AxDiagnostic fault = axFault(code, myOrigin->databaseFile ? *myOrigin->databaseFile : file, text);
     fault.line = myLine;
     fault.column = myColumn;
     return fault;
@@ -171,8 +221,8 @@ AxDiagnostic AxSxpParameterDbEntry::faultOfFile(char const* code, AxFilename con
 
 std::vector<AxFilename> AxSxpParameterDbEntry::directories() const
 {
-    std::vector<AxFilename> directories = mySearchPaths;
-    for (AxFilename const& directory : {myPath, myDatabaseDirectory})
+    std::vector<AxFilename> directories = myOrigin->searchPaths;
+    for (AxFilename const& directory : {myOrigin->path, myOrigin->databaseDirectory})
     {
         if (!directory.isNull())
         {
@@ -230,7 +280,7 @@ AxSxpParameterDbEntry::FilePtr AxSxpParameterDbEntry::openFile(AxFilename const&
 AxZedObjectParameters* AxSxpParameterDbEntry::readEntityFile(AxFilename const& file)
 {
     std::vector<AxFilename> searched;
-    for (AxFilename const& directory : {myPath, myDatabaseDirectory})
+    for (AxFilename const& directory : {myOrigin->path, myOrigin->databaseDirectory})
     {
         if (!directory.isNull())
         {

@@ -246,6 +246,7 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
     auto const shared = boost::make_shared<AxRwVariableBindings>(AxSymbolString("variable-bindings"));
     shared->addAllFrom(data.variableBindings());
     db->addVariableBindings(shared);
+    AxSxpParameterDbEntry::OriginPtr origin;
     for (AxSxpParameterDbFileEntry* fileEntry : data.entryList())
     {
         AxSxpParameterDbEntry* const entry =
@@ -254,12 +255,25 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
         {
             continue;
         }
-        entry->setVersion(db->versionNumber());
-        entry->setPath(basePath);
-        entry->setVariableBindings(shared);
-        entry->setSearchPaths(db->searchPaths());
-        entry->setDatabaseDirectory(myDatabaseDirectory);
+        // A derived entry may look at what it is given; others share it.
+        bool const isPlain = typeid(*entry) == typeid(AxSxpParameterDbEntry);
+        if (isPlain && origin)
+        {
+            entry->setOrigin(origin);
+        }
+        else
+        {
+            entry->setVersion(db->versionNumber());
+            entry->setPath(basePath);
+            entry->setVariableBindings(shared);
+            entry->setSearchPaths(db->searchPaths());
+            entry->setDatabaseDirectory(myDatabaseDirectory);
+        }
         entry->setPlace(myDatabaseFile, fileEntry->line(), fileEntry->column());
+        if (isPlain)
+        {
+            origin = entry->origin();
+        }
         if (fileEntry->hasMoreThanItsValues())
         {
             entry->setFileEntry(*fileEntry);

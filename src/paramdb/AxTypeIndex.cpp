@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace
 {
@@ -44,14 +45,12 @@ bool hasNegativeField(AxObjectType const& type)
 
 AxListItem* AxTypeIndex::bestMatch(AxObjectType const& type)
 {
+    arrange();
     if (!isSorted())
     {
         return walk(type);
     }
-    if (!myHasTables)
-    {
-        buildTables();
-    }
+    buildTables();
     if (hasNegativeField(type))
     {
         return bestOfUnusual(type);
@@ -149,16 +148,23 @@ AxListItem* AxTypeIndex::walk(AxObjectType const& type) const
 
 AxListItem* AxTypeIndex::firstOf(AxObjectType const& type)
 {
-    if (isSorted() && (myList.isEmpty() || typeOf(myList.last()) < type))
+    if (!isSorted())
+    {
+        AxListItem* const found = walk(type);
+        return found != nullptr && typeOf(found) == type ? found : nullptr;
+    }
+    if (myList.isEmpty() || greatest() < type)
     {
         return nullptr;
     }
-    AxListItem* const found = bestMatch(type);
-    return found != nullptr && typeOf(found) == type ? found : nullptr;
+    buildTables();
+    AxTypeTable::Slot const* const slot = tableFor(shapeOf(type)).find(type);
+    return slot != nullptr ? slot->first : nullptr;
 }
 
 AxListItem* AxTypeIndex::insert(void* data, AxObjectType const& type)
 {
+    arrange();
     if (!isSorted())
     {
         return insertByWalk(data, type);
@@ -179,30 +185,71 @@ AxListItem* AxTypeIndex::insert(void* data, AxObjectType const& type)
     return item;
 }
 
+AxListItem* AxTypeIndex::insertLater(void* data, AxObjectType const& type)
+{
+    bool const isInPlace = myUnplaced.empty() && (myList.isEmpty() || greatest() < type);
+    if (!isSorted() || isInPlace || myHasOrder)
+    {
+        return insert(data, type);
+    }
+    if (greatest() == type)
+    {
+        return nullptr;
+    }
+    myGreatest = std::max(greatest(), type);
+    AxListItem* const item = myList.add(data);
+    myUnplaced.push_back({type, item});
+    enter(item, type);
+    return item;
+}
+
+void AxTypeIndex::placeAll()
+{
+    std::vector<Unplaced> unplaced = std::exchange(myUnplaced, {});
+    std::stable_sort(unplaced.begin(), unplaced.end(),
+                     [](Unplaced const& a, Unplaced const& b) { return a.type < b.type; });
+    std::size_t placed = static_cast<std::size_t>(myList.count()) - unplaced.size();
+    bool const areFew = unplaced.size() < placed / 8;
+    // Each item in turn goes to the end, so that the first is always the next of those that had their places.
+    for (Unplaced const& next : unplaced)
+    {
+        for (; placed != 0 && !(next.type < typeOf(myList.first())); --placed)
+        {
+            myList.moveTo(myList, myList.first());
+        }
+        myList.moveTo(myList, next.item);
+    }
+    for (; placed != 0; --placed)
+    {
+        myList.moveTo(myList, myList.first());
+    }
+    myChangeCount = myList.changeCount();
+    if (areFew)
+    {
+        buildOrder(); // more single ones may follow, each asked for at once
+    }
+}
+
 void AxTypeIndex::enter(AxListItem* item, AxObjectType const& type)
 {
     myChangeCount = myList.changeCount();
-    bool const isFirst = item->previous() == nullptr || !(typeOf(item->previous()) == type);
-    if (myHasOrder && isFirst)
+    if (myHasOrder)
     {
+        // An item behind one of equal type finds its key taken.
         myOrder.emplace_hint(item->next() == nullptr ? myOrder.end() : myOrder.upper_bound(type), type, item);
     }
     if (myHasTables)
     {
         unsigned const shape = shapeOf(type);
-        if (isFirst)
+        AxTypeTable& table = tableFor(shape);
+        std::uint64_t const hash = AxTypeHash(type).mixed();
+        if (AxTypeTable::Slot* const slot = table.find(type, hash))
         {
-            tableFor(shape).add(type, item);
-            countShape(shape, 1);
+            slot->last = item; // it stands behind those of equal type
+            return;
         }
-        else if (AxTypeTable::Slot* const slot = tableFor(shape).find(type))
-        {
-            slot->last = item;
-        }
-        else
-        {
-            invalidate();
-        }
+        table.add(type, item, hash);
+        countShape(shape, 1);
     }
 }
 
@@ -231,6 +278,7 @@ AxListItem* AxTypeIndex::insertByWalk(void* data, AxObjectType const& type)
 
 void AxTypeIndex::remove(AxListItem* item)
 {
+    arrange();
     bool const isKept = isSorted() && leave(item);
     myList.remove(item);
     myChangeCount = myList.changeCount();
@@ -285,6 +333,7 @@ bool AxTypeIndex::leave(AxListItem const* item)
 
 void AxTypeIndex::removeAll()
 {
+    myUnplaced.clear();
     myList.removeAll();
     forget();
     myChangeCount = myList.changeCount();
@@ -305,6 +354,7 @@ bool AxTypeIndex::isSorted()
 {
     if (!myIsKnown || myChangeCount != myList.changeCount())
     {
+        arrange();
         forget();
         myIsSorted = scanIsSorted();
         myIsKnown = true;
@@ -330,6 +380,10 @@ bool AxTypeIndex::scanIsSorted() const
 
 void AxTypeIndex::buildTables()
 {
+    if (myHasTables)
+    {
+        return;
+    }
     std::size_t patterns = 0;
     for (AxListItem const* item = myList.first(); item != nullptr; item = item->next())
     {
@@ -356,7 +410,6 @@ void AxTypeIndex::buildOrder()
     myHasOrder = true;
     for (AxListItem* item = myList.first(); item != nullptr; item = item->next())
     {
-        // An item behind one of equal type finds its key taken.
         myOrder.emplace_hint(myOrder.end(), typeOf(item), item);
     }
 }
@@ -382,6 +435,7 @@ void AxTypeIndex::countShape(unsigned shape, int change)
 
 AxListItem* AxTypeIndex::ancestorOf(AxListItem const* item)
 {
+    arrange();
     AxObjectType const& type = typeOf(item);
     if (!isSorted())
     {
@@ -393,10 +447,7 @@ AxListItem* AxTypeIndex::ancestorOf(AxListItem const* item)
         }
         return before;
     }
-    if (!myHasTables)
-    {
-        buildTables();
-    }
+    buildTables();
     AxListItem* const fitting = greatestBelow(type);
     AxListItem* const catchAll = lastCatchAllBefore(type);
     if (fitting == nullptr || catchAll == nullptr)

@@ -29,16 +29,38 @@ public:
     /// Puts `data` in front of the first item above its type, or at the end when the last item is below it. Null when
     /// neither is to be had, because an item of equal type is the last.
     AxListItem* insert(void* data, AxObjectType const& type);
+    /// The same for many in a row: the item comes to its place when the order is asked for, by `arrange` or by any
+    /// other operation but this and `firstOf`.
+    AxListItem* insertLater(void* data, AxObjectType const& type);
+    void arrange()
+    {
+        if (!myUnplaced.empty())
+        {
+            placeAll();
+        }
+    }
     void remove(AxListItem* item);
     void removeAll();
     /// A type was changed behind the index.
-    void invalidate() { myIsKnown = false; }
+    void invalidate()
+    {
+        arrange();
+        myIsKnown = false;
+    }
 
     /// The nearest item in front of `item` whose type it fits or whose super type is the catch-all mark.
     AxListItem* ancestorOf(AxListItem const* item);
 
 private:
+    struct Unplaced
+    {
+        AxObjectType type;
+        AxListItem* item;
+    };
+
     AxObjectType const& typeOf(AxListItem const* item) const { return *myTypeOf(item->data()); }
+    AxObjectType const& greatest() const { return myUnplaced.empty() ? typeOf(myList.last()) : myGreatest; }
+    void placeAll();
     bool isSorted();
     bool scanIsSorted() const;
     void forget();
@@ -60,6 +82,8 @@ private:
     std::vector<std::uint8_t> myShapes; // of the patterns, ascending
     std::array<std::uint32_t, 256> myShapeCounts{};
     std::map<AxObjectType, AxListItem*> myOrder; // the first item of each type
+    std::vector<Unplaced> myUnplaced;            // the last items of the list, as they came
+    AxObjectType myGreatest;                     // while there are such
     std::uint32_t myChangeCount = 0;             // of the list as the index knows it
     bool myIsKnown = true;
     bool myIsSorted = true;

@@ -1,82 +1,84 @@
 #include "AxTypeTable.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
-constexpr unsigned theFewestBits = 4;
-/// Filter bits for each slot: a table is up to three quarters full, so about one probe in ten passes by chance.
-constexpr std::size_t theFilterBitsPerSlot = 8;
+constexpr unsigned theFewestGroupBits = 1;
+/// A table is up to seven eighths full, so about one probe in twenty passes the filter by chance.
+constexpr std::size_t theFilterBitsPerSlot = 16;
 } // namespace
 
 void AxTypeTable::reserve(std::size_t count)
 {
-    unsigned const bits = std::max(theFewestBits, static_cast<unsigned>(std::bit_width(count + count / 3)));
-    if (mySlots.size() < std::size_t{1} << bits)
+    std::size_t const groups = (count + count / 7) / theGroupSize + 1;
+    if (mySlots.size() < groups * theGroupSize)
     {
-        resize(bits);
+        resize(std::max(theFewestGroupBits, static_cast<unsigned>(std::bit_width(groups - 1))));
     }
 }
 
-void AxTypeTable::resize(unsigned bits)
+void AxTypeTable::resize(unsigned groupBits)
 {
-    std::vector<Slot> const before = std::move(mySlots);
-    mySlots.assign(std::size_t{1} << bits, Slot{});
-    myMask = mySlots.size() - 1;
-    myShift = 64 - bits;
+    std::size_t const groups = std::size_t{1} << groupBits;
+    std::vector<Slot> const slots = std::exchange(mySlots, std::vector<Slot>(groups * theGroupSize));
+    std::vector<std::uint8_t> const tags =
+        std::exchange(myTags, std::vector<std::uint8_t>(groups * theGroupSize, theFree));
+    myMask = groups - 1;
+    myShift = 64 - groupBits;
+    myNumErased = 0;
     myFilter.assign((mySlots.size() * theFilterBitsPerSlot + 63) / 64, 0);
     myFilterMask = myFilter.size() - 1;
-    for (Slot const& slot : before)
+    for (std::size_t i = 0; i < slots.size(); ++i)
     {
-        if (slot.first != nullptr)
+        if (tags[i] > theErased)
         {
-            place(slot, AxTypeHash(slot.type).mixed());
+            place(slots[i], AxTypeHash(slots[i].type).mixed());
         }
     }
 }
 
 void AxTypeTable::place(Slot const& slot, std::uint64_t hash)
 {
-    std::size_t at = hash >> myShift;
-    while (mySlots[at].first != nullptr)
+    std::size_t group = hash >> myShift;
+    while ((tagsOf(group) & theHighBits) == theHighBits)
     {
-        at = (at + 1) & myMask;
+        group = (group + 1) & myMask;
     }
+    std::size_t const at = group * theGroupSize + byteOf(~tagsOf(group) & theHighBits);
+    myNumErased -= myTags[at] == theErased;
+    myTags[at] = tagOf(hash);
     mySlots[at] = slot;
     myFilter[hash >> 6 & myFilterMask] |= std::uint64_t{1} << (hash & 63);
 }
 
-void AxTypeTable::add(AxObjectType const& type, AxListItem* item)
+void AxTypeTable::add(AxObjectType const& type, AxListItem* item, std::uint64_t hash)
 {
-    if ((myCount + 1) * 4 > mySlots.size() * 3)
+    if ((myCount + myNumErased + 1) * 8 > mySlots.size() * 7)
     {
-        resize(mySlots.empty() ? theFewestBits : static_cast<unsigned>(std::bit_width(mySlots.size())));
+        bool const isFull = myCount * 2 >= mySlots.size();
+        resize(mySlots.empty() ? theFewestGroupBits : static_cast<unsigned>(std::bit_width(myMask)) + isFull);
     }
-    place({type, item, item}, AxTypeHash(type).mixed());
+    place({type, item, item}, hash);
     ++myCount;
 }
 
 void AxTypeTable::erase(Slot* slot)
 {
-    // Slots behind the gap move up unless that would put them in front of where their probing begins.
-    std::size_t gap = static_cast<std::size_t>(slot - mySlots.data());
-    for (std::size_t at = (gap + 1) & myMask; mySlots[at].first != nullptr; at = (at + 1) & myMask)
-    {
-        std::size_t const home = AxTypeHash(mySlots[at].type).mixed() >> myShift;
-        if (((at - home) & myMask) >= ((at - gap) & myMask))
-        {
-            mySlots[gap] = mySlots[at];
-            gap = at;
-        }
-    }
-    mySlots[gap] = Slot{};
+    auto const at = static_cast<std::size_t>(slot - mySlots.data());
+    bool const hasFree = zeroBytes(tagsOf(at / theGroupSize)) != 0;
+    myTags[at] = hasFree ? theFree : theErased;
+    myNumErased += !hasFree;
+    *slot = Slot{};
     --myCount;
 }
 
 void AxTypeTable::clear()
 {
     mySlots.clear();
+    myTags.clear();
     myFilter.assign(1, 0);
-    myCount = myMask = myFilterMask = 0;
+    myCount = myNumErased = myMask = myFilterMask = 0;
     myShift = 63;
 }

@@ -52,7 +52,8 @@ private:
     unsigned myShape = 0;
 };
 
-/// Object types to the first and the last of the list items of that type: open addressing, linear probing.
+/// Object types to the first and the last of the list items of that type: open addressing in groups of eight slots. A
+/// byte of the hash for each slot tells at once which slots of a group to look at.
 class AxTypeTable
 {
 public:
@@ -71,16 +72,20 @@ public:
         {
             return nullptr;
         }
-        for (std::size_t at = hash >> myShift;; at = (at + 1) & myMask)
+        for (std::size_t group = hash >> myShift;; group = (group + 1) & myMask)
         {
-            Slot& slot = mySlots[at];
-            if (slot.first == nullptr)
+            std::uint64_t const tags = tagsOf(group);
+            for (std::uint64_t same = zeroBytes(tags ^ theOnes * tagOf(hash)); same != 0; same &= same - 1)
+            {
+                Slot& slot = mySlots[group * theGroupSize + byteOf(same)];
+                if (isSame(slot.type, type)) [[likely]]
+                {
+                    return &slot;
+                }
+            }
+            if (zeroBytes(tags) != 0) [[likely]] // a free slot: nothing was pushed on to the next group
             {
                 return nullptr;
-            }
-            if (isSame(slot.type, type))
-            {
-                return &slot;
             }
         }
     }
@@ -90,13 +95,19 @@ public:
     bool mayHold(std::uint64_t hash) const { return (myFilter[hash >> 6 & myFilterMask] >> (hash & 63) & 1) != 0; }
 
     void reserve(std::size_t count);
-    /// `type` is not there yet.
-    void add(AxObjectType const& type, AxListItem* item);
-    /// `slot` is of this table; other slots may move.
+    /// `type` is not there yet; `hash` is its.
+    void add(AxObjectType const& type, AxListItem* item, std::uint64_t hash);
+    /// `slot` is of this table; other slots stay where they are.
     void erase(Slot* slot);
     void clear();
 
 private:
+    static constexpr std::size_t theGroupSize = 8;
+    static constexpr std::uint64_t theOnes = 0x0101010101010101U;
+    static constexpr std::uint64_t theHighBits = theOnes << 7;
+    static constexpr std::uint8_t theFree = 0;
+    static constexpr std::uint8_t theErased = 1; // probing goes on behind it
+
     static bool isSame(AxObjectType const& a, AxObjectType const& b)
     {
         std::array<std::uint64_t, 4> left;
@@ -105,13 +116,31 @@ private:
         std::memcpy(right.data(), b.fields().data(), sizeof right);
         return ((left[0] ^ right[0]) | (left[1] ^ right[1]) | (left[2] ^ right[2]) | (left[3] ^ right[3])) == 0;
     }
-    void resize(unsigned bits);
+    /// The highest bit of each byte that is 0; of others only above such a byte.
+    static std::uint64_t zeroBytes(std::uint64_t word) { return (word - theOnes) & ~word & theHighBits; }
+    /// The place in memory of the byte whose lowest bit is set.
+    static std::size_t byteOf(std::uint64_t bits)
+    {
+        std::size_t const byte = static_cast<std::size_t>(std::countr_zero(bits)) / 8;
+        return std::endian::native == std::endian::little ? byte : theGroupSize - 1 - byte;
+    }
+    /// Neither free nor erased.
+    static std::uint8_t tagOf(std::uint64_t hash) { return static_cast<std::uint8_t>(hash >> 16 | 0x80U); }
+    std::uint64_t tagsOf(std::size_t group) const
+    {
+        std::uint64_t tags = 0;
+        std::memcpy(&tags, myTags.data() + group * theGroupSize, sizeof tags);
+        return tags;
+    }
+    void resize(unsigned groupBits);
     void place(Slot const& slot, std::uint64_t hash);
 
     std::vector<Slot> mySlots;
+    std::vector<std::uint8_t> myTags;
     std::vector<std::uint64_t> myFilter{0};
     std::size_t myCount = 0;
-    std::size_t myMask = 0;
+    std::size_t myNumErased = 0;
+    std::size_t myMask = 0; // of groups
     std::size_t myFilterMask = 0;
     unsigned myShift = 63;
 };

@@ -109,6 +109,7 @@ void AxZedParameterDb::removeAll()
 
 AxList const& AxZedParameterDb::parameterList() const
 {
+    myIndex->arrange();
     return myList;
 }
 
@@ -200,7 +201,7 @@ void AxZedParameterDb::addParameterDbEntry(AxZedParameterDbEntry* entry)
         removeParameters(type);
     }
     entry->myHolder = this;
-    entry->myItem = myIndex->insert(entry, type);
+    entry->myItem = myIndex->insertLater(entry, type);
     if (entry->myItem == nullptr)
     {
         park(entry);
@@ -244,7 +245,7 @@ void AxZedParameterDb::release(AxZedParameterDbEntry& entry)
     }
 }
 
-void AxZedParameterDb::typeChanged()
+void AxZedParameterDb::typeChanges()
 {
     myIndex->invalidate();
 }

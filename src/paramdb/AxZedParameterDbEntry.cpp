@@ -15,12 +15,11 @@ AxZedParameterDbEntry::~AxZedParameterDbEntry()
 
 void AxZedParameterDbEntry::setObjectType(AxObjectType const& type)
 {
-    bool const isOther = !(myObjectType == type);
-    myObjectType = type;
-    if (isOther && myHolder != nullptr)
+    if (!(myObjectType == type) && myHolder != nullptr)
     {
-        myHolder->typeChanged();
+        myHolder->typeChanges();
     }
+    myObjectType = type;
 }
 
 AxObjectType const& AxZedParameterDbEntry::objectType() const
