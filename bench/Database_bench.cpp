@@ -1,17 +1,25 @@
 #include "AxSxpParameterDb.h"
 #include "AxZedParameterDbEntry.h"
 #include "BenchRecord.h"
+#include "PlainJson.h"
 #include "RecordTexts.h"
 #include "record.pb.h"
 
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
 #include <google/protobuf/text_format.h>
+#include <rapidjson/document.h>
+#include <rapidjson/prettywriter.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <stdexcept>
+#include <vector>
 
 namespace
 {
@@ -48,7 +56,7 @@ std::string fileName(int number)
     return "records/record_" + std::to_string(number);
 }
 
-/// A database of 10,000 record files, once as ours and once as TextFormat, in a folder of its own for this run.
+/// A database of 10,000 record files as ours, as TextFormat and as JSON, in a folder of its own for this run.
 class Databases
 {
 public:
@@ -73,8 +81,14 @@ public:
         ourText.insert(std::string("(record").size(), "\n  (parameter-type \"bench-parameters\")");
 
         std::string entries = "(parameter-database\n  (version 101)\n  (parameter-files\n";
+        PlainRecord plain;
+        readJson(jsonSource, plain);
+        std::string const jsonText = writeJson(plain);
         peer::Database database;
         database.set_version(101);
+        rapidjson::StringBuffer json;
+        rapidjson::PrettyWriter<rapidjson::StringBuffer> jsonWriter(json);
+        jsonWriter.StartArray();
         for (int number = 0; number < theNumRecords; ++number)
         {
             AxObjectType const type = typeOf(number);
@@ -95,13 +109,27 @@ public:
             entry.set_specific(type.specific());
             entry.set_extra(type.extra());
             entry.set_file(name + ".textproto");
+            jsonWriter.StartObject();
+            jsonWriter.Key("type");
+            jsonWriter.StartArray();
+            for (int const field : type.fields())
+            {
+                jsonWriter.Int(field);
+            }
+            jsonWriter.EndArray();
+            jsonWriter.Key("file");
+            jsonWriter.String((name + ".json").c_str());
+            jsonWriter.EndObject();
             writeFile(myFolder / (name + ".ope"), ourText);
             writeFile(myFolder / (name + ".textproto"), messageText);
+            writeFile(myFolder / (name + ".json"), jsonText);
         }
         writeFile(ours(), entries + "  )\n)\n");
         std::string databaseText;
         TextFormat::PrintToString(database, &databaseText);
         writeFile(peers(), databaseText);
+        jsonWriter.EndArray();
+        writeFile(jsonPeers(), json.GetString());
     }
     ~Databases()
     {
@@ -119,6 +147,7 @@ public:
 
     fs::path ours() const { return myFolder / "bench.opd"; }
     fs::path peers() const { return myFolder / "bench.textproto"; }
+    fs::path jsonPeers() const { return myFolder / "bench.json"; }
     fs::path folder() const { return myFolder; }
 
 private:
@@ -160,6 +189,41 @@ void DatabaseFileProtobuf(benchmark::State& state)
     state.counters["items"] = theNumRecords;
 }
 BENCHMARK(DatabaseFileProtobuf)->Name("database-file/protobuf")->Unit(benchmark::kMillisecond);
+
+struct PlainEntry
+{
+    std::array<int, 8> type{};
+    std::string file;
+};
+
+std::vector<PlainEntry> readJsonEntries()
+{
+    std::string const text = readFile(Databases::get().jsonPeers());
+    rapidjson::Document document;
+    document.Parse(text.data(), text.size());
+    std::vector<PlainEntry> entries;
+    for (auto const& from : document.GetArray())
+    {
+        PlainEntry& entry = entries.emplace_back();
+        std::transform(from["type"].Begin(), from["type"].End(), entry.type.begin(),
+                       [](rapidjson::Value const& field) { return field.GetInt(); });
+        entry.file.assign(from["file"].GetString(), from["file"].GetStringLength());
+    }
+    return entries;
+}
+
+void DatabaseFileJson(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        if (readJsonEntries().size() != theNumRecords)
+        {
+            state.SkipWithError("RapidJSON does not read");
+        }
+    }
+    state.counters["items"] = theNumRecords;
+}
+BENCHMARK(DatabaseFileJson)->Name("database-file/json")->Unit(benchmark::kMillisecond);
 
 void RecordFilesOurs(benchmark::State& state)
 {
@@ -205,4 +269,44 @@ void RecordFilesProtobuf(benchmark::State& state)
     state.counters["items"] = theNumRecords;
 }
 BENCHMARK(RecordFilesProtobuf)->Name("record-files/protobuf")->Unit(benchmark::kMillisecond)->Iterations(1);
+
+void RecordFilesJson(benchmark::State& state)
+{
+    for (auto _ : state)
+    {
+        std::vector<std::unique_ptr<PlainRecord>> records;
+        bool loaded = true;
+        for (PlainEntry const& entry : readJsonEntries())
+        {
+            records.push_back(std::make_unique<PlainRecord>());
+            loaded = readJson(readFile(Databases::get().folder() / entry.file), *records.back()) && loaded;
+        }
+        if (!loaded)
+        {
+            state.SkipWithError("RapidJSON does not read");
+        }
+        state.PauseTiming();
+        records.clear();
+        state.ResumeTiming();
+    }
+    state.counters["items"] = theNumRecords;
+}
+BENCHMARK(RecordFilesJson)->Name("record-files/json")->Unit(benchmark::kMillisecond)->Iterations(1);
+
+/// What every reader of the files does at least.
+void RecordFilesOnly(benchmark::State& state)
+{
+    std::vector<char> buffer(64 * 1024);
+    for (auto _ : state)
+    {
+        for (int number = 0; number < theNumRecords; ++number)
+        {
+            int const file = open((Databases::get().folder() / (fileName(number) + ".ope")).c_str(), O_RDONLY);
+            benchmark::DoNotOptimize(read(file, buffer.data(), buffer.size()));
+            close(file);
+        }
+    }
+    state.counters["items"] = theNumRecords;
+}
+BENCHMARK(RecordFilesOnly)->Name("record-files/open-read-close")->Unit(benchmark::kMillisecond)->Iterations(1);
 } // namespace

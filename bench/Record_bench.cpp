@@ -1,6 +1,8 @@
 #include "Record_bench.h"
 
 #include "AxComponentDescriptorFactory.h"
+#include "AxlFunctions.h"
+#include "AxlInputStream.h"
 #include "BenchRecord.h"
 #include "HeapUse.h"
 #include "PlainJson.h"
@@ -85,6 +87,20 @@ void ReadOurs(benchmark::State& state)
     state.counters["text"] = static_cast<double>(text.size());
 }
 BENCHMARK(ReadOurs)->Name("read/ours");
+
+/// The same by the cell operations: the whole text as cells, and each member from its own.
+void ReadCells(benchmark::State& state)
+{
+    std::string const& text = forms().ourText;
+    for (auto _ : state)
+    {
+        BenchRecord record(AxSymbolString("record"), nullptr);
+        AxlInputStream stream(text);
+        record.getSelf(AxcRead(stream), AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
+        benchmark::DoNotOptimize(record);
+    }
+}
+BENCHMARK(ReadCells)->Name("read-cells/ours");
 
 void ReadProtobuf(benchmark::State& state)
 {
@@ -296,6 +312,17 @@ void MemoryProtobuf(benchmark::State& state)
     state.counters["bytes"] = static_cast<double>(used);
 }
 BENCHMARK(MemoryProtobuf)->Name("memory/protobuf")->Iterations(2);
+
+/// A number member; an empty list.
+void MemoryMembers(benchmark::State& state, std::size_t size)
+{
+    for (auto _ : state)
+    {
+        state.counters["bytes"] = static_cast<double>(size);
+    }
+}
+BENCHMARK_CAPTURE(MemoryMembers, number, sizeof(AxRwReal))->Name("memory-number/ours")->Iterations(1);
+BENCHMARK_CAPTURE(MemoryMembers, list, sizeof(AxComponentDescriptorList))->Name("memory-list/ours")->Iterations(1);
 
 /// The second record, so that what all records share is there already.
 void AllocationsOurs(benchmark::State& state)

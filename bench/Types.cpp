@@ -1,6 +1,8 @@
 #include "Types.h"
 
+#include <algorithm>
 #include <fstream>
+#include <numeric>
 #include <random>
 #include <stdexcept>
 #include <unordered_set>
@@ -18,9 +20,10 @@ bool isPattern(AxObjectType const& type)
     }
     return false;
 }
-} // namespace
 
-Types generateTypes(std::size_t count)
+using Shape = unsigned; // a bit for each field that is open
+
+Types generate(std::size_t count, std::vector<Shape> const& shapes)
 {
     std::mt19937 source(7);
     auto const below = [&](unsigned bound) { return static_cast<int>(source() % bound); };
@@ -33,9 +36,10 @@ Types generateTypes(std::size_t count)
         bool const pattern = types.patterns.size() * 10 < types.exact.size();
         if (pattern)
         {
-            for (std::size_t open = 2 + source() % 6; open < fields.size(); ++open)
+            Shape const shape = shapes[source() % shapes.size()];
+            for (std::size_t field = 0; field < fields.size(); ++field)
             {
-                fields[open] = AxObjectType::theWildcard;
+                fields[field] = (shape >> field & 1U) != 0 ? AxObjectType::theWildcard : fields[field];
             }
         }
         AxObjectType const type(fields);
@@ -45,6 +49,30 @@ Types generateTypes(std::size_t count)
         }
     }
     return types;
+}
+} // namespace
+
+Types generateTypes(std::size_t count)
+{
+    std::vector<Shape> lastFields;
+    for (unsigned first = 2; first < AxObjectType::theNumFields; ++first)
+    {
+        lastFields.push_back(0xFFU << first & 0xFFU);
+    }
+    return generate(count, lastFields);
+}
+
+Types generateTypes(std::size_t count, std::size_t numShapes)
+{
+    std::vector<Shape> shapes(0x7F);
+    std::iota(shapes.begin(), shapes.end(), 1U);
+    std::shuffle(shapes.begin(), shapes.end(), std::mt19937(5));
+    shapes.resize(numShapes);
+    for (Shape& shape : shapes)
+    {
+        shape <<= 1; // the super type is never open
+    }
+    return generate(count, shapes);
 }
 
 Types readTypes(std::string const& file)
