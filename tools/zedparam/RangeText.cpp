@@ -3,33 +3,8 @@
 #include <cmath>
 
 #include "AxNumberText.h"
-#include "AxRwInt.h"
-#include "AxRwReal.h"
-#include "AxRwUnsigned.h"
-
-namespace
-{
-/// False for what is no number.
-bool numberIn(AxReaderWriter const& rw, double& value)
-{
-    if (auto const* real = dynamic_cast<AxRwReal const*>(&rw))
-    {
-        value = real->value();
-        return true;
-    }
-    if (auto const* integer = dynamic_cast<AxRwInt const*>(&rw))
-    {
-        value = integer->value();
-        return true;
-    }
-    if (auto const* number = dynamic_cast<AxRwUnsigned const*>(&rw))
-    {
-        value = number->value();
-        return true;
-    }
-    return false;
-}
-} // namespace
+#include "AxReaderWriter.h"
+#include "RecordValue.h"
 
 std::string rangeText(AxRange const& range)
 {

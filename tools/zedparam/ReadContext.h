@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "AxReaderWriter.h"
@@ -18,3 +19,7 @@ struct ReadContext
     AxRwVariableBindings ofDatabase{"opd-variables"};
     AxBindingsList bindings{};
 };
+
+/// The named database; when none is named, one in the file's folder, or in the one above, that lists the file; else one
+/// without entries. Null, after findings, when the named one cannot be opened.
+std::unique_ptr<Database> databaseFor(std::string const& file, std::string const& named);

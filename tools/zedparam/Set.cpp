@@ -8,8 +8,12 @@
 #include <vector>
 
 #include "AxReadWholeFile.h"
+#include "Database.h"
+#include "ReadContext.h"
 #include "TextEditor.h"
 #include "WriteFile.h"
+#include "XmlEditor.h"
+#include "XmlLayout.h"
 
 namespace
 {
@@ -18,6 +22,7 @@ struct Options
     std::string file;
     std::vector<std::string> edits;
     std::string database;
+    std::string object;
     bool force = false;
     bool dryRun = false;
 };
@@ -26,12 +31,25 @@ struct Options
 struct Opened
 {
     std::unique_ptr<TextReading> reading;
+    std::unique_ptr<Database> database;
+    std::unique_ptr<ReadContext> context;
     std::unique_ptr<FileEditor> editor;
 };
 
 Opened open(Options const& options, std::string const& text)
 {
     Opened opened;
+    if (isXml(text))
+    {
+        opened.database = databaseFor(options.file, options.database);
+        if (opened.database != nullptr)
+        {
+            opened.context = std::make_unique<ReadContext>(options.file, *opened.database);
+            opened.editor =
+                std::make_unique<XmlEditor>(options.file, text, options.object, *opened.context, options.force);
+        }
+        return opened;
+    }
     TextTree const tree(text);
     if (!tree.isReadable())
     {
@@ -92,6 +110,7 @@ void addEditCommand(CLI::App& app, int& exitCode, char const* name, char const* 
     command->add_option("FILE", options->file, "The file to change")->required();
     command->add_option(argument, options->edits, argumentHelp)->required()->check(validator);
     command->add_option("--database", options->database, "The database that binds the variables of a record file");
+    command->add_option("--object", options->object, "Of an entity file, the object of this name");
     command->add_flag("--force", options->force, "Also change what is not known, or would be found fault with");
     command->add_flag("--dry-run", options->dryRun, "Tell the changes, write nothing");
     command->callback([options, apply, &exitCode] { exitCode = edit(*options, apply); });

@@ -3,16 +3,12 @@
 #include <algorithm>
 #include <list>
 #include <span>
-#include <tuple>
 #include <utility>
 
 #include "AxComponentSystemDescriptor.h"
-#include "AxNearest.h"
 #include "AxReaderWriterFile.h"
-#include "AxRwList.h"
-#include "AxRwString.h"
 #include "AxlPrint.h"
-#include "RangeText.h"
+#include "EditedValue.h"
 #include "TextPlacement.h"
 
 namespace
@@ -27,45 +23,6 @@ constexpr std::string_view theLeadingItems[] = {
 bool isVariable(TextItem list)
 {
     return list.parent().head() == "variable-bindings";
-}
-
-/// Whether a member holds items rather than one value.
-bool holdsItems(AxReaderWriter const& rw)
-{
-    AxReaderWriterRegistry const* const members = membersIn(&rw);
-    return !rw.isValue() &&
-           (dynamic_cast<AxRwList const*>(&rw) != nullptr || (members != nullptr && members->size() != 0));
-}
-
-/// Bytes of an item, cut short for a message.
-std::string shown(std::string_view source)
-{
-    constexpr std::size_t theLongest = 60;
-    std::string text(source.substr(0, source.find('\n')));
-    if (text.size() > theLongest || text.size() < source.size())
-    {
-        text.resize(std::min(text.size(), theLongest));
-        text += " ...";
-    }
-    return text;
-}
-
-/// What follows the keyword, as it will stand in the text; empty for what is no value.
-std::string valueText(std::string const& value, AxReaderWriter const* rw)
-{
-    TextTree const tree(value);
-    bool const isWhole = tree.root() && tree.faults().empty() && !holdsComment(tree, 0, value.size());
-    bool const isText =
-        dynamic_cast<AxRwString const*>(rw) != nullptr || dynamic_cast<AxReaderWriterFile const*>(rw) != nullptr;
-    bool const isQuoted = isWhole && (tree.root().isString() || value.starts_with('$')) && !tree.root().next();
-    if (isText && !isQuoted)
-    {
-        std::string quoted;
-        axAppendQuoted(quoted, value);
-        return quoted;
-    }
-    std::size_t const begin = value.find_first_not_of(" \t\r\n\f\v");
-    return isWhole ? value.substr(begin, value.find_last_not_of(" \t\r\n\f\v") + 1 - begin) : std::string();
 }
 
 /// Appends the texts of the tokens in a range of bytes, blanks left out.
@@ -91,11 +48,6 @@ std::vector<TextItem> itemsFrom(TextItem item)
     }
     return items;
 }
-
-auto key(AxDiagnostic const& finding)
-{
-    return std::tie(finding.code, finding.text);
-}
 } // namespace
 
 TextEditor::TextEditor(std::string const& file, std::string text, TextReading& reading, bool force)
@@ -119,7 +71,8 @@ bool TextEditor::set(std::string const& path, std::string const& value)
 
 bool TextEditor::isKnown(TextPath const& path) const
 {
-    return path.rw != nullptr || isVariable(path.lists.back()) ||
+    bool const isNamedValue = path.outer != nullptr && path.outer->isValue(); // such as a signature
+    return path.rw != nullptr || isNamedValue || isVariable(path.lists.back()) ||
            std::ranges::find(theLeadingItems, path.lists.back().head()) != std::end(theLeadingItems);
 }
 
@@ -172,14 +125,14 @@ bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::s
     {
         return true;
     }
-    std::string const old = shown(list.source());
+    std::string const old = shownItem(list.source());
     TextTree::Place const at = list.place();
     if (!apply(tree, patches))
     {
         return false;
     }
     TextTree const changed(myText);
-    note(at.line, at.column, old + " -> " + shown(changed.itemAt(changed.offset(at)).source()));
+    note(at.line, at.column, old + " -> " + shownItem(changed.itemAt(changed.offset(at)).source()));
     return true;
 }
 
@@ -232,7 +185,7 @@ bool TextEditor::insert(TextTree const& tree, TextPath const& path, std::string 
         return false;
     }
     TextTree::Place const at = TextTree(myText).place(placement.offset + placement.before.size());
-    note(at.line, at.column, "added " + shown(item));
+    note(at.line, at.column, "added " + shownItem(item));
     return true;
 }
 
@@ -252,7 +205,7 @@ bool TextEditor::unset(std::string const& path)
         return refuseAt(list, "comment-lost", "a comment stands in \"" + place.names.back() + "\" and would be lost",
                         "--force takes it out all the same");
     }
-    std::string const old = shown(list.source());
+    std::string const old = shownItem(list.source());
     TextTree::Place const at = list.place();
     TextRemoval const removal = TextRemoval::find(tree, list);
     if (!apply(tree, {{removal.begin, removal.end, {}}}))
@@ -268,19 +221,9 @@ bool TextEditor::accepts(AxReaderWriter& member, TextItem place, std::string con
 {
     std::string list = "(";
     axAppendName(list, AxSymbolString(AxString(name)));
-    if (!myReading.readInto(member, list.append(" ").append(value).append(")")) && !force())
-    {
-        std::vector<AxDiagnostic> const& findings = myReading.findings();
-        std::string text =
-            findings.empty() ? "\"" + value + "\" is no value of \"" + name + "\"" : findings.front().text;
-        return refuseAt(place, findings.empty() ? std::string("wrong-kind") : findings.front().code,
-                        text.substr(0, text.find("; ")));
-    }
-    if (std::string const fault = rangeFault(member); !fault.empty() && !member.isVariableReference() && !force())
-    {
-        return refuseAt(place, "out-of-range", "\"" + name + "\" is " + fault, "--force sets it all the same");
-    }
-    return true;
+    bool const isTaken = myReading.readInto(member, list.append(" ").append(value).append(")"));
+    AxDiagnostic const fault = valueFault(member, name, value, isTaken, myReading.findings());
+    return fault.code.empty() || force() || refuseAt(place, fault.code, fault.text, fault.hint);
 }
 
 bool TextEditor::apply(TextTree const& tree, std::vector<Patch> const& patches)
@@ -320,13 +263,10 @@ bool TextEditor::apply(TextTree const& tree, std::vector<Patch> const& patches)
         return refuseAt(place, "unreadable",
                         findings.empty() ? "the library would no longer know what the file is" : findings.front().text);
     }
-    for (AxDiagnostic const& finding : myReading.findings())
+    AxDiagnostic const* const finding = firstNew(myReading.findings(), myKnownFindings);
+    if (finding != nullptr && !force())
     {
-        bool const isKnown = std::ranges::find(myKnownFindings, key(finding), key) != myKnownFindings.end();
-        if (!isKnown && !force())
-        {
-            return refuseAt(place, finding.code, finding.text, finding.hint);
-        }
+        return refuseAt(place, finding->code, finding->text, finding->hint);
     }
     myKnownFindings = myReading.findings();
     myText = std::move(text);
@@ -335,16 +275,9 @@ bool TextEditor::apply(TextTree const& tree, std::vector<Patch> const& patches)
 
 bool TextEditor::refuseUnknown(TextPath const& path, TextItem list, AxReaderWriter const* rw, std::string const& name)
 {
-    std::string hint;
-    std::vector<std::string> const names = namesIn(list, rw);
-    std::vector<std::string_view> const known(names.begin(), names.end());
+    std::string hint = nearestHint(name, namesIn(list, rw));
     auto const* const system = dynamic_cast<AxComponentSystemDescriptor const*>(rw);
-    std::string_view const nearest = axNearest(name, known);
-    if (!nearest.empty() && nearest != name)
-    {
-        hint = "did you mean \"" + std::string(nearest) + "\"?";
-    }
-    else if (system != nullptr && system->systemDefinitionFile().foundFilename().isNull())
+    if (hint.empty() && system != nullptr && system->systemDefinitionFile().foundFilename().isNull())
     {
         hint = "its definition file was not read; --database names the database that binds its variables";
     }

@@ -9,21 +9,6 @@
 
 namespace
 {
-/// Takes "[2]" from the end of a name; 0 when there is none. False for what is no number from 1.
-bool takePosition(std::string& name, std::size_t& position)
-{
-    position = 0;
-    std::size_t const bracket = name.rfind('[');
-    if (bracket == std::string::npos || !name.ends_with(']'))
-    {
-        return true;
-    }
-    char const* const end = name.data() + name.size() - 1;
-    auto const [stop, error] = std::from_chars(name.data() + bracket + 1, end, position);
-    name.resize(bracket);
-    return error == std::errc() && stop == end && position != 0;
-}
-
 /// The member of that keyword or alias; null when there is none.
 AxReaderWriter const* memberOf(AxReaderWriter const* rw, std::string_view name)
 {
@@ -129,6 +114,20 @@ TextPath TextPath::follow(std::string_view path, TextTree const& tree, TextReadi
         result.rw = result.rw != nullptr ? reading.part(*result.rw, chosen) : nullptr;
     }
     return result;
+}
+
+bool takePosition(std::string& name, std::size_t& position)
+{
+    position = 0;
+    std::size_t const bracket = name.rfind('[');
+    if (bracket == std::string::npos || !name.ends_with(']'))
+    {
+        return true;
+    }
+    char const* const end = name.data() + name.size() - 1;
+    auto const [stop, error] = std::from_chars(name.data() + bracket + 1, end, position);
+    name.resize(bracket);
+    return error == std::errc() && stop == end && position != 0;
 }
 
 AxReaderWriterRegistry const* membersIn(AxReaderWriter const* rw)

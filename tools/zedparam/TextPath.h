@@ -25,6 +25,9 @@ struct TextPath
     static TextPath follow(std::string_view path, TextTree const& tree, TextReading& reading);
 };
 
+/// Takes "[2]" from the end of a name; 0 when there is none. False for what is no number from 1.
+bool takePosition(std::string& name, std::size_t& position);
+
 /// The members that can stand in a list which `rw` reads; null when there are none.
 AxReaderWriterRegistry const* membersIn(AxReaderWriter const* rw);
 

@@ -1,8 +1,6 @@
 #include "TextReading.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <set>
 #include <string_view>
 #include <utility>
 
@@ -25,13 +23,12 @@
 #include "AxZedObjectParametersDB.h"
 #include "AxlFunctions.h"
 #include "Database.h"
+#include "EditedValue.h"
 #include "Findings.h"
 #include "ReadContext.h"
 
 namespace
 {
-namespace fs = std::filesystem;
-
 /// Remote configurations are a member of a database file that somebody else has to own.
 struct DatabaseFile : AxSxpParameterDbFileData
 {
@@ -39,35 +36,6 @@ struct DatabaseFile : AxSxpParameterDbFileData
     ~DatabaseFile() override { setRemoteConfigurationList(nullptr); }
     AxRemoteConfigurationList configurations{"remote-configurations", registry()};
 };
-
-/// A database in the file's folder, or in the one above, that lists the file; one without entries when there is none.
-std::unique_ptr<Database> databaseOf(std::string const& file)
-{
-    Findings muted(Findings::Print::Never);
-    std::error_code ignored;
-    fs::path const path = fs::weakly_canonical(file, ignored);
-    fs::path const folder = path.parent_path();
-    for (fs::path const& place : {folder, folder.parent_path()})
-    {
-        std::set<fs::path> candidates;
-        for (fs::directory_entry const& entry : fs::directory_iterator(place, ignored))
-        {
-            if (entry.path().extension() == ".opd")
-            {
-                candidates.insert(entry.path());
-            }
-        }
-        for (fs::path const& candidate : candidates)
-        {
-            std::unique_ptr<Database> database = Database::open(candidate.string());
-            if (database != nullptr && !database->entriesOf(path).empty())
-            {
-                return database;
-            }
-        }
-    }
-    return Database::openNone();
-}
 
 struct Collection : AxZedObjectParametersDB
 {
@@ -128,7 +96,7 @@ std::unique_ptr<AxReaderWriter> makeReader(std::string const& file, TextItem roo
 
 std::unique_ptr<TextReading> TextReading::open(std::string const& file, std::string const& database)
 {
-    std::unique_ptr<Database> opened = database.empty() ? databaseOf(file) : Database::open(database);
+    std::unique_ptr<Database> opened = databaseFor(file, database);
     return opened == nullptr ? nullptr : std::unique_ptr<TextReading>(new TextReading(file, std::move(opened)));
 }
 
@@ -181,21 +149,11 @@ AxReaderWriter* TextReading::read(TextTree const& tree)
         AxDiagnostics::report(fault.diagnostic());
     }
     myFindings = findings.sorted();
-    noteUnboundVariables();
-    return myRoot.get();
-}
-
-void TextReading::noteUnboundVariables()
-{
-    for (auto const& [name, value] : myRoot != nullptr ? myRoot->unboundVariables() : AxUnboundVariableList())
+    if (myRoot != nullptr)
     {
-        AxDiagnostic finding;
-        finding.severity = AxSeverity::Warning;
-        finding.code = "unbound-variable";
-        finding.file = myFile;
-        finding.text = "nothing binds the variable \"" + name.string() + "\"";
-        myFindings.push_back(std::move(finding));
+        noteUnboundVariables(*myRoot, myFile, myFindings);
     }
+    return myRoot.get();
 }
 
 bool TextReading::readText(AxReaderWriter& rw, std::string const& text)

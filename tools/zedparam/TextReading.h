@@ -38,7 +38,6 @@ public:
 
 private:
     TextReading(std::string const& file, std::unique_ptr<Database> database);
-    void noteUnboundVariables();
     bool readText(AxReaderWriter& rw, std::string const& text);
 
     std::string myFile;

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "AxDiagnostic.h"
+
+class AxReaderWriter;
+
+/// Whether a member holds items rather than one value.
+bool holdsItems(AxReaderWriter const& rw);
+
+/// Whether a member is a text, whose quotes a user may leave out.
+bool isText(AxReaderWriter const* rw);
+
+/// What follows the keyword, as it stands in parameter text; empty for what is no value. `rw` is null when nothing is
+/// known of it.
+std::string valueText(std::string const& value, AxReaderWriter const* rw);
+
+/// What speaks against a value that a member was given to read: a fault with code and text, or without a code when
+/// nothing does. `findings` are those of that reading.
+AxDiagnostic valueFault(AxReaderWriter const& member, std::string const& name, std::string const& value, bool isTaken,
+                        std::vector<AxDiagnostic> const& findings);
+
+/// Bytes of an item, cut short for a message.
+std::string shownItem(std::string_view source);
+
+/// The first finding that has no like among the known ones; null when each has.
+AxDiagnostic const* firstNew(std::vector<AxDiagnostic> const& findings, std::vector<AxDiagnostic> const& known);
+
+/// Adds a finding for each variable that nothing binds.
+void noteUnboundVariables(AxReaderWriter const& rw, std::string const& file, std::vector<AxDiagnostic>& findings);
+
+/// `did you mean "mass"?`, or nothing when no name is near.
+std::string nearestHint(std::string_view name, std::vector<std::string> const& known);
