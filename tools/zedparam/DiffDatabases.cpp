@@ -13,6 +13,7 @@
 #include "AxZedObjectParameters.h"
 #include "Database.h"
 #include "Progress.h"
+#include "ReadFile.h"
 #include "Tables.h"
 
 namespace
@@ -101,6 +102,42 @@ void addFilesOf(Side& side, AxZedObjectParameters& record, std::set<std::string>
     }
 }
 
+/// What a database file says, without files of records and without the entries that are only a type and a file.
+Item headOf(std::string const& file)
+{
+    std::string text;
+    readFile(file, text);
+    TextTree const tree(std::move(text));
+    Item head{.text = tree.root().head(), .place = tree.root().place()};
+    for (TextItem item = tree.root().firstValue(); item; item = item.next())
+    {
+        if (item.head() != "parameter-files")
+        {
+            head.items.push_back(itemOf(item));
+            continue;
+        }
+        Item entries{.text = item.head(), .place = item.place()};
+        for (TextItem entry = item.firstValue(); entry; entry = entry.next())
+        {
+            bool isMore = false;
+            for (TextItem value = entry.firstValue(); value; value = value.next())
+            {
+                isMore = isMore || (value.head() != "object-type" && value.head() != "filename");
+            }
+            if (isMore)
+            {
+                entries.items.push_back(itemOf(entry));
+                std::erase_if(entries.items.back().items, [](Item const& value) { return value.text == "filename"; });
+            }
+        }
+        if (!entries.items.empty())
+        {
+            head.items.push_back(std::move(entries));
+        }
+    }
+    return head;
+}
+
 class DatabaseDiff
 {
 public:
@@ -129,25 +166,8 @@ private:
     void compareHeads()
     {
         Document const documents[2] = {{.file = mySides[0]->file}, {.file = mySides[1]->file}};
-        DocumentTree trees[2] = {DocumentTree(documents[0], false), DocumentTree(documents[1], false)};
-        for (DocumentTree& tree : trees)
-        {
-            for (Item& files : tree.root().items)
-            {
-                if (files.isList() && files.text == "parameter-files")
-                {
-                    for (Item& entry : files.items)
-                    {
-                        std::erase_if(entry.items, [](Item const& item) { return item.text == "filename"; });
-                    }
-                    std::erase_if(files.items, [](Item const& entry) { return entry.items.size() <= 1; });
-                }
-            }
-            std::erase_if(tree.root().items,
-                          [](Item const& item) { return item.text == "parameter-files" && item.items.empty(); });
-        }
-        myReport.add({}, documents[0], documents[1],
-                     differencesOf(trees[0].root(), trees[1].root(), myOptions.tolerance));
+        Item const heads[2] = {headOf(mySides[0]->file), headOf(mySides[1]->file)};
+        myReport.add({}, documents[0], documents[1], differencesOf(heads[0], heads[1], myOptions.tolerance));
     }
 
     void compareEntries()
