@@ -31,10 +31,7 @@ bool compare(Options const& options, DiffReport& report)
     {
         return compareDatabases(options.files[0], options.files[1], options.how, report);
     }
-    std::unique_ptr<Database> const database =
-        options.database.empty() ? Database::openNone() : Database::open(options.database);
-    return database != nullptr &&
-           compareFiles({}, options.files[0], options.files[1], *database, *database, options.how, report);
+    return compareFiles({}, options.files[0], options.files[1], options.database, options.how, report);
 }
 
 int diff(Options const& options)
@@ -75,7 +72,8 @@ void addDiffCommand(CLI::App& app, int& exitCode)
         ->add_option("--tolerance", options->how.tolerance, "Numbers are equal that differ by this part of the larger")
         ->check(CLI::NonNegativeNumber);
     command->add_flag("--defaults", options->how.defaults, "What is not there counts as its default");
-    command->add_option("--database", options->database, "The database that binds the variables of record files");
+    command->add_option("--database", options->database,
+                        "The database that binds variables; none: one beside the file or above it that lists it");
     command->add_flag("--json", options->json, "Print JSON");
     command->footer("Exit codes: 0 the same, 1 different, 2 could not run.");
     command->callback([options, &exitCode] { exitCode = diff(*options); });

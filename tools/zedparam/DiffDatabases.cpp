@@ -224,9 +224,8 @@ private:
             auto const other = mySides[1]->files.find(name);
             if (other != mySides[1]->files.end() && other->second != file && !isSameText(file, other->second))
             {
-                myIsComplete = compareFiles(name, file, other->second, *mySides[0]->database, *mySides[1]->database,
-                                            myOptions, myReport) &&
-                               myIsComplete;
+                myIsComplete =
+                    compareFiles(name, file, other->second, std::nullopt, myOptions, myReport) && myIsComplete;
             }
         }
         for (int side = 0; side < 2; ++side)

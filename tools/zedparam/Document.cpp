@@ -3,80 +3,58 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "AxComponentSystemDefinition.h"
 #include "AxDiagnostic.h"
 #include "AxEnvXMLReader.h"
-#include "AxModelSet.h"
 #include "AxReadWholeFile.h"
+#include "Database.h"
 #include "ElementSource.h"
-#include "Findings.h"
 #include "Member.h"
 #include "ReadFile.h"
 #include "RecordFile.h"
-#include "Tables.h"
+#include "TextReading.h"
 
 namespace
 {
 namespace fs = std::filesystem;
 
-Document documentOf(std::string const& file, Document::Kind kind, std::shared_ptr<AxReaderWriter> object)
+std::vector<Document> entityDocuments(std::string const& file, std::string const& database)
 {
-    AxReaderWriter* const plain = object.get();
-    return {.kind = kind, .file = file, .object = plain, .owned = std::move(object)};
-}
-
-std::vector<Document> recordDocuments(std::string const& file, Database const& database)
-{
+    std::shared_ptr<Database> const opened = database.empty() ? Database::openNone() : Database::open(database);
     std::vector<Document> result;
-    Records records = readRecords(file, {}, database);
-    for (auto& record : records)
+    for (auto& record : opened != nullptr ? readRecords(file, {}, *opened) : Records())
     {
-        AxEnvValuePtr const element = record->objectNode();
-        std::string const name = record->AxReaderWriter::name().string().string();
-        Document& document = result.emplace_back(documentOf(file, Document::Kind::Record, std::move(record)));
-        document.name = name;
-        document.element = element;
-        document.hasParts = element != nullptr;
+        Document& document = result.emplace_back(Document{.kind = Document::Kind::Record, .file = file});
+        document.name = record->AxReaderWriter::name().string().string();
+        document.object = record.get();
+        document.element = record->objectNode();
+        document.hasParts = true;
+        document.owner = std::shared_ptr<AxZedObjectParameters>(std::move(record));
     }
     return result;
 }
 
-std::shared_ptr<AxReaderWriter> readContent(std::string const& file)
+/// A record is taken as it was read, because it keeps what could not be; anything else only when all of it was read.
+std::vector<Document> textDocuments(std::string const& file, TextTree const& tree, std::optional<std::string> database)
 {
-    std::string const extension = fs::path(file).extension().string();
-    if (extension == ".models")
+    std::shared_ptr<TextReading> const reading =
+        database ? TextReading::open(file, *database) : std::make_unique<TextReading>(file);
+    if (reading == nullptr)
     {
-        auto models = std::make_shared<AxModelSet>(AxSymbolString("model-set"), nullptr);
-        return models->load(AxFilename(file)) ? models : nullptr;
+        return {};
     }
-    std::shared_ptr<AxReaderWriter> content = newTable(file);
-    if (extension == ".sys")
-    {
-        content = std::make_shared<AxComponentSystemDefinition>(AxComponentSystemDefinition::elementWord(), nullptr);
-    }
-    return content != nullptr && loadTable(file, *content) ? content : nullptr;
-}
-
-/// The object that all of the file is read into; null when its kind is not known, or when not all of it could be read.
-std::shared_ptr<AxReaderWriter> contentOf(std::string const& file)
-{
-    Findings findings(Findings::Print::Never);
-    std::shared_ptr<AxReaderWriter> content = readContent(file);
-    bool const isWhole = std::ranges::none_of(findings.sorted(), [](AxDiagnostic const& finding)
+    AxReaderWriter* const object = reading->read(tree);
+    bool const isRecord = dynamic_cast<AxZedObjectParameters*>(object) != nullptr;
+    bool const isWhole = std::ranges::none_of(reading->findings(), [](AxDiagnostic const& finding)
                                               { return finding.severity == AxSeverity::Error; });
-    return isWhole ? content : nullptr;
-}
-
-bool isRecord(TextItem const& root)
-{
-    for (TextItem item = root.firstValue(); item; item = item.next())
+    if (object == nullptr || !(isRecord || isWhole))
     {
-        if (item.head() == "parameter-type")
-        {
-            return true;
-        }
+        return {{.file = file}};
     }
-    return false;
+    return {{.kind = isRecord ? Document::Kind::Record : Document::Kind::Content,
+             .file = file,
+             .name = object->name().string().string(),
+             .object = object,
+             .owner = reading}};
 }
 
 /// The last list of the step's head in `parent` where there is one in all, else that at the step's index.
@@ -104,7 +82,7 @@ TextTree::Place valuePlace(Item const& item)
 }
 } // namespace
 
-std::vector<Document> readDocuments(std::string const& file, Database const& database)
+std::vector<Document> readDocuments(std::string const& file, std::optional<std::string> const& database)
 {
     std::string text;
     if (!readFile(file, text))
@@ -113,7 +91,7 @@ std::vector<Document> readDocuments(std::string const& file, Database const& dat
     }
     if (fs::path(file).extension() == ".entity")
     {
-        return recordDocuments(file, database);
+        return entityDocuments(file, database.value_or(std::string()));
     }
     std::size_t const first = text.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
     if (first != std::string::npos && text[first] == '<')
@@ -133,14 +111,7 @@ std::vector<Document> readDocuments(std::string const& file, Database const& dat
         AxDiagnostics::report(fault);
         return {};
     }
-    if (isRecord(tree.root()))
-    {
-        std::vector<Document> records = recordDocuments(file, database);
-        return records.empty() ? std::vector<Document>{{.file = file}} : std::move(records);
-    }
-    std::shared_ptr<AxReaderWriter> content = contentOf(file);
-    return {content != nullptr ? documentOf(file, Document::Kind::Content, std::move(content))
-                               : Document{.file = file}};
+    return textDocuments(file, tree, database);
 }
 
 DocumentTree::DocumentTree(Document const& document, bool all)

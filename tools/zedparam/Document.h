@@ -1,14 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "AxEnvironment.h"
 #include "AxReaderWriter.h"
 #include "Differences.h"
-
-class Database;
 
 /// One object of a file, or all of it, to be held against its like in whatever notation.
 struct Document
@@ -24,13 +23,14 @@ struct Document
     std::string file{};
     std::string name{};               ///< of a record
     AxReaderWriter* object = nullptr; ///< null for a Tree
-    std::shared_ptr<AxReaderWriter> owned{};
-    AxEnvValuePtr element{}; ///< the object's or the root element of an XML file
-    bool hasParts = false;   ///< the element's types and what users see of it count, too
+    std::shared_ptr<void> owner{};    ///< keeps the object, unless somebody else does
+    AxEnvValuePtr element{};          ///< the object's or the root element of an XML file
+    bool hasParts = false;            ///< the element's types and what users see of it count, too
 };
 
-/// What is in a file; empty after reports when it cannot be read. `database` binds variables of records.
-std::vector<Document> readDocuments(std::string const& file, Database const& database);
+/// What is in a file; empty after reports when it cannot be read. `database` binds variables; without a name one near
+/// the file is looked for, null stands for none.
+std::vector<Document> readDocuments(std::string const& file, std::optional<std::string> const& database);
 
 /// A document as a tree of items: what is known as it would be saved, everything else as it stands.
 class DocumentTree

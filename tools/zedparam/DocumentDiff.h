@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ struct DiffOptions
 void compareDocuments(std::string const& subject, Document const& a, Document const& b, DiffOptions const& options,
                       DiffReport& report);
 
-/// The same for all that is in two files, object by object. False after reports when one cannot be read.
-bool compareFiles(std::string const& subject, std::string const& a, std::string const& b, Database const& databaseA,
-                  Database const& databaseB, DiffOptions const& options, DiffReport& report);
+/// The same for all that is in two files, object by object; `database` as in readDocuments. False after reports when
+/// one cannot be read.
+bool compareFiles(std::string const& subject, std::string const& a, std::string const& b,
+                  std::optional<std::string> const& database, DiffOptions const& options, DiffReport& report);

@@ -25,28 +25,6 @@ bool loadTable(std::string const& path, AxReaderWriter& table)
     return file.load({}, {});
 }
 
-std::unique_ptr<AxReaderWriter> newTable(fs::path const& file)
-{
-    std::string const extension = file.extension().string();
-    if (extension == ".hit" || extension == ".det")
-    {
-        return std::make_unique<AxRangeProbabilityTable>("table", nullptr);
-    }
-    if (extension == ".asl")
-    {
-        return std::make_unique<AxAmmoSelectTable>("table", nullptr);
-    }
-    if (extension == ".frm")
-    {
-        return std::make_unique<AxFormation>("table", nullptr);
-    }
-    if (extension == ".dmg")
-    {
-        return std::make_unique<AxDmgSurfaceTable>("table", nullptr);
-    }
-    return nullptr;
-}
-
 std::vector<fs::path> tableFiles(Database const& database)
 {
     std::vector<fs::path> result;
@@ -73,13 +51,27 @@ std::size_t checkTables(std::vector<fs::path> const& files, Findings& findings)
     Progress progress("checking tables", files.size());
     for (fs::path const& file : files)
     {
-        if (std::unique_ptr<AxReaderWriter> const table = newTable(file))
+        if (file.extension() == ".hit" || file.extension() == ".det")
         {
-            loaded += loadTable(file.string(), *table);
-            if (file.extension() != ".asl" && file.extension() != ".frm")
-            {
-                checkRows(file.string(), findings);
-            }
+            AxRangeProbabilityTable table("table", nullptr);
+            loaded += loadTable(file.string(), table);
+            checkRows(file.string(), findings);
+        }
+        else if (file.extension() == ".asl")
+        {
+            AxAmmoSelectTable table("table", nullptr);
+            loaded += loadTable(file.string(), table);
+        }
+        else if (file.extension() == ".frm")
+        {
+            AxFormation table("table", nullptr);
+            loaded += loadTable(file.string(), table);
+        }
+        else if (file.extension() == ".dmg")
+        {
+            AxDmgSurfaceTable table("table", nullptr);
+            loaded += loadTable(file.string(), table);
+            checkRows(file.string(), findings);
         }
         progress.step();
     }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,9 +13,6 @@ std::vector<std::filesystem::path> tableFiles(Database const& database);
 
 /// Reads a file that holds one table. False, after findings, when it cannot be read.
 bool loadTable(std::string const& path, AxReaderWriter& table);
-
-/// An empty table of the kind that the file's extension tells; null for other files.
-std::unique_ptr<AxReaderWriter> newTable(std::filesystem::path const& file);
 
 /// Loads each table whose kind is known by its extension and checks its rows. Answers how many were loaded, whole or
 /// not.
