@@ -25,6 +25,9 @@ constexpr Identity theIdentities[] = {
 /// Lists whose elements are whole values, each at most once, in any order.
 constexpr std::string_view theSets[] = {"connect", ""};
 
+/// Stands in keys where no head can go on.
+constexpr char theMark = '\1';
+
 enum class Told
 {
     ByHead,
@@ -234,7 +237,7 @@ void keyByPlace(std::string const& head, std::vector<Siblings> const& lists, dou
         for (Element* element : lists[list])
         {
             // No other list has an element of that key unless it is found to belong to this one.
-            element->key = head + '#' + std::to_string(list) + '#' + std::to_string(element->index);
+            element->key = head + theMark + std::to_string(list) + theMark + std::to_string(element->index);
         }
         if (list != 0)
         {
@@ -273,8 +276,8 @@ void keyAll(std::string const& head, std::vector<Siblings> const& lists, double 
             }
             else
             {
-                element->key = head + '[' + *name + ']';
-                element->label = rule.told != Told::AsWhole ? element->key
+                element->key = head + theMark + *name;
+                element->label = rule.told != Told::AsWhole ? head + '[' + *name + ']'
                                  : !head.empty()            ? head
                                                             : '[' + std::to_string(element->index + 1) + ']';
             }

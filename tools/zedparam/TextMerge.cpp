@@ -173,7 +173,6 @@ private:
                 return true;
             }
             myEdits.goBackTo(mark);
-            return false;
         }
         if (tokens[Ours] != tokens[Base])
         {
@@ -251,17 +250,21 @@ private:
         return mergeTokens(tokens, ((*layouts[Ours]).*which)(), source(Theirs, ((*layouts[Theirs]).*which)()));
     }
 
-    /// False when theirs has another order than ours, where order has a meaning, and it was not ours that changed it.
+    /// False when theirs has another order than ours and it was not ours that changed it. The order of a record's
+    /// members has no meaning; that of elements which have members of their own may have one.
     static bool isOrderKept(std::vector<std::vector<Element>> const& lists, Elements const& elements)
     {
+        bool const areElements =
+            std::ranges::all_of(lists[Base], [](Element const& element) { return element.item->hasLists(); });
         std::array<std::vector<std::string_view>, 3> orders;
         for (Version const version : {Base, Ours, Theirs})
         {
             for (Element const& element : lists[version])
             {
                 auto const& found = elements.at(element.key);
-                if (element.isOrdered && found[Ours] != nullptr && found[Theirs] != nullptr &&
-                    (found[Base] != nullptr || lists[Base].empty()))
+                bool const isCommon = found[Ours] != nullptr && found[Theirs] != nullptr &&
+                                      (found[Base] != nullptr || lists[Base].empty());
+                if (isCommon && (element.isOrdered || areElements))
                 {
                     orders[version].push_back(element.key);
                 }
