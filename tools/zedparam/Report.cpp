@@ -112,6 +112,7 @@ private:
     struct Table
     {
         std::string file;
+        std::string shownFile;
         std::string title;
         std::string page;
         std::set<std::size_t> users; // entries
@@ -133,6 +134,7 @@ private:
         {
             Table& table = myTables.emplace_back();
             table.file = file.string();
+            table.shownFile = shownPath(table.file);
             table.title = file.parent_path().filename().string() + "/" + file.filename().string();
             table.page = myFolder.newPage("tables", table.title);
             myFolder.setPageOf(table.file, table.page);
@@ -216,7 +218,7 @@ private:
         std::string const values = reportValues(*record, entry.file, myFolder, used);
         for (Table& table : myTables)
         {
-            if (std::ranges::find(used, shownPath(table.file)) != used.end())
+            if (std::ranges::find(used, table.shownFile) != used.end())
             {
                 table.users.insert(index);
             }
@@ -302,16 +304,13 @@ private:
                "</pre></details>\n";
     }
 
-    /// A list of the findings about one file; nothing when there are none.
+    /// A list of the findings about one file, named as it is shown; nothing when there are none.
     std::string findingsOf(std::string const& file) const
     {
         std::string items;
-        for (AxDiagnostic const& finding : myFindings)
+        for (AxDiagnostic const& finding : std::ranges::equal_range(myFindings, file, {}, &AxDiagnostic::file))
         {
-            if (finding.file == shownPath(file))
-            {
-                items += findingItem(finding, "#L" + std::to_string(finding.line));
-            }
+            items += findingItem(finding, "#L" + std::to_string(finding.line));
         }
         return items.empty() ? "" : "<h2 id=\"findings\">Findings</h2>\n<ul>\n" + items + "</ul>\n";
     }
@@ -336,7 +335,7 @@ private:
             std::string out = "<nav aria-label=\"Above\"><ol class=\"path\"><li>" +
                               htmlLink(std::string(theReportRoot) + "index.html#tables", "Tables") +
                               "</li></ol></nav>\n<h1>" + markup(table.title) + "</h1>\n<dl class=\"facts\">\n" +
-                              fact("File", htmlCode(shownPath(table.file))) + "</dl>\n" + findingsOf(table.file);
+                              fact("File", htmlCode(table.shownFile)) + "</dl>\n" + findingsOf(table.shownFile);
             if (!table.users.empty())
             {
                 out += "<h2>Used by</h2>\n<ul>\n";

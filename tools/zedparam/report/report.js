@@ -13,6 +13,7 @@
         results.hidden = true;
         results.replaceChildren();
         count.textContent = "";
+        count.classList.remove("none");
     }
 
     function entryFor(found) {
