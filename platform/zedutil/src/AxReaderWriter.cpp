@@ -417,7 +417,8 @@ double AxReaderWriter::recordUpdateTime() const
     {
         for (std::size_t i = 0; i < members->size(); ++i)
         {
-            latest = std::max(latest, members->entry(i).member->recordUpdateTime());
+            AxRegistryEntry const entry = members->entry(i);
+            latest = entry.content ? latest : std::max(latest, entry.member->recordUpdateTime());
         }
     }
     if (flag(List))

@@ -71,7 +71,11 @@ void AxReaderWriter::clearAllVariableReferenceFlags()
     {
         for (std::size_t i = 0; i < members->size(); ++i)
         {
-            members->entry(i).member->clearAllVariableReferenceFlags();
+            AxRegistryEntry const entry = members->entry(i);
+            if (!entry.content) // the file member clears its content
+            {
+                entry.member->clearAllVariableReferenceFlags();
+            }
         }
     }
     if (flag(List))
@@ -298,7 +302,8 @@ bool AxReaderWriter::hasVariableReference() const
     {
         for (std::size_t i = 0; i < members->size(); ++i)
         {
-            if (members->entry(i).member->hasVariableReference())
+            AxRegistryEntry const entry = members->entry(i);
+            if (!entry.content && entry.member->hasVariableReference()) // the file member asks its content
             {
                 return true;
             }
