@@ -1,66 +1,156 @@
 #include "Commands.h"
 
+#include <CLI/CLI.hpp>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <string>
+#include <sys/resource.h>
 
-#include "AxZedObjectParameters.h"
-#include "Database.h"
-#include "DatabaseCommand.h"
+#include "AxReadWholeFile.h"
+#include "Codes.h"
+#include "DatabaseCheck.h"
+#include "FileCheck.h"
 #include "Findings.h"
 #include "Json.h"
-#include "RecordCheck.h"
-#include "Tables.h"
 
 namespace
 {
-int check(std::string const& file, bool asJson)
+struct Options
 {
-    Findings findings(Findings::Print::Never);
-    std::unique_ptr<Database> const database = Database::open(file);
-    std::size_t tables = 0;
-    std::size_t entries = 0;
-    if (database != nullptr)
-    {
-        database->readRecords("checking records");
-        for (AxSxpParameterDbEntry* entry : database->entries())
-        {
-            ++entries;
-            if (AxZedObjectParameters* record = entry->parameters())
-            {
-                checkRecord(Database::fileOf(*entry), *record, findings);
-            }
-        }
-        tables = checkTables(tableFiles(*database), findings);
-    }
-    std::vector<AxDiagnostic> const& sorted = findings.sorted();
+    std::string file;
+    bool json = false;
+    bool list = false;
+    bool timing = false;
+};
+
+int list(bool asJson)
+{
     if (asJson)
     {
         JsonWriter json;
-        json.beginObject();
-        json.key("entries").integer(static_cast<long long>(entries));
-        json.key("tables").integer(static_cast<long long>(tables));
-        json.key("findings");
-        Findings::write(json, sorted);
-        json.endObject().print();
+        writeCodes(json);
+        json.print();
     }
     else
     {
-        for (AxDiagnostic const& finding : sorted)
-        {
-            std::printf("%s\n", finding.format().c_str());
-        }
-        auto const plural = [](std::size_t number) { return number == 1 ? "" : "s"; };
-        std::printf("%zu %s, %zu table%s: %zu finding%s\n", entries, entries == 1 ? "entry" : "entries", tables,
-                    plural(tables), sorted.size(), plural(sorted.size()));
+        printCodes();
     }
-    return database == nullptr ? CouldNotRun : sorted.empty() ? Fine : HasFindings;
+    return Fine;
+}
+
+std::string counted(std::size_t number, char const* one, char const* many)
+{
+    return std::to_string(number) + ' ' + (number == 1 ? one : many);
+}
+
+void print(std::string const& file, bool isDatabase, Checked const& checked, std::vector<AxDiagnostic> const& findings)
+{
+    for (AxDiagnostic const& finding : findings)
+    {
+        std::printf("%s\n", finding.format().c_str());
+    }
+    std::string const what =
+        isDatabase ? counted(checked.entries, "entry", "entries") + ", " + counted(checked.tables, "table", "tables")
+                   : file;
+    std::printf("%s: %s\n", what.c_str(), counted(findings.size(), "finding", "findings").c_str());
+}
+
+void printJson(std::string const& file, bool isDatabase, Checked const& checked,
+               std::vector<AxDiagnostic> const& findings)
+{
+    JsonWriter json;
+    json.beginObject();
+    if (isDatabase)
+    {
+        json.key("entries").integer(static_cast<long long>(checked.entries));
+        json.key("tables").integer(static_cast<long long>(checked.tables));
+    }
+    else
+    {
+        json.member("file", file);
+    }
+    json.key("findings");
+    Findings::write(json, findings);
+    json.endObject().print();
+}
+
+void printTiming(double secondsReading)
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    std::fprintf(stderr, "processor: read records in %.3f s, all in %.3f s; at most %ld KiB\n", secondsReading,
+                 processorSeconds(), usage.ru_maxrss);
+}
+
+int check(Options const& options)
+{
+    Findings findings(Findings::Print::Never);
+    bool const isDatabase = isDatabaseFile(options.file);
+    Checked checked;
+    if (isDatabase)
+    {
+        checked = checkDatabase(options.file, findings);
+    }
+    else
+    {
+        checkFile(options.file, findings);
+    }
+    std::vector<AxDiagnostic> const sorted = findings.sorted();
+    (options.json ? printJson : print)(options.file, isDatabase, checked, sorted);
+    if (options.timing)
+    {
+        printTiming(checked.secondsReading);
+    }
+    return sorted.empty() ? Fine : HasFindings;
+}
+
+/// Whether the file can be opened and read at all; else a line on the standard error stream.
+bool isReadable(std::string const& file)
+{
+    std::string text;
+    int error = 0;
+    bool const isRead = axReadWholeFile(AxFilename(file), text, error);
+    if (!isRead)
+    {
+        std::fprintf(stderr, "%s:1:1: error: cannot read the file: %s [cannot-open]\n", file.c_str(),
+                     std::strerror(error));
+    }
+    return isRead;
+}
+
+int run(Options const& options)
+{
+    if (options.list)
+    {
+        return list(options.json);
+    }
+    return isReadable(options.file) ? check(options) : CouldNotRun;
 }
 } // namespace
 
 void addCheckCommand(CLI::App& app, int& exitCode)
 {
-    addDatabaseCommand(app, exitCode, "check",
-                       "Reads every record and the tables beside the database; prints every finding with its place.",
-                       check);
+    auto const options = std::make_shared<Options>();
+    CLI::App* command = app.add_subcommand(
+        "check",
+        "Checks a database with all its records and tables, or one file; prints every finding with its place.");
+    CLI::Option* file = command->add_option(
+        "FILE", options->file,
+        "A database (.opd), a record (.ope), an entity file (.entity), a table (.hit, .det, .asl, .dmg, .frm), a group "
+        "of objects (.sog), a model set, a collection of records or a system definition");
+    CLI::Option* list = command->add_flag("--list", options->list, "Print all codes of findings, with their meaning");
+    file->excludes(list);
+    command->add_flag("--json", options->json, "Print JSON");
+    command->add_flag("--timing", options->timing,
+                      "Tell the time and memory that it took on the standard error stream");
+    command->callback(
+        [options, file, list, &exitCode]
+        {
+            if (file->empty() && list->empty())
+            {
+                throw CLI::RequiredError("FILE");
+            }
+            exitCode = run(*options);
+        });
 }

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 
 #include "AxZedObjectParameters.h"
 #include "Factories.h"
+#include "Findings.h"
 #include "Progress.h"
 #include "ShownPath.h"
 
@@ -33,6 +35,34 @@ std::unique_ptr<Database> Database::open(std::string const& file, std::unique_pt
         database->myDirectory = ".";
     }
     return database;
+}
+
+std::unique_ptr<Database> Database::listing(std::filesystem::path const& file)
+{
+    Findings const silence(Findings::Print::Never);
+    std::error_code ignored;
+    std::filesystem::path const path = std::filesystem::weakly_canonical(file, ignored);
+    std::filesystem::path const folder = path.parent_path();
+    for (std::filesystem::path const& place : {folder, folder.parent_path()})
+    {
+        std::set<std::filesystem::path> candidates;
+        for (std::filesystem::directory_entry const& entry : std::filesystem::directory_iterator(place, ignored))
+        {
+            if (entry.path().extension() == opdFilenameExtension().string())
+            {
+                candidates.insert(entry.path());
+            }
+        }
+        for (std::filesystem::path const& candidate : candidates)
+        {
+            std::unique_ptr<Database> database = open(candidate.string());
+            if (database != nullptr && !database->entriesOf(path).empty())
+            {
+                return database;
+            }
+        }
+    }
+    return nullptr;
 }
 
 std::vector<AxSxpParameterDbEntry*> Database::entries() const

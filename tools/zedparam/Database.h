@@ -22,6 +22,10 @@ public:
     /// The library set up, and a database without entries.
     static std::unique_ptr<Database> openNone();
 
+    /// The database in the file's folder, or in the one above, that lists the file; null when there is none. It is
+    /// looked for in silence.
+    static std::unique_ptr<Database> listing(std::filesystem::path const& file);
+
     std::vector<AxSxpParameterDbEntry*> entries() const;
     /// The entries whose record is in the file.
     std::vector<AxSxpParameterDbEntry*> entriesOf(std::filesystem::path const& file) const;

@@ -49,12 +49,13 @@ AxEnvValue const* valueBelow(AxEnvObject const& object, std::span<SourceStep con
     return nullptr;
 }
 
-AxEnvValue const* referenceBelow(AxEnvObject const& object, std::string const& whole, std::string const& embedded)
+/// The value of the first attribute that `accept` takes.
+template <class Accept>
+AxEnvValue const* attributeBelow(AxEnvObject const& object, Accept const& accept)
 {
     for (AxEnvObject::Attribute const& attribute : object.attributes())
     {
-        std::string const& text = attribute.value->value().string();
-        if (text == whole || text.find(embedded) != std::string::npos)
+        if (accept(attribute.name.string(), attribute.value->value().string()))
         {
             return attribute.value.get();
         }
@@ -62,7 +63,7 @@ AxEnvValue const* referenceBelow(AxEnvObject const& object, std::string const& w
     for (AxEnvValuePtr const& node : object.children())
     {
         AxEnvObject const* const child = objectIn(node);
-        AxEnvValue const* const found = child != nullptr ? referenceBelow(*child, whole, embedded) : nullptr;
+        AxEnvValue const* const found = child != nullptr ? attributeBelow(*child, accept) : nullptr;
         if (found != nullptr)
         {
             return found;
@@ -128,7 +129,16 @@ AxEnvValue const* ElementSource::variable(std::string_view name) const
 
 AxEnvValue const* ElementSource::reference(std::string_view variable) const
 {
-    return myElement == nullptr
-               ? nullptr
-               : referenceBelow(*myElement, "$" + std::string(variable), "$(" + std::string(variable) + ")");
+    std::string const whole = "$" + std::string(variable);
+    std::string const embedded = "$(" + std::string(variable) + ")";
+    return myElement == nullptr ? nullptr
+                                : attributeBelow(*myElement, [&](std::string const&, std::string const& text)
+                                                 { return text == whole || text.find(embedded) != std::string::npos; });
+}
+
+AxEnvValue const* ElementSource::attribute(std::string_view name, std::string_view value) const
+{
+    return myElement == nullptr ? nullptr
+                                : attributeBelow(*myElement, [&](std::string const& key, std::string const& text)
+                                                 { return key == name && text == value; });
 }

@@ -18,6 +18,8 @@ public:
     AxEnvValue const* variable(std::string_view name) const;
     /// The first attribute that is `$variable` or holds `$(variable)`.
     AxEnvValue const* reference(std::string_view variable) const;
+    /// The first attribute `name="value"`.
+    AxEnvValue const* attribute(std::string_view name, std::string_view value) const;
 
 private:
     AxEnvObjectPtr myElement;

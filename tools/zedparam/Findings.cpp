@@ -11,11 +11,6 @@
 
 namespace
 {
-auto key(AxDiagnostic const& finding)
-{
-    return std::tie(finding.file, finding.line, finding.column, finding.text, finding.code, finding.hint);
-}
-
 /// Whether the file stands in the line by itself, not as a part of a longer name. Folders may stand in front of it.
 bool names(std::string_view line, std::string_view file)
 {
@@ -32,6 +27,13 @@ bool names(std::string_view line, std::string_view file)
     return false;
 }
 } // namespace
+
+bool Findings::Less::operator()(AxDiagnostic const& a, AxDiagnostic const& b) const
+{
+    auto const key = [](AxDiagnostic const& finding)
+    { return std::tie(finding.file, finding.line, finding.column, finding.text, finding.code, finding.hint); };
+    return key(a) < key(b);
+}
 
 Findings::Findings(Print print)
     : myPrint(print),
@@ -66,7 +68,8 @@ void Findings::add(AxDiagnostic diagnostic)
     }
     if (diagnostic.severity != AxSeverity::Info)
     {
-        myFindings.push_back(std::move(diagnostic));
+        myLastFile = diagnostic.file;
+        myFindings.insert(std::move(diagnostic));
     }
 }
 
@@ -79,14 +82,14 @@ void Findings::takeWarning(std::string const& line)
     std::string const file = shownPath(AxSourceScope::currentFile().native());
     if (myConsequenceMayFollow)
     {
-        std::string const& last = myFindings.back().file;
-        if (!last.empty() && (last == file || names(line, last)))
+        if (!myLastFile.empty() && (myLastFile == file || names(line, myLastFile)))
         {
             return;
         }
     }
     AxDiagnostic finding;
     finding.severity = AxSeverity::Warning;
+    finding.code = "other-warning";
     finding.file = file;
     finding.text = line.substr(0, line.find_last_not_of('\n') + 1);
     add(std::move(finding));
@@ -97,14 +100,6 @@ bool Findings::has(std::string_view code, std::string const& file) const
 {
     return std::ranges::any_of(myFindings, [&, shown = shownPath(file)](AxDiagnostic const& finding)
                                { return finding.code == code && finding.file == shown; });
-}
-
-std::vector<AxDiagnostic> const& Findings::sorted()
-{
-    std::ranges::stable_sort(myFindings, {}, key);
-    auto const same = std::ranges::unique(myFindings, {}, key);
-    myFindings.erase(same.begin(), same.end());
-    return myFindings;
 }
 
 void Findings::write(JsonWriter& json, std::vector<AxDiagnostic> const& findings)

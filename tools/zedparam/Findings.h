@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,8 @@ class JsonWriter;
 
 /// Takes what the library reports for as long as it lives; what is news only is printed and not kept. A warning that
 /// comes without a place is a finding as well, unless it comes after a finding, without another between them, and is
-/// about the same file: then it tells the consequence. What is told of a whole file stands at its beginning.
+/// about the same file: then it tells the consequence. What is told of a whole file stands at its beginning. A finding
+/// is kept once: what several records share is read, and reported, for each of them.
 class Findings
 {
 public:
@@ -32,16 +34,22 @@ public:
     /// Whether a finding of that kind is about that file.
     bool has(std::string_view code, std::string const& file) const;
     bool empty() const { return myFindings.empty(); }
-    /// By file, line, column and text, each once: what several records share is read, and reported, for each of them.
-    std::vector<AxDiagnostic> const& sorted();
+    /// By file, line, column and text.
+    std::vector<AxDiagnostic> sorted() const { return {myFindings.begin(), myFindings.end()}; }
 
     static void write(JsonWriter& json, std::vector<AxDiagnostic> const& findings);
 
 private:
+    struct Less
+    {
+        bool operator()(AxDiagnostic const& a, AxDiagnostic const& b) const;
+    };
+
     void takeWarning(std::string const& line);
 
     Print myPrint;
-    std::vector<AxDiagnostic> myFindings;
+    std::set<AxDiagnostic, Less> myFindings;
+    std::string myLastFile;     // that the finding before is about
     bool myEchoFollows = false; // the library repeats a finding as a line of text
     bool myConsequenceMayFollow = false;
     std::optional<AxSinkScope> myWarnings;

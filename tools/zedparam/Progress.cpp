@@ -19,14 +19,33 @@ void Progress::clear()
     if (myIsShown && myDone != 0)
     {
         std::fputs("\r\033[K", stderr);
+        myNextLine = {};
     }
 }
 
 void Progress::step()
 {
     ++myDone;
-    if (myIsShown)
+    if (!myIsShown)
     {
-        std::fprintf(stderr, "\r%s %zu/%zu\033[K", myWhat.c_str(), myDone, myTotal);
+        return;
     }
+    Clock::time_point const now = Clock::now();
+    if (now >= myNextLine || myDone == myTotal)
+    {
+        constexpr std::chrono::milliseconds pause(50);
+        myNextLine = now + pause;
+        show(std::chrono::duration<double>(now - myBegin).count());
+    }
+}
+
+void Progress::show(double seconds) const
+{
+    double const rest = seconds / static_cast<double>(myDone) * static_cast<double>(myTotal - myDone);
+    std::fprintf(stderr, "\r%s %zu/%zu", myWhat.c_str(), myDone, myTotal);
+    if (seconds >= 1.0)
+    {
+        std::fprintf(stderr, ", about %.0f s left", rest);
+    }
+    std::fputs("\033[K", stderr);
 }

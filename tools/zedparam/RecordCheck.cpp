@@ -1,31 +1,39 @@
 #include "RecordCheck.h"
 
+#include <algorithm>
+#include <memory>
 #include <set>
+#include <typeindex>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
+#include "Ax1DRegularTableFn.h"
+#include "AxComponentDescriptor.h"
+#include "AxComponentSystemDefinition.h"
+#include "AxComponentSystemDescriptor.h"
+#include "AxPrbCoefficientList.h"
 #include "AxPrbRangeList.h"
 #include "AxReaderWriterFile.h"
+#include "AxRwBoolean.h"
+#include "AxRwInt.h"
+#include "AxRwProperty.h"
+#include "AxRwReal.h"
+#include "AxRwString.h"
+#include "AxRwVariableBindings.h"
+#include "AxRwVector.h"
 #include "AxZedObjectParameters.h"
-#include "ElementSource.h"
+#include "CheckedFiles.h"
+#include "FindingPlaces.h"
 #include "Findings.h"
+#include "NameScan.h"
 #include "RangeText.h"
-#include "RecordValue.h"
-#include "RecordWalk.h"
 #include "RowCheck.h"
-#include "Source.h"
+#include "Supplies.h"
+#include "Wiring.h"
 
 namespace
 {
-AxDiagnostic warning(char const* code, std::string file, std::string text)
-{
-    AxDiagnostic finding;
-    finding.severity = AxSeverity::Warning;
-    finding.code = code;
-    finding.file = std::move(file);
-    finding.text = std::move(text);
-    return finding;
-}
-
 std::string placeOf(AxReaderWriter const& rw)
 {
     std::string place = "\"" + rw.name().string().string() + "\"";
@@ -37,45 +45,224 @@ std::string placeOf(AxReaderWriter const& rw)
     return place;
 }
 
+/// The file member that a member is, if it is one; most are plain values, for which a look at the class is enough.
+AxReaderWriterFile const* fileIn(AxReaderWriter const& rw)
+{
+    std::type_info const& type = typeid(rw);
+    bool const isPlain = type == typeid(AxRwReal) || type == typeid(AxRwBoolean) || type == typeid(AxRwString) ||
+                         type == typeid(AxRwInt) || type == typeid(AxRwVector);
+    return isPlain || !rw.isValue() ? nullptr : dynamic_cast<AxReaderWriterFile const*>(&rw);
+}
+
+/// Whether a component is of the class that its type name stands for, so that it is read back as it is.
+bool keepsType(AxComponentDescriptor const& component)
+{
+    static std::unordered_map<std::type_index, bool> known;
+    auto const [entry, isNew] = known.try_emplace(typeid(component), true);
+    if (isNew)
+    {
+        std::unique_ptr<AxComponentDescriptor> const fresh(
+            AxComponentDescriptor::createComponentDescriptor(component.type().c_str()));
+        entry->second = fresh != nullptr && typeid(*fresh) == typeid(component);
+    }
+    return entry->second;
+}
+
+/// Walks a record and the contents of its files, and knows for each member where it is read.
 class RecordCheck
 {
 public:
-    RecordCheck(std::string const& file, AxZedObjectParameters& record, Findings& findings)
-        : myWalk(file, record), myElement(record.objectNode()), myFindings(findings)
+    RecordCheck(FindingPlaces& places, CheckedFiles& files, Findings& findings)
+        : myPlaces(places), myFiles(files), myFindings(findings)
     {
     }
 
-    void run()
+    void runRecord(AxZedObjectParameters& record)
     {
-        std::set<std::string> filesWithRows;
-        myWalk.run(KeywordPath::everything(),
-                   [&](RecordWalk const& at)
-                   {
-                       if (at.ownItem() == nullptr)
-                       {
-                           checkRange(at.rw());
-                           noteRows(at.rw(), filesWithRows);
-                       }
-                   });
-        for (std::string const& file : filesWithRows)
-        {
-            checkRows(file, myFindings);
-        }
-        for (auto const& [name, value] : myWalk.record().unboundVariables())
-        {
-            reportVariable(name.string());
-        }
+        checkNames();
+        visitBelow(record);
+        checkWiring(Wiring(record));
+        checkRules(record);
+        mySupplies.check(myPlaces, myFindings);
+        finish();
+    }
+    void runContent(AxReaderWriter& content)
+    {
+        checkNames();
+        visitBelow(content);
+        finish();
     }
 
 private:
-    void noteRows(AxReaderWriter const& rw, std::set<std::string>& files) const
+    using Kind = AxReaderWriterFile::ContentKind;
+
+    void finish()
     {
-        auto const* file = dynamic_cast<AxReaderWriterFile const*>(&rw);
-        AxReaderWriter const* const content = file != nullptr ? file->content() : &rw;
-        if (content != nullptr && dynamic_cast<AxPrbRangeList const*>(content) != nullptr)
+        for (std::size_t const file : myFilesWithRows)
         {
-            bool const isRead = file != nullptr && !file->foundFilename().isNull();
-            files.insert(isRead ? file->foundFilename().native() : myWalk.file());
+            if (!myPlaces.isElement(file))
+            {
+                checkRows(myPlaces.file(file), myFiles, myFindings);
+            }
+        }
+    }
+
+    void visit(AxSymbolString keyword, AxReaderWriter& rw, int occurrence = SourceStep::theLast)
+    {
+        myPath.push_back({keyword, &rw, occurrence});
+        rw.isValue() ? checkRange(rw) : checkType(rw);
+        mySupplies.note(rw, myFile, myPath);
+        visitBelow(rw);
+        myPath.pop_back();
+    }
+
+    void visitBelow(AxReaderWriter& rw)
+    {
+        if (AxReaderWriterRegistry const* registry = rw.registryIfAny())
+        {
+            visitMembers(*registry);
+        }
+        if (auto const* list = dynamic_cast<AxRwList const*>(&rw))
+        {
+            visitElements(*list);
+        }
+        else if (auto const* property = dynamic_cast<AxRwProperty const*>(&rw))
+        {
+            if (property->rwValue() != nullptr)
+            {
+                visitBelow(*property->rwValue());
+            }
+        }
+        else if (auto const* file = dynamic_cast<AxReaderWriterFile const*>(&rw))
+        {
+            visitFile(*file);
+        }
+        else if (auto const* table = dynamic_cast<Ax1DRegularTableFn const*>(&rw))
+        {
+            checkSteps(*table);
+        }
+    }
+
+    void visitElements(AxRwList const& list)
+    {
+        if (dynamic_cast<AxPrbRangeList const*>(&list) != nullptr ||
+            dynamic_cast<AxPrbCoefficientList const*>(&list) != nullptr)
+        {
+            myFilesWithRows.insert(myFile);
+        }
+        std::unordered_map<AxSymbolString, int> occurrences;
+        for (AxListItem const* item = list.first(); item != nullptr; item = item->next())
+        {
+            AxReaderWriter& element = *AxRwList::element(item);
+            visit(element.name(), element, occurrences[element.name()]++);
+        }
+    }
+
+    void visitMembers(AxReaderWriterRegistry const& registry)
+    {
+        std::vector<AxReaderWriter const*> contents;
+        for (std::size_t i = 0; i < registry.size(); ++i)
+        {
+            AxReaderWriterFile const* const file = fileIn(*registry.entry(i).member);
+            if (file != nullptr && file->contentKind() == Kind::Member && !file->foundFilename().isNull())
+            {
+                contents.push_back(file->content());
+                visitContent(*file);
+            }
+        }
+        for (std::size_t i = 0; i < registry.size(); ++i)
+        {
+            AxRegistryEntry const entry = registry.entry(i);
+            bool const isOfFile = std::ranges::find(contents, entry.member) != contents.end();
+            if (!entry.content && !isOfFile && mayHoldValues(*entry.member))
+            {
+                visit(entry.keyword, *entry.member);
+            }
+        }
+    }
+
+    /// A value or record that was not read holds its defaults.
+    static bool mayHoldValues(AxReaderWriter const& rw)
+    {
+        return rw.valueSpecified() || !rw.isValue() || fileIn(rw) != nullptr;
+    }
+
+    void visitFile(AxReaderWriterFile const& file)
+    {
+        if (file.content() == nullptr)
+        {
+            noteFile(file.filename());
+        }
+        else if (file.contentKind() != Kind::Member)
+        {
+            visitContent(file);
+        }
+    }
+
+    /// A file whose content is the engine's business is used, too.
+    void noteFile(AxFilename const& file)
+    {
+        AxFilename const beside = AxFilename(myPlaces.file(myFile)).directory().combine(file);
+        if (!file.isNull() && beside.exists())
+        {
+            myFiles.enter(beside.native());
+        }
+    }
+
+    void visitContent(AxReaderWriterFile const& file)
+    {
+        bool isNew = true;
+        std::vector<SourceStep> const outer = myPath;
+        std::size_t const outerFile = myFile;
+        if (!file.foundFilename().isNull())
+        {
+            std::string const found = file.foundFilename().native();
+            isNew = myFiles.enter(found);
+            myPath.clear();
+            myFile = myPlaces.add(found);
+            if (isNew)
+            {
+                checkNames();
+            }
+        }
+        visitBelow(*file.content());
+        auto const* system = dynamic_cast<AxComponentSystemDefinition const*>(file.content());
+        if (system != nullptr && isNew)
+        {
+            checkWiring(Wiring(*system));
+            checkPorts(*system);
+        }
+        myFile = outerFile;
+        myPath = outer;
+    }
+
+    /// Reading keeps one of several components of one name, so the text is looked at.
+    void checkNames()
+    {
+        if (myPlaces.isElement(myFile))
+        {
+            return;
+        }
+        scanNames(myFiles.text(myPlaces.file(myFile)),
+                  [this](std::string_view name, unsigned line, unsigned column)
+                  {
+                      AxDiagnostic finding = myPlaces.warning("repeated-name", myFile,
+                                                              "another element of the list is called \"" +
+                                                                  std::string(name) + "\"; this one takes its place");
+                      finding.line = line;
+                      finding.column = column;
+                      myFindings.add(std::move(finding));
+                  });
+    }
+
+    void checkType(AxReaderWriter const& rw)
+    {
+        auto const* component = dynamic_cast<AxComponentDescriptor const*>(&rw);
+        if (component != nullptr && !keepsType(*component))
+        {
+            myFindings.add(
+                myPlaces.atValue("type-not-kept", myFile, myPath,
+                                 "the component is written back as one of type \"" + component->type().string() + '"'));
         }
     }
 
@@ -83,60 +270,109 @@ private:
     {
         if (std::string const fault = rw.valueSpecified() ? rangeFault(rw) : std::string(); !fault.empty())
         {
-            AxDiagnostic finding = warning("out-of-range", myWalk.file(), placeOf(rw) + " is " + fault);
-            if (myWalk.isInRecordsOwnFile() && myElement)
-            {
-                setPlace(finding, ElementSource(myElement).value(myWalk.stepsInFile()));
-            }
-            else
-            {
-                Source::setPlace(finding, Source(myWalk.file()).value(myWalk.stepsInFile()));
-            }
-            myFindings.add(std::move(finding));
+            myFindings.add(myPlaces.atValue("out-of-range", myFile, myPath, placeOf(rw) + " is " + fault));
         }
     }
 
-    static void setPlace(AxDiagnostic& finding, AxEnvValue const* node)
+    void checkSteps(Ax1DRegularTableFn const& table)
     {
-        if (node != nullptr)
+        if (!table.values().empty() && !(table.xStep() > 0.0))
         {
-            finding.line = node->line();
-            finding.column = node->column();
+            myFindings.add(myPlaces.atValue("bad-step", myFile, myPath,
+                                            "the table \"" + table.name().string().string() +
+                                                "\" has no step above 0 and counts as empty"));
         }
     }
 
-    void reportVariable(std::string const& name)
+    void checkWiring(Wiring const& wiring)
     {
-        AxDiagnostic finding =
-            warning("unbound-variable", myWalk.files().front(), "nothing binds the variable \"" + name + "\"");
-        if (myElement)
-        {
-            setPlace(finding, ElementSource(myElement).reference(name));
-        }
-        for (std::string const& file : myWalk.files())
-        {
-            if (finding.line != 0)
-            {
-                break;
-            }
-            Source const source(file);
-            if (AxlObj const* cell = source.reference(name))
-            {
-                finding.file = file;
-                Source::setPlace(finding, cell);
-                break;
-            }
-        }
-        myFindings.add(std::move(finding));
+        checkWires(wiring,
+                   [this](WireFault const& fault)
+                   {
+                       AxDiagnostic finding = myPlaces.atConnection(fault.code, myFile, fault.wire.source().string(),
+                                                                    fault.wire.destination().string(), fault.text);
+                       finding.hint = fault.hint;
+                       myFindings.add(std::move(finding));
+                   });
     }
 
-    RecordWalk myWalk;
-    AxEnvValuePtr myElement; // of the record when it comes from an entity file
+    void checkPorts(AxComponentSystemDefinition const& system)
+    {
+        checkNamedPorts(system,
+                        [this](char const* keyword, std::string const& port, std::string text)
+                        {
+                            AxDiagnostic finding = myPlaces.atItem("unknown-port", myFile, keyword, port, text);
+                            myFindings.add(finding.line != 0
+                                               ? std::move(finding)
+                                               : myPlaces.atList("unknown-port", myFile, "meta-data", std::move(text)));
+                        });
+    }
+
+    void checkRules(AxZedObjectParameters const& record)
+    {
+        checkAutomaticWires(record,
+                            [this](char const* keyword, std::string const& port, std::string text) {
+                                myFindings.add(myPlaces.atItem("unknown-port", myFile, keyword, port, std::move(text)));
+                            });
+    }
+
+    FindingPlaces& myPlaces;
+    CheckedFiles& myFiles;
     Findings& myFindings;
+    Supplies mySupplies;
+    std::size_t myFile = 0; // the one that is walked
+    std::set<std::size_t> myFilesWithRows;
+    std::vector<SourceStep> myPath; // from its first expression inwards
 };
+
+void reportUnbound(AxZedObjectParameters const& record, FindingPlaces const& places, Findings& findings)
+{
+    for (auto const& [name, value] : record.unboundVariables())
+    {
+        findings.add(places.atReference("unbound-variable", name.string(),
+                                        "nothing binds the variable \"" + name.string() + '"'));
+    }
+}
+
+void reportUnused(AxZedObjectParameters const& record, FindingPlaces const& places, CheckedFiles& files,
+                  Findings& findings)
+{
+    if (record.variableBindingsFromLoad().empty())
+    {
+        return;
+    }
+    CheckedFiles::Names const own = files.referencesOnce(places.file(0));
+    for (AxRwVariableBindings const* bindings : record.variableBindingsFromLoad())
+    {
+        for (AxSymbolString const variable : bindings->names())
+        {
+            std::string const& name = variable.string().string();
+            bool const isUsed = own.contains(name) || std::any_of(places.files().begin() + 1, places.files().end(),
+                                                                  [&](std::string const& file)
+                                                                  { return files.references(file).contains(name); });
+            if (!isUsed)
+            {
+                findings.add(places.atBinding("unused-variable", name, "nothing uses the variable \"" + name + '"'));
+            }
+        }
+    }
+}
 } // namespace
 
-void checkRecord(std::string const& file, AxZedObjectParameters& record, Findings& findings)
+void checkRecord(std::string const& file, AxZedObjectParameters& record, Variables variables, CheckedFiles& files,
+                 Findings& findings)
 {
-    RecordCheck(file, record, findings).run();
+    FindingPlaces places(file, record.objectNode(), files);
+    RecordCheck(places, files, findings).runRecord(record);
+    if (variables == Variables::AllKnown)
+    {
+        reportUnbound(record, places, findings);
+    }
+    reportUnused(record, places, files, findings);
+}
+
+void checkContent(std::string const& file, AxReaderWriter& content, CheckedFiles& files, Findings& findings)
+{
+    FindingPlaces places(file, {}, files);
+    RecordCheck(places, files, findings).runContent(content);
 }

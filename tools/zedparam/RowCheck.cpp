@@ -1,12 +1,15 @@
 #include "RowCheck.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "AxDiagnostic.h"
 #include "AxNumberText.h"
+#include "AxSourceScope.h"
 #include "AxlObj.h"
+#include "CheckedFiles.h"
 #include "Findings.h"
-#include "Source.h"
 
 namespace
 {
@@ -17,118 +20,177 @@ std::string shown(double value)
     return text;
 }
 
-class RowCheck
+bool isProbability(double value)
 {
-public:
-    RowCheck(std::string file, Findings& findings) : myFile(std::move(file)), myFindings(findings) {}
+    return value >= 0.0 && value <= 1.0;
+}
 
-    void run()
-    {
-        Source(myFile).forEachList(
-            [this](AxlObj const& list)
-            {
-                if (list.car()->text() == "range-list")
-                {
-                    checkRanges(list);
-                }
-                else
-                {
-                    checkAngles(list);
-                }
-            });
-    }
+/// One row of a range list.
+struct Row
+{
+    double range;
+    AxlObj const* place;
+    std::vector<std::string_view> outcomes{};
+};
 
-private:
-    void checkRanges(AxlObj const& list)
+Row readRow(AxlObj const& range, AxlObj const* outcomes, CellReport const& report)
+{
+    Row row{range.flonum(), &range};
+    for (; outcomes->isPair(); outcomes = outcomes->cdr())
     {
-        AxlObj const* last = nullptr;
-        for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
+        AxlObj const& outcome = *outcomes->car();
+        AxlObj const& value = *outcome.cdr()->car();
+        std::string_view const name = outcome.car()->text();
+        if (name.empty() || !value.isNumber())
         {
-            AxlObj const* const range = rest->car()->cdr()->car();
-            if (!range->isNumber())
-            {
-                continue;
-            }
-            checkOutcomes(range->flonum(), rest->car()->cdr()->cdr());
-            if (last != nullptr && range->flonum() < last->flonum())
-            {
-                add("out-of-order", *range,
-                    "the row of range " + shown(range->flonum()) + " stands behind that of " + shown(last->flonum()));
-            }
-            last = range;
+            continue;
+        }
+        std::string const at = '"' + std::string(name) + "\" at " + shown(row.range) + " m";
+        if (!isProbability(value.flonum()))
+        {
+            report("out-of-range", value,
+                   "probability of " + at + " is " + shown(value.flonum()) + ", expected 0 to 1");
+        }
+        if (std::ranges::find(row.outcomes, name) != row.outcomes.end())
+        {
+            report("repeated-outcome", outcome, at + " is told again; the first answers");
+            continue;
+        }
+        row.outcomes.push_back(name);
+    }
+    return row;
+}
+
+void checkOrder(std::vector<Row> const& rows, CellReport const& report)
+{
+    for (std::size_t i = 0; i < rows.size(); ++i)
+    {
+        Row const& row = rows[i];
+        if (row.range < 0.0)
+        {
+            report("out-of-range", *row.place, "range is " + shown(row.range) + ", expected 0.0 or more");
+        }
+        auto const isSame = [&](Row const& other) { return other.range == row.range; };
+        auto const end = rows.begin() + static_cast<std::ptrdiff_t>(i);
+        if (std::find_if(rows.begin(), end, isSame) != end)
+        {
+            report("repeated-range", *row.place, "another row of range " + shown(row.range) + "; the later counts");
+        }
+        else if (i != 0 && row.range < rows[i - 1].range)
+        {
+            report("out-of-order", *row.place,
+                   "the row of range " + shown(row.range) + " stands behind that of " + shown(rows[i - 1].range));
         }
     }
+}
 
-    void checkOutcomes(double range, AxlObj const* outcomes)
+void checkOutcomes(std::vector<Row> const& rows, CellReport const& report)
+{
+    std::vector<std::string_view> all;
+    for (Row const& row : rows)
     {
-        for (; outcomes->isPair(); outcomes = outcomes->cdr())
+        std::ranges::copy_if(row.outcomes, std::back_inserter(all),
+                             [&](std::string_view name) { return std::ranges::find(all, name) == all.end(); });
+    }
+    for (Row const& row : rows)
+    {
+        for (std::string_view const name : all)
         {
-            AxlObj const& outcome = *outcomes->car();
-            AxlObj const& value = *outcome.cdr()->car();
-            if (value.isNumber() && !(value.flonum() >= 0.0 && value.flonum() <= 1.0))
+            if (std::ranges::find(row.outcomes, name) == row.outcomes.end())
             {
-                add("out-of-range", value,
-                    "probability of \"" + std::string(outcome.car()->text()) + "\" at " + shown(range) + " m is " +
-                        shown(value.flonum()) + ", expected 0 to 1");
+                report("missing-outcome", *row.place,
+                       "the row of range " + shown(row.range) + " has no \"" + std::string(name) +
+                           "\", which counts as 0");
             }
         }
     }
+}
+} // namespace
 
-    void checkAngles(AxlObj const& list)
+AxlObj const* itemOf(AxlObj const& list, std::string_view head)
+{
+    for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
     {
-        AxlObj const* largest = nullptr;
-        for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
+        if (rest->car()->car()->text() == head)
         {
-            AxlObj const* const angle = angleOf(*rest->car());
-            if (angle == nullptr)
-            {
-                continue;
-            }
-            if (largest != nullptr && angle->flonum() <= largest->flonum())
-            {
-                add("out-of-order", *angle,
-                    "the angle " + shown(angle->flonum()) + " stands behind " + shown(largest->flonum()) +
-                        " and is never reached");
-                continue;
-            }
-            largest = angle;
+            return rest->car();
         }
     }
+    return nullptr;
+}
 
-    /// The number of an item `(angle-of-incidence (angle number) ...)`, null for any other item.
-    static AxlObj const* angleOf(AxlObj const& item)
+void checkRangeList(AxlObj const& list, CellReport const& report)
+{
+    std::vector<Row> rows;
+    for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
     {
-        if (item.car()->text() == "angle-of-incidence")
+        AxlObj const* const range = rest->car()->cdr()->car();
+        if (range->isNumber())
         {
-            for (AxlObj const* rest = item.cdr(); rest->isPair(); rest = rest->cdr())
-            {
-                AxlObj const& value = *rest->car()->cdr()->car();
-                if (rest->car()->car()->text() == "angle" && value.isNumber())
-                {
-                    return &value;
-                }
-            }
+            rows.push_back(readRow(*range, rest->car()->cdr()->cdr(), report));
         }
-        return nullptr;
     }
+    if (list.cdr()->nil())
+    {
+        report("empty-table", list, "a range list without rows never answers");
+    }
+    checkOrder(rows, report);
+    checkOutcomes(rows, report);
+}
 
-    void add(char const* code, AxlObj const& place, std::string text)
+void checkCoefficients(AxlObj const& list, CellReport const& report)
+{
+    if (list.cdr()->nil())
+    {
+        report("empty-table", list, "coefficients without an outcome never answer");
+    }
+    for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        AxlObj const& constant = *rest->car()->cdr()->car();
+        bool const isAlone = constant.isNumber() && rest->car()->cdr()->cdr()->nil();
+        if (isAlone && !isProbability(constant.flonum()))
+        {
+            report("out-of-range", constant,
+                   "probability of \"" + std::string(rest->car()->car()->text()) + "\" is " + shown(constant.flonum()) +
+                       " at every range, expected 0 to 1");
+        }
+    }
+}
+
+void checkRows(std::string const& file, CheckedFiles& files, Findings& findings)
+{
+    if (!files.enterRows(file))
+    {
+        return;
+    }
+    CellReport const report = [&](char const* code, AxlObj const& place, std::string text)
     {
         AxDiagnostic finding;
         finding.severity = AxSeverity::Warning;
         finding.code = code;
-        finding.file = myFile;
+        finding.file = file;
         finding.text = std::move(text);
         Source::setPlace(finding, &place);
-        myFindings.add(std::move(finding));
-    }
-
-    std::string myFile;
-    Findings& myFindings;
-};
-} // namespace
-
-void checkRows(std::string const& file, Findings& findings)
-{
-    RowCheck(file, findings).run();
+        findings.add(std::move(finding));
+    };
+    AxSourceScope const scope{AxFilename(file)};
+    files.source(file).forEachList(
+        [&report](AxlObj const& list)
+        {
+            AxlObj const& first = *list.cdr()->car();
+            bool const isDeterminant = list.car()->text() == "range-determinant";
+            if (isDeterminant && first.car()->text() == "range-list")
+            {
+                checkRangeList(first, report);
+            }
+            else if (isDeterminant && first.car()->text() == "coefficients")
+            {
+                checkCoefficients(first, report);
+            }
+            else
+            {
+                checkSurface(list, report);
+                checkElements(list, report);
+            }
+        });
 }

@@ -1,9 +1,28 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 
+class AxlObj;
+class CheckedFiles;
 class Findings;
 
+/// Receives what is odd about a cell.
+using CellReport = std::function<void(char const* code, AxlObj const& place, std::string text)>;
+
+/// The first item `(head ...)` in a list, null when there is none.
+AxlObj const* itemOf(AxlObj const& list, std::string_view head);
+
 /// Reports what is odd in the probability and damage tables of a file, wherever they stand in it: probabilities outside
-/// 0 to 1, rows that are not in ascending order of range, and angles of incidence that an earlier one hides.
-void checkRows(std::string const& file, Findings& findings);
+/// 0 to 1, rows and outcomes that are missing, repeated or out of order, angles of incidence that nothing covers or an
+/// earlier one hides, outcomes of damage that add up to more than 1, elements that others hide. Once for each file.
+void checkRows(std::string const& file, CheckedFiles& files, Findings& findings);
+
+/// Whether a list is a range list or the coefficients of a determinant, and what is odd in it.
+void checkRangeList(AxlObj const& list, CellReport const& report);
+void checkCoefficients(AxlObj const& list, CellReport const& report);
+/// What is odd in the angles of a list, if it is that of a surface.
+void checkSurface(AxlObj const& list, CellReport const& report);
+/// Which elements of a list never answer, if it is a table that is asked by type or munition.
+void checkElements(AxlObj const& list, CellReport const& report);

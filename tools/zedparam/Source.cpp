@@ -88,6 +88,20 @@ AxlObj const* Source::reference(std::string_view variable) const
                    });
 }
 
+AxlObj const* Source::find(std::function<bool(AxlObj const& list)> const& accept) const
+{
+    return firstOf(*myExpression,
+                   [&](AxlObj const& cell) -> AxlObj const*
+                   { return cell.isPair() && accept(cell) ? &cell : nullptr; });
+}
+
+AxlObj const* Source::item(std::string_view head, std::string_view word) const
+{
+    AxlObj const* const list =
+        find([&](AxlObj const& cell) { return cell.car()->text() == head && cell.cdr()->car()->text() == word; });
+    return list != nullptr ? list->cdr()->car() : nullptr;
+}
+
 void Source::forEachList(std::function<void(AxlObj const& list)> const& visit) const
 {
     firstOf(*myExpression,

@@ -35,6 +35,10 @@ public:
     AxlObj const* value(std::span<SourceStep const> path) const;
     /// The first `$variable`, or string with `$(variable)` in it.
     AxlObj const* reference(std::string_view variable) const;
+    /// The first list that `accept` takes, each before those in it.
+    AxlObj const* find(std::function<bool(AxlObj const& list)> const& accept) const;
+    /// The second word of the first `(head word ...)`.
+    AxlObj const* item(std::string_view head, std::string_view word) const;
     /// Shows `visit` every list, each before those in it.
     void forEachList(std::function<void(AxlObj const& list)> const& visit) const;
 

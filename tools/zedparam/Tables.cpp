@@ -9,10 +9,10 @@
 #include "AxRangeProbabilityTable.h"
 #include "AxReaderWriterFile.h"
 #include "AxSourceScope.h"
+#include "CheckedFiles.h"
 #include "Database.h"
-#include "Findings.h"
 #include "Progress.h"
-#include "RowCheck.h"
+#include "RecordCheck.h"
 
 namespace fs = std::filesystem;
 
@@ -45,34 +45,21 @@ std::vector<fs::path> tableFiles(Database const& database)
     return result;
 }
 
-std::size_t checkTables(std::vector<fs::path> const& files, Findings& findings)
+bool checkTable(fs::path const& path, CheckedFiles& files, Findings& findings)
+{
+    std::unique_ptr<AxReaderWriter> const table = newTable(path);
+    bool const isLoaded = loadTable(path.string(), *table);
+    checkContent(path.string(), *table, files, findings);
+    return isLoaded;
+}
+
+std::size_t checkTables(std::vector<fs::path> const& tables, CheckedFiles& files, Findings& findings)
 {
     std::size_t loaded = 0;
-    Progress progress("checking tables", files.size());
-    for (fs::path const& file : files)
+    Progress progress("checking tables", tables.size());
+    for (fs::path const& table : tables)
     {
-        if (file.extension() == ".hit" || file.extension() == ".det")
-        {
-            AxRangeProbabilityTable table("table", nullptr);
-            loaded += loadTable(file.string(), table);
-            checkRows(file.string(), findings);
-        }
-        else if (file.extension() == ".asl")
-        {
-            AxAmmoSelectTable table("table", nullptr);
-            loaded += loadTable(file.string(), table);
-        }
-        else if (file.extension() == ".frm")
-        {
-            AxFormation table("table", nullptr);
-            loaded += loadTable(file.string(), table);
-        }
-        else if (file.extension() == ".dmg")
-        {
-            AxDmgSurfaceTable table("table", nullptr);
-            loaded += loadTable(file.string(), table);
-            checkRows(file.string(), findings);
-        }
+        loaded += newTable(table) != nullptr && checkTable(table, files, findings);
         progress.step();
     }
     return loaded;

@@ -1,0 +1,95 @@
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "AxEntityType.h"
+#include "AxSimMunition.h"
+#include "AxlObj.h"
+#include "RowCheck.h"
+
+namespace
+{
+/// The type that an element is asked by; false for one that has none, or one that is not a row of plain numbers.
+bool typeOf(AxlObj const& element, AxEntityType& type)
+{
+    AxlObj const* const entity = itemOf(element, "entity-type");
+    AxlObj const* const item = entity != nullptr ? entity : itemOf(element, "target-type");
+    AxEntityType::Fields fields{};
+    AxlObj const* number = item != nullptr ? item->cdr() : AxlObj::nilCell();
+    for (std::int32_t& field : fields)
+    {
+        if (!number->car()->isInteger())
+        {
+            return false;
+        }
+        field = static_cast<std::int32_t>(number->car()->flonum());
+        number = number->cdr();
+    }
+    type = AxEntityType(fields);
+    return true;
+}
+
+bool isPattern(AxEntityType const& type)
+{
+    return std::ranges::find(type.fields(), AxEntityType::theWildcard) != type.fields().end();
+}
+
+bool isPattern(AxObjectType const& type)
+{
+    return std::ranges::find(type.fields(), AxObjectType::theWildcard) != type.fields().end();
+}
+
+/// Of elements that are asked in file order, an exact one before every pattern and of patterns the last that fits: an
+/// exact one is hidden by its like before it, a pattern by a later one that covers it.
+template <class Key, class IsPattern, class Covers>
+void checkHidden(std::vector<std::pair<Key, AxlObj const*>> const& elements, IsPattern const& isPatternOf,
+                 Covers const& covers, CellReport const& report)
+{
+    for (auto element = elements.begin(); element != elements.end(); ++element)
+    {
+        auto const& key = element->first;
+        auto const hides = [&](auto const& other)
+        { return isPatternOf(key) ? covers(other.first, key) : other.first == key; };
+        bool const isPatternElement = isPatternOf(key);
+        auto const begin = isPatternElement ? std::next(element) : elements.begin();
+        auto const end = isPatternElement ? elements.end() : element;
+        auto const hiding = std::find_if(begin, end, hides);
+        if (hiding != end)
+        {
+            report("hidden-entry", *element->second,
+                   "never answers: the element in line " + std::to_string(hiding->second->line()) +
+                       (isPatternElement ? " covers all its types and stands behind it" : " has its type"));
+        }
+    }
+}
+} // namespace
+
+void checkElements(AxlObj const& list, CellReport const& report)
+{
+    std::vector<std::pair<AxEntityType, AxlObj const*>> byType;
+    std::vector<std::pair<AxSimMunition, AxlObj const*>> byMunition;
+    for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        AxlObj const& element = *rest->car();
+        std::string_view const head = element.car()->text();
+        AxEntityType type;
+        if ((head == "entity-range" || head == "ammo-select" || head == "entity-priority") && typeOf(element, type))
+        {
+            byType.emplace_back(type, &element);
+        }
+        AxlObj const* const munition = head == "ammo-entry" ? itemOf(element, "ammo") : nullptr;
+        if (munition != nullptr)
+        {
+            byMunition.emplace_back(AxSimMunition(), &element);
+            byMunition.back().first.getSelf(AxlObjPtr(munition), {}, {});
+        }
+    }
+    checkHidden(
+        byType, [](AxEntityType const& type) { return isPattern(type); },
+        [](AxEntityType const& pattern, AxEntityType const& type) { return type.matchPattern(pattern); }, report);
+    checkHidden(
+        byMunition, [](AxSimMunition const& munition) { return isPattern(munition.munitionType()); },
+        [](AxSimMunition const& pattern, AxSimMunition const& munition) { return pattern.matchPattern(munition); },
+        report);
+}

@@ -1,0 +1,125 @@
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "AxNumberText.h"
+#include "AxPrbProbabilityCoefficients.h"
+#include "AxlObj.h"
+#include "RowCheck.h"
+
+namespace
+{
+/// What rounding in the text may add.
+constexpr double theLargestSum = 1.0 + 1e-6;
+/// Degrees between the shot and what stands upright on the surface.
+constexpr double theGrazingAngle = 90.0;
+
+std::string shown(double value)
+{
+    std::string text;
+    axAppendReal(text, value);
+    return text;
+}
+
+/// Without the traces of binary fractions.
+std::string shownSum(double sum)
+{
+    constexpr double places = 1e6;
+    return shown(std::round(sum * places) / places);
+}
+
+/// Adds up the outcomes of each row.
+void checkSumsOfRows(AxlObj const& rangeList, CellReport const& report)
+{
+    for (AxlObj const* rest = rangeList.cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        AxlObj const& range = *rest->car()->cdr()->car();
+        double sum = 0.0;
+        for (AxlObj const* outcome = rest->car()->cdr()->cdr(); outcome->isPair(); outcome = outcome->cdr())
+        {
+            sum += std::clamp(outcome->car()->cdr()->car()->flonum(), 0.0, 1.0);
+        }
+        if (sum > theLargestSum)
+        {
+            report("sum-above-one", range,
+                   "the outcomes at " + shown(range.flonum()) + " m add up to " + shownSum(sum));
+        }
+    }
+}
+
+/// Adds the polynomials up at the target and, in steps that grow with the range, around it; tells the first too great.
+void checkSumOfPolynomials(AxlObj const& coefficients, CellReport const& report)
+{
+    std::vector<AxPrbProbabilityCoefficients> polynomials;
+    for (AxlObj const* rest = coefficients.cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        std::vector<double> numbers;
+        for (AxlObj const* number = rest->car()->cdr(); number->isPair(); number = number->cdr())
+        {
+            numbers.push_back(number->car()->flonum());
+        }
+        polynomials.emplace_back("outcome", nullptr);
+        polynomials.back().setCoefficients(static_cast<int>(numbers.size()), numbers.data());
+    }
+    constexpr double closest = 0.1;
+    constexpr double farthest = 1e5;
+    constexpr double growth = 1.1;
+    for (double range = 0.0; range < farthest; range = std::max(closest, range * growth))
+    {
+        double sum = 0.0;
+        for (AxPrbProbabilityCoefficients const& polynomial : polynomials)
+        {
+            sum += polynomial.probability(range);
+        }
+        if (sum > theLargestSum)
+        {
+            report("sum-above-one", coefficients, "the outcomes at " + shown(range) + " m add up to " + shownSum(sum));
+            return;
+        }
+    }
+}
+
+void checkSums(AxlObj const& angle, CellReport const& report)
+{
+    AxlObj const* const determinant = itemOf(angle, "range-determinant");
+    AxlObj const* const source = determinant != nullptr ? determinant->cdr()->car() : &angle;
+    if (source->car()->text() == "range-list")
+    {
+        checkSumsOfRows(*source, report);
+    }
+    else if (source->car()->text() == "coefficients")
+    {
+        checkSumOfPolynomials(*source, report);
+    }
+}
+} // namespace
+
+void checkSurface(AxlObj const& list, CellReport const& report)
+{
+    AxlObj const* largest = nullptr;
+    for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        AxlObj const& item = *rest->car();
+        AxlObj const* const given = item.car()->text() == "angle-of-incidence" ? itemOf(item, "angle") : nullptr;
+        AxlObj const* const angle = given != nullptr ? given->cdr()->car() : nullptr;
+        if (angle == nullptr || !angle->isNumber())
+        {
+            continue;
+        }
+        checkSums(item, report);
+        if (largest != nullptr && angle->flonum() <= largest->flonum())
+        {
+            report("out-of-order", *angle,
+                   "the angle " + shown(angle->flonum()) + " stands behind " + shown(largest->flonum()) +
+                       " and is never reached");
+            continue;
+        }
+        largest = angle;
+    }
+    if (largest != nullptr && largest->flonum() < theGrazingAngle)
+    {
+        report("uncovered-angle", *largest,
+               '"' + std::string(list.car()->text()) + "\" has no answer for angles above " + shown(largest->flonum()) +
+                   ", expected up to " + shown(theGrazingAngle));
+    }
+}
