@@ -12,8 +12,8 @@
 #include "CheckedFiles.h"
 #include "Database.h"
 #include "EntryCheck.h"
-#include "Findings.h"
 #include "FindingPlaces.h"
+#include "Findings.h"
 #include "Progress.h"
 #include "RecordCheck.h"
 #include "Tables.h"
@@ -142,12 +142,12 @@ double processorSeconds()
 
 Checked checkDatabase(std::string const& file, Findings& findings)
 {
-    std::vector<EntryCheck::Entry> listed;
-    std::unique_ptr<Database> const database = Database::open(file, std::make_unique<EntryCheck>(listed));
+    std::vector<ReadEntry> read;
+    std::unique_ptr<Database> const database = Database::open(file, std::make_unique<EntryReader>(read));
     if (database == nullptr)
     {
         return {};
     }
-    EntryCheck::check(file, std::move(listed), findings);
+    checkEntries(std::move(read), findings);
     return DatabaseCheck(file, *database, findings).run();
 }

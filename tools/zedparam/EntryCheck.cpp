@@ -4,26 +4,27 @@
 #include <utility>
 
 #include "AxDiagnostic.h"
-#include "AxSxpParameterDbFileEntry.h"
 #include "AxZedXmlUtils.h"
 #include "Findings.h"
-#include "ShownPath.h"
 
 namespace
 {
-using Entry = EntryCheck::Entry;
+bool isListed(ReadEntry const& entry)
+{
+    return !entry.place.file.empty();
+}
 
 /// A warning at an entry: where it is listed, or at the element of its type.
-AxDiagnostic warningAt(std::string const& database, Entry const& entry, char const* code, std::string text)
+AxDiagnostic warningAt(ReadEntry const& entry, char const* code, std::string text)
 {
     AxDiagnostic finding;
     finding.severity = AxSeverity::Warning;
     finding.code = code;
-    finding.file = entry.file.empty() ? database : entry.file;
-    finding.line = entry.line;
-    finding.column = entry.column;
+    finding.file = isListed(entry) ? entry.place.file : entry.file;
+    finding.line = entry.place.line;
+    finding.column = entry.place.column;
     finding.text = std::move(text);
-    if (!entry.file.empty())
+    if (!isListed(entry))
     {
         AxEnvironmentPtr const tree = AxZedXmlUtils::CreateZedXmlEnvironment(AxFilename(entry.file), false);
         AxEnvValuePtr const element = entry.isMatchType
@@ -35,19 +36,19 @@ AxDiagnostic warningAt(std::string const& database, Entry const& entry, char con
     return finding;
 }
 
-std::string placeOf(Entry const& entry)
+std::string placeOf(ReadEntry const& entry)
 {
-    return entry.file.empty() ? "in line " + std::to_string(entry.line) : "in " + shownPath(entry.file);
+    return isListed(entry) ? "in line " + std::to_string(entry.place.line) : "in " + entry.file;
 }
 
 /// Two entries of one type, the earlier first. Within one entity file it was told when that was read.
-void reportRepeated(std::string const& database, Entry const& earlier, Entry const& later, Findings& findings)
+void reportRepeated(ReadEntry const& earlier, ReadEntry const& later, Findings& findings)
 {
-    bool const isTold = !later.file.empty() && later.file == earlier.file && !later.isMatchType;
+    bool const isTold = !isListed(later) && !isListed(earlier) && later.file == earlier.file && !later.isMatchType;
     bool const isKept = later.isMatchType && !earlier.isMatchType;
     if (!isTold)
     {
-        findings.add(warningAt(database, later, "repeated-type",
+        findings.add(warningAt(later, "repeated-type",
                                "the type " + later.type.string().string() + " has an entry " + placeOf(earlier) +
                                    " already; " + (isKept ? "that one answers" : "this one answers instead")));
     }
@@ -60,32 +61,22 @@ bool canBeAsked(AxObjectType const& type)
 }
 } // namespace
 
-EntryCheck::~EntryCheck() = default;
-
-void EntryCheck::entryAddedFor(AxSxpParameterDbFileEntry* fileEntry, AxSxpParameterDbEntry*)
+void checkEntries(std::vector<ReadEntry> entries, Findings& findings)
 {
-    bool const isListed = fileEntry->line() != 0;
-    myEntries.push_back({fileEntry->objectType(), fileEntry->typeIsMatchType(),
-                         isListed ? std::string() : fileEntry->filename().native(), fileEntry->line(),
-                         fileEntry->column()});
-}
-
-void EntryCheck::check(std::string const& database, std::vector<Entry> entries, Findings& findings)
-{
-    for (Entry const& entry : entries)
+    for (ReadEntry const& entry : entries)
     {
         if (!canBeAsked(entry.type))
         {
-            findings.add(warningAt(database, entry, "hidden-entry",
+            findings.add(warningAt(entry, "hidden-entry",
                                    "never answers: no object has the type " + entry.type.string().string()));
         }
     }
-    std::ranges::stable_sort(entries, {}, &Entry::type);
+    std::ranges::stable_sort(entries, {}, &ReadEntry::type);
     for (std::size_t i = 1; i < entries.size(); ++i)
     {
         if (entries[i].type == entries[i - 1].type)
         {
-            reportRepeated(database, entries[i - 1], entries[i], findings);
+            reportRepeated(entries[i - 1], entries[i], findings);
         }
     }
 }
