@@ -13,12 +13,12 @@
 
 #include "AxZedObjectParameters.h"
 #include "Database.h"
+#include "DatabaseCheck.h"
 #include "Dot.h"
 #include "Findings.h"
 #include "Json.h"
 #include "Markup.h"
 #include "Progress.h"
-#include "RecordCheck.h"
 #include "ReportPage.h"
 #include "ReportRecord.h"
 #include "ReportTable.h"
@@ -146,17 +146,7 @@ private:
     void check()
     {
         Findings findings(Findings::Print::Never);
-        Progress progress("checking records", myEntries.size());
-        for (ReportEntry const& entry : myEntries)
-        {
-            LentRecord const record(myDatabase, *entry.entry);
-            if (record.get() != nullptr)
-            {
-                checkRecord(entry.file, *record.get(), findings);
-            }
-            progress.step();
-        }
-        checkTables(tableFiles(myDatabase), findings);
+        checkDatabase(myFile, findings);
         myFindings = findings.sorted();
         myFolder.setFindings(myFindings.size());
     }
