@@ -16,6 +16,28 @@
 
 namespace fs = std::filesystem;
 
+std::unique_ptr<AxReaderWriter> newTable(fs::path const& file)
+{
+    std::string const extension = file.extension().string();
+    if (extension == ".hit" || extension == ".det")
+    {
+        return std::make_unique<AxRangeProbabilityTable>("table", nullptr);
+    }
+    if (extension == ".asl")
+    {
+        return std::make_unique<AxAmmoSelectTable>("table", nullptr);
+    }
+    if (extension == ".frm")
+    {
+        return std::make_unique<AxFormation>("table", nullptr);
+    }
+    if (extension == ".dmg")
+    {
+        return std::make_unique<AxDmgSurfaceTable>("table", nullptr);
+    }
+    return nullptr;
+}
+
 bool loadTable(std::string const& path, AxReaderWriter& table)
 {
     AxReaderWriterFile file("table-file", nullptr);
