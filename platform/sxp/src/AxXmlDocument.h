@@ -59,6 +59,8 @@ public:
     static Ptr const& sourceOf(AxEnvObject const& object, std::uint32_t& node);
     /// An attribute of an object, told without making its parts; false when it is absent.
     static bool attributeOf(AxEnvObject const& object, std::string_view name, AxString& text, Place& place);
+    /// A node of its own, outside of the tree.
+    static AxEnvValuePtr made(Ptr const& document, std::uint32_t node);
     /// Makes what the object consists of.
     static void expand(AxEnvObject& object, Ptr const& document, std::uint32_t node);
 
@@ -100,8 +102,6 @@ private:
 
     std::string_view textAt(std::uint32_t begin, std::uint32_t size) const { return {myText.data() + begin, size}; }
     Place placeAt(std::uint32_t offset) const;
-    static AxEnvValuePtr made(Ptr const& document, std::uint32_t node);
-
     std::string myText;
     std::vector<Node> myNodes; // one more at the end, where the attributes of the last end
     std::vector<Attribute> myAttributes;

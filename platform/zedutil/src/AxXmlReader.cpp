@@ -1,22 +1,13 @@
 #include "AxXmlReader.h"
 
-#include "AxNumberText.h"
 #include "AxReadFrame.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRegistryShape.h"
-#include "AxRwBoolean.h"
-#include "AxRwInt.h"
 #include "AxRwList.h"
-#include "AxRwObjectType.h"
-#include "AxRwReal.h"
-#include "AxRwString.h"
-#include "AxRwUnsigned.h"
-#include "AxRwVector.h"
 #include "AxTreeCells.h"
+#include "AxXmlValue.h"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
 
 namespace
 {
@@ -27,72 +18,20 @@ constexpr std::string_view theName = "name";
 constexpr std::string_view theValue = "value";
 constexpr std::string_view theVariable = "variable";
 constexpr std::string_view theType = "type";
+/// What a record brings along to be used in all its items, those in front included.
+constexpr std::string_view theBindings = "variable-bindings";
 
-bool isDigit(char byte)
+/// Whether an item that stands as text is to be read elsewhere, or used elsewhere.
+bool isOutOfOrder(Document const& document, std::uint32_t node)
 {
-    return static_cast<unsigned char>(byte - '0') < 10;
-}
-
-bool isLetter(char byte)
-{
-    return static_cast<unsigned char>((byte | ' ') - 'a') < 26;
-}
-
-/// A word that is a string in every reading of an attribute.
-bool isPlainWord(std::string_view text)
-{
-    return !text.empty() && isLetter(text.front()) && text != "inf" && text != "nan" &&
-           std::all_of(text.begin(), text.end(),
-                       [](char byte) { return isLetter(byte) || isDigit(byte) || byte == '-' || byte == '_'; });
-}
-
-/// Whether an attribute may be anything but the literal text that it looks like.
-bool mayRefer(std::string_view text)
-{
-    return !text.empty() && (text.front() == '$' || text.find("$(") != std::string_view::npos);
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    while (text.starts_with(' '))
+    std::uint32_t const text = node + 1;
+    if (document.node(node).next > text && document.text(document.node(text)).find(theBindings) != std::string::npos)
     {
-        text.remove_prefix(1);
+        return true;
     }
-    while (text.ends_with(' '))
-    {
-        text.remove_suffix(1);
-    }
-    return text;
-}
-
-/// Plain decimal digits, few enough to be exact however they are read.
-bool wholeOf(std::string_view text, long long low, long long& value)
-{
-    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc() && end == text.data() + text.size() && text.size() < 10 && value >= low;
-}
-
-bool realsOf(std::string_view text, double (&values)[3])
-{
-    for (double& value : values)
-    {
-        text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-        std::string_view const word = text.substr(0, text.find(' '));
-        if (word.empty() || !(isDigit(word.front()) || word.front() == '-') || !axParseReal(word, value))
-        {
-            return false;
-        }
-        text.remove_prefix(word.size());
-    }
-    return text.find_first_not_of(' ') == std::string_view::npos;
-}
-
-bool objectTypeOf(std::string_view text, AxObjectType& type)
-{
-    bool const isPlain =
-        text.find(':') != std::string_view::npos &&
-        std::all_of(text.begin(), text.end(), [](char byte) { return isDigit(byte) || byte == ':' || byte == '-'; });
-    return isPlain && AxObjectType::fromString(text, type);
+    Document::Attribute const* const end = document.attributesEnd(node);
+    return std::any_of(document.attributesBegin(node), end,
+                       [&](Document::Attribute const& one) { return document.name(one) == "after"; });
 }
 
 std::size_t placeOf(AxRegistryTable const& table, std::string_view keyword)
@@ -107,6 +46,19 @@ AxlCellPool::Place cellPlace(Document::Place place)
 }
 } // namespace
 
+/// An attribute or child of a record.
+struct AxXmlReader::Item
+{
+    Attribute const* attribute; ///< null for a child
+    std::uint32_t node;
+    std::uint32_t position;
+    std::size_t place;  ///< of the member that has its keyword, or none
+    bool leads = false; ///< it comes before those that do not
+    bool isTaken = false;
+    bool isOffered = false; ///< to the class, which did not take it
+    AxlObjPtr cell{};       ///< made when it is needed
+};
+
 /// A record whose items are being read.
 struct AxXmlReader::Record
 {
@@ -120,11 +72,9 @@ struct AxXmlReader::Record
     AxFilenameList const& files;
     AxBindingsList const* bindings;
     AxBindingsList extended{};
-    std::size_t index = 0;
+    std::vector<Item> items{};
 
     auto* ownItem() const { return info.ops ? info.ops->ownItem : nullptr; }
-    /// Whether the item to come is the type item of a class that has one.
-    bool isAtLead() const { return index == 0 && ownItem() && info.ops->leadHead; }
     bool wasSeen(std::size_t place) const { return (frame.few[place / 64] >> (place % 64) & 1U) != 0; }
     static bool isNoted(std::size_t place) { return place < 256; }
     void note(std::size_t place)
@@ -163,7 +113,6 @@ AxXmlReader::AxXmlReader(AxEnvObjectPtr const& object) : myRoot{0}
 {
     myDocument = Document::sourceOf(*object, myRoot.node);
     myRoot.head = AxSymbolString(object->name());
-    myRoot.object = object;
     if (!myDocument)
     {
         return;
@@ -194,8 +143,11 @@ void AxXmlReader::readListElement(AxReaderWriter& rw, AxFilenameList const& file
     Element const& element = *myElement;
     if (!readElement(rw, element, files, bindings))
     {
-        noteOdd(element);
-        rw.getSelf(AxTreeCells::expression(*objectOf(element), element.head, element.guide), files, bindings);
+        rw.getSelf(elementCells(), files, bindings);
+        if (isOdd(rw, element.node))
+        {
+            noteOdd(element);
+        }
     }
 }
 
@@ -208,46 +160,82 @@ void AxXmlReader::locateElement(std::uint32_t& line, std::uint32_t& column) cons
 
 AxlObjPtr AxXmlReader::elementCells() const
 {
-    return AxTreeCells::expression(*objectOf(*myElement), myElement->head, myElement->guide);
+    AxEnvValuePtr const node = Document::made(myDocument, myElement->node);
+    return AxTreeCells::expression(static_cast<AxEnvObject const&>(*node), myElement->head, myElement->guide);
 }
 
 std::string_view AxXmlReader::elementHead() const
 {
     std::string_view const head = myElement->head.view();
-    return myElement->head.isBareWord() && isPlainWord(head) ? head : std::string_view();
+    return myElement->head.isBareWord() && AxXmlValue::isPlainWord(head) ? head : std::string_view();
 }
 
 std::string_view AxXmlReader::elementType(std::string_view wanted) const
 {
     std::uint32_t const node = myElement->node;
+    Attribute const* const begin = myDocument->attributesBegin(node);
     Attribute const* const end = myDocument->attributesEnd(node);
-    for (Attribute const* one = myDocument->attributesBegin(node); one != end; ++one)
+    AxReaderWriter const* const guide = myElement->guide;
+    // These come before all else.
+    bool const hasForm = std::any_of(begin, end,
+                                     [this](Attribute const& one)
+                                     {
+                                         std::string_view const keyword = myDocument->name(one);
+                                         return keyword == theValue || keyword == theVariable;
+                                     });
+    if (hasForm || myDocument->tag(node) == "property" || (guide && (guide->isValue() || guide->property())))
+    {
+        return {};
+    }
+    for (Attribute const* one = begin; one != end; ++one)
     {
         std::string_view const keyword = myDocument->name(*one);
-        if (keyword == theValue || keyword == theVariable)
-        {
-            return {};
-        }
-        bool const isGuided = myElement->guide && AxTreeCells::memberFor(myElement->guide, AxString(keyword));
-        if (keyword == theName || keyword == theType || isGuided || (!myElement->guide && !keyword.ends_with("-type")))
+        bool const isGuided = guide && AxTreeCells::memberFor(guide, AxString(keyword));
+        if (keyword == theName || keyword == theType || isGuided || (!guide && !keyword.ends_with("-type")))
         {
             continue;
         }
         std::string_view const text = myDocument->rawValue(*one);
         bool const isWanted = wanted.empty() || keyword == wanted;
-        return isWanted && isPlainWord(text) ? text : std::string_view();
+        return isWanted && AxXmlValue::isPlainWord(text) ? text : std::string_view();
     }
     return {};
 }
 
-AxEnvObjectPtr const& AxXmlReader::objectOf(Element const& element) const
+/// The item of a child, by way of a node for it alone.
+AxlObjPtr AxXmlReader::cellOf(Element const& parent, std::uint32_t node) const
 {
-    if (!element.object)
+    AxEnvObject const shell{AxString(myDocument->tag(parent.node))}; // only the tag of a parent is looked at
+    return AxTreeCells::childItem(*Document::made(myDocument, node), shell, parent.guide);
+}
+
+/// Whether an object that was read from cells may differ from its node, so that the two must be compared.
+bool AxXmlReader::isOdd(AxReaderWriter const& rw, std::uint32_t node) const
+{
+    Document const& document = *myDocument;
+    if (rw.isValue() || rw.property())
     {
-        element.object =
-            boost::static_pointer_cast<AxEnvObject>(objectOf(*element.outer)->children()[element.position]);
+        return false;
     }
-    return element.object;
+    if (rw.flag(AxReaderWriter::KeepsItems) || AxReaderWriterFactory::typeInfo(rw).readsTrees)
+    {
+        return true;
+    }
+    std::uint32_t const next = document.node(node).next;
+    for (std::uint32_t child = node + 1; child < next; child = document.node(child).next)
+    {
+        Attribute const* const name = document.node(child).kind == Kind::Element ? document.nameOf(child) : nullptr;
+        if (!name || name->isCoded || name->valueSize == 0 || rw.flag(AxReaderWriter::List))
+        {
+            return true;
+        }
+        AxReaderWriter const* const member = AxTreeCells::memberFor(&rw, AxString(document.rawValue(*name)));
+        if (member && document.tag(child) != AxTreeCells::theTextTag && isOdd(*member, child))
+        {
+            return true;
+        }
+    }
+    return false;
 }
 
 void AxXmlReader::noteOdd(Element const& element)
@@ -316,7 +304,7 @@ bool AxXmlReader::isUsual(AxReaderWriter const& rw, Element const& element, bool
          ++one)
     {
         std::string_view const keyword = document.name(*one);
-        bool const isForm = keyword == theValue || keyword == theVariable;
+        bool const isForm = keyword == theValue || keyword == theVariable || keyword == theBindings;
         bool const isOther = keyword != theName && !(keyword == theType && tag == AxTreeCells::theAnyTag);
         if (isForm || (isList && isOther))
         {
@@ -331,13 +319,38 @@ bool AxXmlReader::isUsual(AxReaderWriter const& rw, Element const& element, bool
             continue;
         }
         Attribute const* const name = document.nameOf(child);
-        if (document.tag(child) == AxTreeCells::theTextTag ||
-            (name && (name->isCoded || document.rawValue(*name).starts_with('$'))))
+        bool const isText = document.tag(child) == AxTreeCells::theTextTag;
+        std::string_view const keyword = name ? document.rawValue(*name) : document.tag(child);
+        if ((isText && (isList || isOutOfOrder(document, child))) || keyword == theBindings ||
+            (name && (name->isCoded || keyword.starts_with('$'))))
         {
             return false;
         }
     }
-    return true;
+    AxTypeOps const* const ops = isList ? nullptr : AxReaderWriterFactory::typeInfo(rw).ops;
+    return !ops || !ops->ownItem || !ops->leadHead || hasLead(rw, element, ops->leadHead);
+}
+
+/// Whether the first of the items is the type item, in its usual form.
+bool AxXmlReader::hasLead(AxReaderWriter const& rw, Element const& element, std::string_view head) const
+{
+    Attribute const* const end = myDocument->attributesEnd(element.node);
+    for (Attribute const* one = myDocument->attributesBegin(element.node); one != end; ++one)
+    {
+        std::string_view const keyword = myDocument->name(*one);
+        if (keyword == head)
+        {
+            return (element.guide == &rw || !element.guide) && head.ends_with("-type") && !one->isCoded &&
+                   AxXmlValue::isPlainWord(myDocument->rawValue(*one)) && !AxTreeCells::memberFor(&rw, AxString(head));
+        }
+        bool const isMember = !element.guide ? !keyword.ends_with("-type")
+                                             : AxTreeCells::memberFor(element.guide, AxString(keyword)) != nullptr;
+        if (keyword != theName && !isMember)
+        {
+            return false;
+        }
+    }
+    return false;
 }
 
 bool AxXmlReader::readElement(AxReaderWriter& rw, Element const& element, AxFilenameList const& files,
@@ -417,8 +430,7 @@ void AxXmlReader::readElements(AxRwList& list, Element const& element, AxFilenam
         if (!isRead)
         {
             noteOdd(child);
-            AxlObjPtr const cell = AxTreeCells::childItem(*objectOf(child), *objectOf(element), element.guide);
-            list.readElement(cell.get(), frame, files, bindings);
+            list.readElement(cellOf(element, node).get(), frame, files, bindings);
         }
     }
 }
@@ -447,38 +459,39 @@ void AxXmlReader::readItems(AxReaderWriter& rw, Element const& element, AxFilena
                          AxReaderWriterFactory::functionsOf(rw) == AxReaderWriterFactory::functionsOf(*element.guide));
     Record record{rw,     element, frame,    AxReaderWriterFactory::typeInfo(rw), registry, registry.table(),
                   isSame, files,   &bindings};
-    readAttributes(record);
-    Document const& document = *myDocument;
-    std::uint32_t const next = document.node(element.node).next;
-    std::uint32_t position = 0;
-    for (std::uint32_t node = element.node + 1; node < next; node = document.node(node).next, ++position)
+    addAttributes(record);
+    addChildren(record);
+    offerItems(record);
+    for (Item& item : record.items)
     {
-        if (document.node(node).kind != Kind::Element)
+        if (item.isTaken)
         {
-            noteOdd(element);
             continue;
         }
-        readChild(record, node, position);
+        if (item.attribute)
+        {
+            readAttribute(record, item);
+        }
+        else
+        {
+            readChild(record, item);
+        }
     }
 }
 
 /// What a data hook takes comes before the members.
-void AxXmlReader::readAttributes(Record& record)
+void AxXmlReader::addAttributes(Record& record) const
 {
     constexpr std::size_t none = AxRegistryTable::none;
-    struct Plan
-    {
-        Attribute const* attribute;
-        std::size_t place;
-        bool leads;
-    };
     Document const& document = *myDocument;
+    std::uint32_t const node = record.element.node;
     auto const& slots = record.table.slots;
-    bool const isAny = document.tag(record.element.node) == AxTreeCells::theAnyTag;
+    bool const isAny = document.tag(node) == AxTreeCells::theAnyTag;
     std::size_t expected = 0;
-    Attribute const* const end = document.attributesEnd(record.element.node);
-    std::vector<Plan> plans;
-    for (Attribute const* one = document.attributesBegin(record.element.node); one != end; ++one)
+    bool anyLeads = false;
+    Attribute const* const end = document.attributesEnd(node);
+    record.items.reserve(static_cast<std::size_t>(end - document.attributesBegin(node)) + 8);
+    for (Attribute const* one = document.attributesBegin(node); one != end; ++one)
     {
         std::string_view const keyword = document.name(*one);
         if (keyword == theName || (isAny && keyword == theType))
@@ -497,168 +510,144 @@ void AxXmlReader::readAttributes(Record& record)
         }
         place = place != none ? place : placeOf(record.table, keyword);
         expected = place != none ? place + 1 : expected;
-        plans.push_back({one, place, record.leads(keyword, place)});
+        bool const leads = record.leads(keyword, place);
+        anyLeads = anyLeads || leads;
+        record.items.push_back({one, node, 0, place, leads});
     }
-    for (bool const leads : {true, false})
+    if (anyLeads)
     {
-        for (Plan const& plan : plans)
+        std::stable_partition(record.items.begin(), record.items.end(), [](Item const& item) { return item.leads; });
+    }
+}
+
+void AxXmlReader::addChildren(Record& record)
+{
+    Document const& document = *myDocument;
+    std::uint32_t const next = document.node(record.element.node).next;
+    std::uint32_t position = 0;
+    for (std::uint32_t node = record.element.node + 1; node < next; node = document.node(node).next, ++position)
+    {
+        if (document.node(node).kind != Kind::Element)
         {
-            if (plan.leads == leads)
-            {
-                readAttribute(record, *plan.attribute, plan.place);
-            }
+            noteOdd(record.element);
+            continue;
+        }
+        Attribute const* const name = document.nameOf(node); // not coded
+        std::string_view const keyword = name ? document.rawValue(*name) : document.tag(node);
+        bool const isText = document.tag(node) == AxTreeCells::theTextTag;
+        record.items.push_back(
+            {nullptr, node, position, isText ? AxRegistryTable::none : placeOf(record.table, keyword)});
+    }
+}
+
+/// A class takes its own items before any member is read.
+void AxXmlReader::offerItems(Record& record)
+{
+    auto* const ownItem = record.ownItem();
+    if (!ownItem)
+    {
+        return;
+    }
+    std::size_t index = 0;
+    if (record.info.ops->leadHead)
+    {
+        record.items[index++].isTaken = true; // as `hasLead` found
+    }
+    for (; index < record.items.size(); ++index)
+    {
+        Item& item = record.items[index];
+        if (item.place == AxRegistryTable::none)
+        {
+            makeCell(record, item);
+            item.isTaken = !item.cell.nil() && offer(record, item, index);
         }
     }
 }
 
-void AxXmlReader::readAttribute(Record& record, Attribute const& attribute, std::size_t place)
+bool AxXmlReader::offer(Record& record, Item& item, std::size_t index)
 {
-    Document const& document = *myDocument;
-    std::string_view const keyword = document.name(attribute);
-    if (record.isAtLead() && keyword == record.info.ops->leadHead && !attribute.isCoded &&
-        isPlainWord(document.rawValue(attribute)))
+    if (record.bindings != &record.extended)
     {
-        ++record.index;
+        record.extended = *record.bindings;
+        record.bindings = &record.extended;
+    }
+    item.isOffered = true;
+    return record.ownItem()(record.rw, item.cell.get(), index, record.extended);
+}
+
+void AxXmlReader::makeCell(Record const& record, Item& item) const
+{
+    if (!item.cell.nil())
+    {
         return;
     }
-    if (place != AxRegistryTable::none && !record.isAtLead() && Record::isNoted(place) && !record.wasSeen(place) &&
-        (record.isOwnGuide || !record.element.guide))
+    Document const& document = *myDocument;
+    if (!item.attribute)
+    {
+        item.cell = cellOf(record.element, item.node);
+        return;
+    }
+    std::string_view const keyword = document.name(*item.attribute);
+    item.cell = AxTreeCells::attributeItem(AxSymbolString(keyword), document.value(*item.attribute),
+                                           cellPlace(document.placeOf(*item.attribute)), record.guided(keyword));
+}
+
+void AxXmlReader::readAttribute(Record& record, Item& item)
+{
+    std::size_t const place = item.place;
+    if (place != AxRegistryTable::none && Record::isNoted(place) && !record.wasSeen(place) &&
+        (record.isOwnGuide || !record.element.guide) && !item.attribute->isCoded)
     {
         AxRegistryTable::Slot const& slot = record.table.slots[place];
         AxReaderWriter& member = *record.registry.at(slot.distance);
-        if (readScalar(member, slot.readingOf(member), attribute, record.isOwnGuide))
+        if (AxXmlValue::readAttribute(member, slot.readingOf(member), myDocument->rawValue(*item.attribute),
+                                      record.isOwnGuide))
         {
             record.note(place);
-            ++record.index;
             return;
         }
     }
-    readCell(record, AxTreeCells::attributeItem(AxSymbolString(keyword), document.value(attribute),
-                                                cellPlace(document.placeOf(attribute)), record.guided(keyword)));
+    readCell(record, item);
 }
 
-void AxXmlReader::readCell(Record& record, AxlObjPtr const& cell)
+void AxXmlReader::readCell(Record& record, Item& item)
 {
-    std::size_t const index = record.index++;
-    if (auto* const ownItem = record.ownItem())
+    makeCell(record, item);
+    if (item.cell.nil() || (record.ownItem() && !item.isOffered && offer(record, item, 1)))
     {
-        if (record.bindings != &record.extended)
-        {
-            record.extended = *record.bindings;
-            record.bindings = &record.extended;
-        }
-        if (ownItem(record.rw, cell.get(), index, record.extended))
-        {
-            return;
-        }
-    }
-    record.rw.readItem(cell.get(), record.frame, record.files, *record.bindings);
-}
-
-bool AxXmlReader::readScalar(AxReaderWriter& member, Reading reading, Attribute const& attribute, bool isGuided)
-{
-    std::string_view const text = myDocument->rawValue(attribute);
-    if (attribute.isCoded || mayRefer(text))
-    {
-        return false;
-    }
-    // Only what is to be a number is freed of its blanks.
-    std::string_view const word = isGuided ? trimmed(text) : text;
-    long long whole = 0;
-    switch (reading)
-    {
-    case Reading::Real:
-    {
-        double value = 0.0;
-        if (!axParseReal(word, value))
-        {
-            return false;
-        }
-        static_cast<AxRwReal&>(member).takeRead(std::move(value));
-        return true;
-    }
-    case Reading::Int:
-        if (!wholeOf(word, std::numeric_limits<int>::min(), whole))
-        {
-            return false;
-        }
-        static_cast<AxRwInt&>(member).takeRead(static_cast<int>(whole));
-        return true;
-    case Reading::Unsigned:
-        if (!wholeOf(word, 0, whole))
-        {
-            return false;
-        }
-        static_cast<AxRwUnsigned&>(member).takeRead(static_cast<unsigned>(whole));
-        return true;
-    case Reading::Boolean:
-    {
-        bool const value = text == "true" || text == "True";
-        if (!value && text != "false" && text != "False")
-        {
-            return false;
-        }
-        static_cast<AxRwBoolean&>(member).takeRead(bool(value));
-        return true;
-    }
-    case Reading::String:
-        if (!isGuided && !text.empty() && !isLetter(text.front()))
-        {
-            return false; // it may be a number
-        }
-        if (!isGuided && (text == "inf" || text == "nan"))
-        {
-            return false;
-        }
-        static_cast<AxRwString&>(member).takeRead(AxSharedText(text));
-        return true;
-    default:
-        return false;
-    }
-}
-
-void AxXmlReader::readChild(Record& record, std::uint32_t node, std::uint32_t position)
-{
-    Document const& document = *myDocument;
-    std::string_view const tag = document.tag(node);
-    Attribute const* const name = document.nameOf(node); // not coded
-    std::string_view const keyword = name ? document.rawValue(*name) : tag;
-    Element child{node, position, nullptr, {}, &record.element};
-    bool isMember = false; // for the guide
-    std::size_t place = placeOf(record.table, keyword);
-    if (record.isOwnGuide)
-    {
-        isMember = place != AxRegistryTable::none;
-        child.guide = isMember ? record.registry.at(record.table.slots[place].distance) : nullptr;
-    }
-    else
-    {
-        child.guide = record.guided(keyword);
-        isMember = child.guide != nullptr;
-        child.guide = isMember ? child.guide : modelOf(node);
-    }
-    bool const isKnown = isMember || (!record.isOwnGuide && name && tag != AxTreeCells::theAnyTag);
-    if (isKnown && place != AxRegistryTable::none && Record::isNoted(place) && !record.wasSeen(place) &&
-        !record.isAtLead() && readMember(record, place, child))
-    {
-        record.note(place);
-        ++record.index;
         return;
     }
-    AxlObjPtr const cell = AxTreeCells::childItem(*objectOf(child), *objectOf(record.element), record.element.guide);
-    AxReaderWriter const* const member =
-        place != AxRegistryTable::none ? record.registry.at(record.table.slots[place].distance) : nullptr;
-    if (!member || !member->isValue())
+    record.rw.readItem(item.cell.get(), record.frame, record.files, *record.bindings);
+}
+
+void AxXmlReader::readChild(Record& record, Item& item)
+{
+    Document const& document = *myDocument;
+    std::string_view const tag = document.tag(item.node);
+    Attribute const* const name = document.nameOf(item.node); // not coded
+    Element child{item.node, item.position, nullptr, {}, &record.element};
+    AxReaderWriter* const member =
+        item.place != AxRegistryTable::none ? record.registry.at(record.table.slots[item.place].distance) : nullptr;
+    if (member && Record::isNoted(item.place) && !record.wasSeen(item.place))
     {
-        noteOdd(record.element, position);
+        AxReaderWriter const* const known =
+            record.isOwnGuide ? member : record.guided(name ? document.rawValue(*name) : tag);
+        child.guide = known ? known : modelOf(item.node);
+        if ((known || (name && tag != AxTreeCells::theAnyTag)) && readMember(record, item.place, child))
+        {
+            record.note(item.place);
+            return;
+        }
     }
-    if (!cell.nil())
-    {
-        readCell(record, cell);
-    }
-    else if (!member)
+    readCell(record, item);
+    bool const isText = tag == AxTreeCells::theTextTag;
+    if (!member && item.cell.nil())
     {
         noteOdd(record.element);
+    }
+    else if (!isText && (!member || isOdd(*member, item.node)))
+    {
+        noteOdd(record.element, item.position);
     }
 }
 
@@ -698,21 +687,5 @@ bool AxXmlReader::readMember(Record& record, std::size_t place, Element const& c
     {
         return false;
     }
-    if (reading == Reading::Vector)
-    {
-        double xyz[3] = {};
-        if (!realsOf(myDocument->rawValue(*value), xyz))
-        {
-            return false;
-        }
-        static_cast<AxRwVector&>(member).takeRead(AxVector64(xyz[0], xyz[1], xyz[2]));
-        return true;
-    }
-    AxObjectType type;
-    if (!objectTypeOf(myDocument->rawValue(*value), type))
-    {
-        return false;
-    }
-    static_cast<AxRwObjectType&>(member).takeRead(AxObjectType(type));
-    return true;
+    return AxXmlValue::readElement(member, reading, myDocument->rawValue(*value));
 }

@@ -45,9 +45,9 @@ private:
         AxReaderWriter const* guide = nullptr; ///< by which the form of trees tells what its parts are; null: by none
         AxSymbolString head{};
         Element const* outer = nullptr;
-        mutable AxEnvObjectPtr object{}; ///< made when it is needed
     };
     struct Record;
+    struct Item;
     struct Model;
 
     bool readElement(AxReaderWriter& rw, Element const& element, AxFilenameList const& files,
@@ -57,14 +57,19 @@ private:
                       AxBindingsList const& bindings);
     void readItems(AxReaderWriter& rw, Element const& element, AxFilenameList const& files,
                    AxBindingsList const& bindings);
-    void readAttributes(Record& record);
-    void readAttribute(Record& record, Attribute const& attribute, std::size_t place);
-    void readChild(Record& record, std::uint32_t node, std::uint32_t position);
+    void addAttributes(Record& record) const;
+    void addChildren(Record& record);
+    void offerItems(Record& record);
+    bool offer(Record& record, Item& item, std::size_t index);
+    void makeCell(Record const& record, Item& item) const;
+    void readAttribute(Record& record, Item& item);
+    void readChild(Record& record, Item& item);
+    void readCell(Record& record, Item& item);
     bool readMember(Record& record, std::size_t place, Element const& child);
-    void readCell(Record& record, AxlObjPtr const& cell);
-    bool readScalar(AxReaderWriter& member, Reading reading, Attribute const& attribute, bool isGuided);
+    bool hasLead(AxReaderWriter const& rw, Element const& element, std::string_view head) const;
 
-    AxEnvObjectPtr const& objectOf(Element const& element) const;
+    AxlObjPtr cellOf(Element const& parent, std::uint32_t node) const;
+    bool isOdd(AxReaderWriter const& rw, std::uint32_t node) const;
     AxReaderWriter const* modelOf(std::uint32_t node);
     AxString const* attributeText(std::uint32_t node, std::string_view name, AxString& text) const;
     void noteOdd(Element const& element);
