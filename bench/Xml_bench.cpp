@@ -1,3 +1,4 @@
+#include "AxEnvXMLReader.h"
 #include "AxSxpParameterDb.h"
 #include "AxZedXmlUtils.h"
 #include "BenchRecord.h"
@@ -13,6 +14,7 @@
 #include <stdexcept>
 #include <stdlib.h>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -76,6 +78,28 @@ void ParseXmlThenReadText(benchmark::State& state)
 }
 BENCHMARK(ParseXmlThenReadText)->Name("read-xml/pugixml-and-text");
 
+/// A tree of a document, looked into or not.
+void MakeTree(benchmark::State& state)
+{
+    AxString const& xml = notations().xml;
+    for (auto _ : state)
+    {
+        benchmark::DoNotOptimize(AxEnvXMLReader::readText(xml.string(), AxFilename()));
+    }
+}
+BENCHMARK(MakeTree)->Name("xml-tree/ours");
+
+void ParseXml(benchmark::State& state)
+{
+    std::string const& xml = notations().xml.string();
+    for (auto _ : state)
+    {
+        pugi::xml_document document;
+        benchmark::DoNotOptimize(document.load_buffer(xml.data(), xml.size()));
+    }
+}
+BENCHMARK(ParseXml)->Name("xml-tree/pugixml");
+
 /// A data root with a small record in each file.
 class DataRoot
 {
@@ -96,7 +120,7 @@ public:
         for (int number = 0; number < theNumFiles; ++number)
         {
             auto const env = boost::make_shared<AxEnvironment>();
-            record.setObjectType(AxObjectType(1, 1, 225, 1, number / 100, number % 100, 0, 1));
+            record.setObjectType(typeOf(number));
             AxZedXmlUtils::addObject(env, AxEnvValuePtr(), record);
             AxZedXmlUtils::writeEnvironment(
                 env, AxFilename((myFolder / "data" / (std::to_string(number) + ".entity")).string()));
@@ -109,7 +133,14 @@ public:
         std::error_code ignored;
         fs::remove_all(myFolder, ignored);
     }
+    static AxObjectType typeOf(int number) { return {1, 1, 225, 1, number / 100, number % 100, 0, 1}; }
+    static DataRoot const& get()
+    {
+        static DataRoot const root;
+        return root;
+    }
     fs::path database() const { return myFolder / "bench.opd"; }
+    fs::path data() const { return myFolder / "data"; }
 
 private:
     fs::path myFolder;
@@ -117,8 +148,7 @@ private:
 
 void ScanDataRoot(benchmark::State& state)
 {
-    static DataRoot const root;
-    AxFilename const file(root.database().string());
+    AxFilename const file(DataRoot::get().database().string());
     for (auto _ : state)
     {
         AxSxpParameterDb db;
@@ -130,4 +160,69 @@ void ScanDataRoot(benchmark::State& state)
     state.counters["items"] = theNumFiles;
 }
 BENCHMARK(ScanDataRoot)->Name("entity-scan/ours")->Unit(benchmark::kMillisecond);
+
+void ParseDataRoot(benchmark::State& state)
+{
+    fs::path const root = DataRoot::get().data();
+    for (auto _ : state)
+    {
+        for (fs::directory_entry const& file : fs::recursive_directory_iterator(root))
+        {
+            pugi::xml_document document;
+            benchmark::DoNotOptimize(document.load_file(file.path().c_str()));
+        }
+    }
+    state.counters["items"] = theNumFiles;
+}
+BENCHMARK(ParseDataRoot)->Name("entity-scan/pugixml")->Unit(benchmark::kMillisecond);
+
+/// Every record of the data root, looked up in a database that was just loaded.
+void LoadEntities(benchmark::State& state)
+{
+    AxFilename const file(DataRoot::get().database().string());
+    for (auto _ : state)
+    {
+        state.PauseTiming();
+        auto db = std::make_unique<AxSxpParameterDb>();
+        db->init();
+        db->load(file);
+        state.ResumeTiming();
+        for (int number = 0; number < theNumFiles; ++number)
+        {
+            if (!db->lookup(DataRoot::typeOf(number)))
+            {
+                state.SkipWithError("a record is not read");
+                return;
+            }
+        }
+        state.PauseTiming();
+        db.reset();
+        state.ResumeTiming();
+    }
+    state.counters["items"] = theNumFiles;
+}
+BENCHMARK(LoadEntities)->Name("entity-files/ours")->Unit(benchmark::kMillisecond);
+
+void ParseEntitiesThenReadText(benchmark::State& state)
+{
+    fs::path const root = DataRoot::get().data();
+    for (auto _ : state)
+    {
+        std::vector<std::unique_ptr<BenchParameters>> records;
+        records.reserve(theNumFiles);
+        for (int number = 0; number < theNumFiles; ++number)
+        {
+            pugi::xml_document document;
+            document.load_file((root / (std::to_string(number) + ".entity")).c_str());
+            records.push_back(std::make_unique<BenchParameters>(AxSymbolString("record"), nullptr));
+            records.back()->init();
+            readText(notations().text, *records.back());
+        }
+        state.PauseTiming();
+        records.clear();
+        state.ResumeTiming();
+    }
+    state.counters["items"] = theNumFiles;
+}
+BENCHMARK(ParseEntitiesThenReadText)->Name("entity-files/pugixml-and-text")->Unit(benchmark::kMillisecond);
 } // namespace

@@ -51,7 +51,9 @@ def jobs(found):
     yield "write it", "write/ours", "write/protobuf", least(7)
     yield "write it", "write/ours", "write/json", least(1.5)
     yield "read it from XML", "read-xml/ours", "read-xml/pugixml-and-text", most(1.5)
-    yield "scan a data root, per file", "entity-scan/ours", None, None
+    yield "its tree", "xml-tree/ours", "xml-tree/pugixml", None
+    yield "scan a data root, per file", "entity-scan/ours", "entity-scan/pugixml", most(1.5)
+    yield "load an entity file", "entity-files/ours", "entity-files/pugixml-and-text", most(1.5)
     yield "copy it", "copy/ours", "copy/protobuf", most(1.2)
     yield "copy it over another", "copy-again/ours", "copy-again/protobuf", None
     yield "compare two equal ones", "compare/ours", "compare/protobuf", least(25)

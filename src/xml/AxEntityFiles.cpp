@@ -32,6 +32,7 @@ Version versionOf(AxFilename const& file)
 AxEnvironmentPtr AxEntityFiles::tree(AxFilename const& file)
 {
     static std::map<std::string, Parsed> parsed;
+    static std::size_t most = 0; // entries that are not worth looking through again
 
     Version const version = versionOf(file);
     auto const known = parsed.find(file.native());
@@ -42,7 +43,11 @@ AxEnvironmentPtr AxEntityFiles::tree(AxFilename const& file)
             return shared;
         }
     }
-    std::erase_if(parsed, [](auto const& entry) { return entry.second.tree.expired(); });
+    if (parsed.size() > most)
+    {
+        std::erase_if(parsed, [](auto const& entry) { return entry.second.tree.expired(); });
+        most = 2 * parsed.size() + 16;
+    }
     AxEnvironmentPtr const tree = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
     if (tree)
     {

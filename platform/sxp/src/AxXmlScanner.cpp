@@ -6,7 +6,6 @@
 #include <cstring>
 #include <limits>
 
-#include "AxSymbolString.h"
 #include "AxWindows1252.h"
 
 namespace
@@ -73,6 +72,25 @@ char const* past(char const* at, Class what)
 char const* pastBlanks(char const* at)
 {
     return past(at, Blank);
+}
+
+template <class Word>
+std::uint64_t wordAt(char const* at)
+{
+    Word word;
+    std::memcpy(&word, at, sizeof word);
+    return word;
+}
+
+/// One of `count`, a power of two, by both ends of a name and its length: names of one element differ there.
+std::size_t bucketOf(std::string_view name, std::size_t count)
+{
+    char const* const begin = name.data();
+    char const* const end = begin + name.size();
+    std::uint64_t const ends = name.size() >= 8   ? wordAt<std::uint64_t>(begin) * 31 + wordAt<std::uint64_t>(end - 8)
+                               : name.size() >= 4 ? wordAt<std::uint32_t>(begin) * 31 + wordAt<std::uint32_t>(end - 4)
+                                                  : wordAt<unsigned char>(begin) * 31 + wordAt<unsigned char>(end - 1);
+    return static_cast<std::size_t>(((ends + name.size()) * 0x9E3779B97F4A7C15U) >> 32) & (count - 1);
 }
 
 bool isXmlCharacter(std::uint32_t point)
@@ -267,7 +285,7 @@ bool AxXmlScanner::isRepeated(std::uint32_t first, AxXmlDocument::Attribute cons
     {
         return true;
     }
-    for (std::size_t bucket = AxSymbolString::hashOf(name) % theNames;; bucket = (bucket + 1) % theNames)
+    for (std::size_t bucket = bucketOf(name, theNames);; bucket = (bucket + 1) % theNames)
     {
         std::uint32_t const known = myNames[bucket]; // one more than the index
         if (known <= first || known > count)
