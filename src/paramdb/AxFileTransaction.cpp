@@ -1,6 +1,5 @@
 #include "AxFileTransaction.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -83,6 +82,7 @@ bool AxFileTransaction::stage(AxFilename const& file, std::string_view text, int
         return false;
     }
     myStaged.push_back({std::move(temporary), target});
+    myTargets.insert(target);
     return true;
 }
 
@@ -106,7 +106,5 @@ bool AxFileTransaction::commit(int& error)
 
 bool AxFileTransaction::stages(AxFilename const& file) const
 {
-    std::string const target = file.native();
-    return std::any_of(myStaged.begin(), myStaged.end(),
-                       [&target](Staged const& staged) { return staged.target == target; });
+    return myTargets.contains(file.native());
 }

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 /// Several files that are replaced together. Each text is first written to a hidden file beside its target and
@@ -31,4 +32,5 @@ private:
         std::string target;
     };
     std::vector<Staged> myStaged;
+    std::unordered_set<std::string> myTargets;
 };

@@ -164,8 +164,13 @@ std::string const& AxSavedVariables::textOf(AxFilename const& file)
 bool AxSavedVariables::takeAlong(AxSxpParameterDbEntry const& entry)
 {
     AxZedObjectParameters* const record = entry.parameters();
-    AxRwVariableBindings const missed =
-        record && entry.variableBindings() ? missedOf(*entry.variableBindings()) : AxRwVariableBindings();
+    boost::shared_ptr<AxRwVariableBindings> const read = entry.variableBindings();
+    if (!record || !read)
+    {
+        return false;
+    }
+    auto const [known, isNew] = myMissed.try_emplace(read.get());
+    AxRwVariableBindings const& missed = isNew ? known->second = missedOf(*read) : known->second;
     if (missed.empty())
     {
         return false;
@@ -181,7 +186,7 @@ bool AxSavedVariables::takeAlong(AxSxpParameterDbEntry const& entry)
         }
     }
     AxRwVariableBindings taken;
-    std::vector<AxSymbolString> names = entry.variableBindings()->names();
+    std::vector<AxSymbolString> names = read->names();
     for (bool isMore = true; isMore;)
     {
         auto const isMentioned = [&](AxSymbolString name)
@@ -190,7 +195,7 @@ bool AxSavedVariables::takeAlong(AxSxpParameterDbEntry const& entry)
         isMore = found != names.end();
         if (isMore)
         {
-            text += axWrittenItems(entry.variableBindings()->find(*found)->get());
+            text += axWrittenItems(read->find(*found)->get());
             if (missed.find(*found))
             {
                 taken.set(*found, *missed.find(*found));

@@ -32,6 +32,7 @@ private:
     std::string const& textOf(AxFilename const& file);
 
     AxRwVariableBindings& myAll;
+    std::map<AxRwVariableBindings const*, AxRwVariableBindings> myMissed;
     std::map<std::string, std::string> myTexts; // of the files that records name
     bool myIsDataRootLeftOut = false;
 };

@@ -67,11 +67,11 @@ std::vector<AxObjectType> AxObjectElement::matchTypesOf(AxEnvValuePtr const& ele
 AxEnvObjectPtr AxObjectElement::othersOf(AxEnvValuePtr const& element)
 {
     AxEnvObjectPtr const object = element ? element->castToObject() : AxEnvObjectPtr();
-    auto const others = boost::make_shared<AxEnvObject>(theTag);
     if (!object)
     {
         return {};
     }
+    auto const others = boost::make_shared<AxEnvObject>(theTag);
     for (AxEnvObject::Attribute const& attribute : object->attributes())
     {
         others->setAttribute(attribute.name, attribute.value->value());

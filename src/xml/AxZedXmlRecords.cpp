@@ -224,9 +224,8 @@ void AxZedXmlUtils::keepOthers(AxZedObjectParameters& record, bool isOneOfMany)
 {
     AxEnvValuePtr const& element = record.objectNode();
     AxEnvObjectPtr const others = AxObjectElement::othersOf(element);
-    bool const isKept = std::ranges::any_of(record.keptItems(), [](auto const& kept)
-                                            { return AxObjectElement::isOthersItem(kept.second); });
-    if (!others || isKept)
+    if (!others || std::ranges::any_of(record.keptItems(),
+                                       [](auto const& kept) { return AxObjectElement::isOthersItem(kept.second); }))
     {
         return;
     }

@@ -409,7 +409,8 @@ TEST_F(AxModelSetTest, EntityFilesGiveAnEntryForEachObject)
 TEST_F(AxModelSetTest, AnEntryIsWrittenIntoItsObjectElement)
 {
     AxFilename const file = put("m1.entity", "<simObject><objectType name=\"objectType\" value=\"1:1:1:225:1:1:3:0\"/>"
-                                             "<guiInformation name=\"gui\" label=\"old\"/></simObject>");
+                                             "<guiInformation name=\"gui\" label=\"old\" odd=\"1\"><future/>"
+                                             "</guiInformation><other/></simObject>");
     AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
     AxModelSetEntry entry("", nullptr);
     ASSERT_TRUE(entry.readFromEnvironment(env, env->root()));
@@ -419,7 +420,19 @@ TEST_F(AxModelSetTest, AnEntryIsWrittenIntoItsObjectElement)
     AxModelSetEntry again("", nullptr);
     ASSERT_TRUE(again.readFromEnvironment(env, env->root()));
     EXPECT_EQ(again.writtenText(), entry.writtenText());
+    EXPECT_EQ(entry.keptItems().size(), 2U);
+    AxModelSet saved("models", nullptr);
+    saved.addModel(&entry, true);
+    ASSERT_TRUE(saved.save(AxFilename(path("saved.models"))));
+    warned();
+    ASSERT_TRUE(models.load(AxFilename(path("saved.models"))));
     EXPECT_EQ(warned(), "");
+    ASSERT_TRUE(models.find(tank)->writeToEnvironment(env, env->root()));
+    ASSERT_TRUE(AxZedXmlUtils::writeEnvironment(env, AxFilename(path("new.entity"))));
+    std::string const text = get("new.entity");
+    EXPECT_NE(text.find("odd=\"1\""), std::string::npos) << text;
+    EXPECT_NE(text.find("<future/>"), std::string::npos) << text;
+    EXPECT_NE(text.find("<other/>"), std::string::npos) << text;
 }
 
 TEST_F(AxModelSetTest, EntityFilesThatFailAreToldAndTheOthersRead)
