@@ -72,8 +72,7 @@ void addDiffCommand(CLI::App& app, int& exitCode)
         ->add_option("--tolerance", options->how.tolerance, "Numbers are equal that differ by this part of the larger")
         ->check(CLI::NonNegativeNumber);
     command->add_flag("--defaults", options->how.defaults, "What is not there counts as its default");
-    command->add_option("--database", options->database,
-                        "The database that binds variables; none: one beside the file or above it that lists it");
+    command->add_option("--database", options->database, "The database that binds the variables of record files");
     command->add_flag("--json", options->json, "Print JSON");
     command->footer("Exit codes: 0 the same, 1 different, 2 could not run.");
     command->callback([options, &exitCode] { exitCode = diff(*options); });

@@ -224,8 +224,7 @@ private:
             auto const other = mySides[1]->files.find(name);
             if (other != mySides[1]->files.end() && other->second != file && !isSameText(file, other->second))
             {
-                myIsComplete =
-                    compareFiles(name, file, other->second, std::nullopt, myOptions, myReport) && myIsComplete;
+                myIsComplete = compareFiles(name, file, other->second, {}, myOptions, myReport) && myIsComplete;
             }
         }
         for (int side = 0; side < 2; ++side)

@@ -34,10 +34,10 @@ std::vector<Document> entityDocuments(std::string const& file, std::string const
 }
 
 /// A record is taken as it was read, because it keeps what could not be; anything else only when all of it was read.
-std::vector<Document> textDocuments(std::string const& file, TextTree const& tree, std::optional<std::string> database)
+std::vector<Document> textDocuments(std::string const& file, TextTree const& tree, std::string const& database)
 {
     std::shared_ptr<TextReading> const reading =
-        database ? TextReading::open(file, *database) : std::make_unique<TextReading>(file);
+        database.empty() ? std::make_unique<TextReading>(file) : TextReading::open(file, database);
     if (reading == nullptr)
     {
         return {};
@@ -82,7 +82,7 @@ TextTree::Place valuePlace(Item const& item)
 }
 } // namespace
 
-std::vector<Document> readDocuments(std::string const& file, std::optional<std::string> const& database)
+std::vector<Document> readDocuments(std::string const& file, std::string const& database)
 {
     std::string text;
     if (!readFile(file, text))
@@ -91,7 +91,7 @@ std::vector<Document> readDocuments(std::string const& file, std::optional<std::
     }
     if (fs::path(file).extension() == ".entity")
     {
-        return entityDocuments(file, database.value_or(std::string()));
+        return entityDocuments(file, database);
     }
     std::size_t const first = text.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
     if (first != std::string::npos && text[first] == '<')

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,9 +27,8 @@ struct Document
     bool hasParts = false;            ///< the element's types and what users see of it count, too
 };
 
-/// What is in a file; empty after reports when it cannot be read. `database` binds variables; without a name one near
-/// the file is looked for, null stands for none.
-std::vector<Document> readDocuments(std::string const& file, std::optional<std::string> const& database);
+/// What is in a file; empty after reports when it cannot be read. `database` binds variables, if it is named.
+std::vector<Document> readDocuments(std::string const& file, std::string const& database);
 
 /// A document as a tree of items: what is known as it would be saved, everything else as it stands.
 class DocumentTree

@@ -47,8 +47,8 @@ void compareDocuments(std::string const& subject, Document const& a, Document co
     report.add(subject, a, b, differences);
 }
 
-bool compareFiles(std::string const& subject, std::string const& a, std::string const& b,
-                  std::optional<std::string> const& database, DiffOptions const& options, DiffReport& report)
+bool compareFiles(std::string const& subject, std::string const& a, std::string const& b, std::string const& database,
+                  DiffOptions const& options, DiffReport& report)
 {
     std::vector<Document> const of[2] = {readDocuments(a, database), readDocuments(b, database)};
     if (of[0].empty() || of[1].empty())

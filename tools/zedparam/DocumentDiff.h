@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,5 +18,5 @@ void compareDocuments(std::string const& subject, Document const& a, Document co
 
 /// The same for all that is in two files, object by object; `database` as in readDocuments. False after reports when
 /// one cannot be read.
-bool compareFiles(std::string const& subject, std::string const& a, std::string const& b,
-                  std::optional<std::string> const& database, DiffOptions const& options, DiffReport& report);
+bool compareFiles(std::string const& subject, std::string const& a, std::string const& b, std::string const& database,
+                  DiffOptions const& options, DiffReport& report);
