@@ -1,6 +1,8 @@
 #include "Markup.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cmath>
 
 #include "Utf8.h"
 
@@ -54,7 +56,7 @@ std::string drawn(double value)
 {
     char digits[64];
     constexpr double theLargest = 1e9;
-    double const shown = value > theLargest ? theLargest : value < -theLargest ? -theLargest : value;
+    double const shown = std::isnan(value) ? 0.0 : std::clamp(value, -theLargest, theLargest);
     auto const end = std::to_chars(digits, digits + sizeof digits, shown, std::chars_format::fixed, 2).ptr;
     std::string text(digits, end);
     text.erase(text.find_last_not_of('0') + 1);
