@@ -31,28 +31,6 @@ namespace
 {
 namespace fs = std::filesystem;
 
-/// Lets go of the record when it goes out of scope: a report holds one at a time.
-class LentRecord
-{
-public:
-    LentRecord(Database const& database, AxSxpParameterDbEntry& entry)
-        : myEntry(entry), myRecord(database.getParameters(&entry))
-    {
-    }
-    LentRecord(LentRecord const&) = delete;
-    LentRecord& operator=(LentRecord const&) = delete;
-    ~LentRecord()
-    {
-        myEntry.setParameters(nullptr);
-        delete myRecord;
-    }
-    AxZedObjectParameters* get() const { return myRecord; }
-
-private:
-    AxSxpParameterDbEntry& myEntry;
-    AxZedObjectParameters* myRecord;
-};
-
 /// The drawing for a page: without its titles, which are made-up names, and free to shrink somewhat.
 std::string forPage(std::string_view svg, std::string const& label)
 {
@@ -157,15 +135,10 @@ private:
         for (std::size_t i = 0; i < myEntries.size(); ++i)
         {
             ReportEntry& entry = myEntries[i];
-            LentRecord const record(myDatabase, *entry.entry);
-            if (record.get() != nullptr)
-            {
-                AxString const& title = record.get()->displayName();
-                AxString const name = record.get()->AxReaderWriter::name().string();
-                entry.title = !title.isNull() ? title.string() : !name.isNull() ? name.string() : entry.title;
-                entry.kind = record.get()->parameterType().string();
-            }
-            if (!myFolder.writePage(entry.page, entry.title, recordPage(i, record.get())))
+            std::string content;
+            bool const isRead = myDatabase.withRecord(*entry.entry, [&](AxZedObjectParameters& record)
+                                                      { content = recordPage(i, record); });
+            if (!myFolder.writePage(entry.page, entry.title, isRead ? content : unreadPage(entry)))
             {
                 return false;
             }
@@ -187,25 +160,35 @@ private:
         return "<span class=\"type\">" + markup(entry.entry->objectType().string().string()) + "</span>";
     }
 
-    std::string recordPage(std::size_t index, AxZedObjectParameters* record)
+    std::string pageHead(ReportEntry const& entry) const
     {
-        ReportEntry const& entry = myEntries[index];
         bool const isPattern = Database::isPattern(*entry.entry);
-        std::string out = pathTo(entry) + "<h1>" + markup(entry.title) + "</h1>\n<dl class=\"facts\">\n" +
-                          fact("Type", htmlCode(entry.entry->objectType().string().string()) +
-                                           (isPattern ? " <span class=\"badge\">pattern</span>" : "")) +
-                          fact("File", htmlCode(entry.file));
-        if (record == nullptr)
+        return pathTo(entry) + "<h1>" + markup(entry.title) + "</h1>\n<dl class=\"facts\">\n" +
+               fact("Type", htmlCode(entry.entry->objectType().string().string()) +
+                                (isPattern ? " <span class=\"badge\">pattern</span>" : "")) +
+               fact("File", htmlCode(entry.file));
+    }
+
+    std::string unreadPage(ReportEntry const& entry) const
+    {
+        return pageHead(entry) + "</dl>\n<p>The record cannot be read.</p>\n" + findingsOf(entry.file) + below(entry) +
+               textOf(entry.file);
+    }
+
+    std::string recordPage(std::size_t index, AxZedObjectParameters& record)
+    {
+        ReportEntry& entry = myEntries[index];
+        AxString const& title = record.displayName();
+        AxString const name = record.AxReaderWriter::name().string();
+        entry.title = !title.isNull() ? title.string() : !name.isNull() ? name.string() : entry.title;
+        entry.kind = record.parameterType().string();
+        std::string out = pageHead(entry) + fact("Record", htmlCode(name.string()) + ", a " + htmlCode(entry.kind));
+        if (!record.displayDescription().isNull())
         {
-            return out + "</dl>\n<p>The record cannot be read.</p>\n" + findingsOf(entry.file) + textOf(entry.file);
-        }
-        out += fact("Record", htmlCode(record->AxReaderWriter::name().view()) + ", a " + htmlCode(entry.kind));
-        if (!record->displayDescription().isNull())
-        {
-            out += fact("Description", markup(record->displayDescription().string()));
+            out += fact("Description", markup(record.displayDescription().string()));
         }
         std::vector<std::string> used;
-        std::string const values = reportValues(*record, entry.file, myFolder, used);
+        std::string const values = reportValues(record, Database::foundFile(*entry.entry), myDatabase, myFolder, used);
         for (Table& table : myTables)
         {
             if (std::ranges::find(used, table.shownFile) != used.end())
@@ -213,7 +196,7 @@ private:
                 table.users.insert(index);
             }
         }
-        std::string const connections = connectionsOf(*record); // after the values: the record changes
+        std::string const connections = connectionsOf(record); // after the values: the record changes
         return out + "</dl>\n" + jumps(!connections.empty()) + findingsOf(entry.file) + below(entry) + connections +
                "<h2 id=\"values\">Values</h2>\n<p hidden><label><input type=\"checkbox\" id=\"with-defaults\"> Show "
                "defaults too</label></p>\n" +

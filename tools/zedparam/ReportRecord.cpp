@@ -1,278 +1,242 @@
 #include "ReportRecord.h"
 
 #include <algorithm>
-#include <map>
-#include <utility>
+#include <limits>
 
 #include "AxComponentDescriptor.h"
 #include "AxReaderWriterFile.h"
-#include "AxRwList.h"
 #include "AxRwProperty.h"
 #include "AxZedObjectParameters.h"
-#include "ElementSource.h"
+#include "Database.h"
 #include "Markup.h"
+#include "Origin.h"
 #include "RangeText.h"
+#include "RecordValue.h"
+#include "RecordWalk.h"
 #include "ReportPage.h"
 #include "ShownPath.h"
-#include "Source.h"
 
 namespace
 {
-bool hasParts(AxReaderWriter const& rw)
+/// The file that a file member has read into content of its own; empty when there is none.
+std::string ownFile(AxReaderWriter const& rw)
 {
-    AxReaderWriterRegistry const* const registry = rw.registryIfAny();
-    return (registry != nullptr && registry->count() != 0) || dynamic_cast<AxRwList const*>(&rw) != nullptr;
+    auto const* const file = dynamic_cast<AxReaderWriterFile const*>(&rw);
+    bool const isOwn =
+        file != nullptr && file->content() != nullptr && file->contentKind() != AxReaderWriterFile::ContentKind::Member;
+    return isOwn ? file->foundFilename().native() : "";
 }
 
-/// The record or list behind a member; null for a plain value.
-AxReaderWriter* partBehind(AxReaderWriter& rw)
+/// Whether more stands behind it than a value.
+bool isPart(AxReaderWriter const& rw)
 {
-    auto* const property = dynamic_cast<AxRwProperty*>(&rw);
-    if (property != nullptr && property->rwValue() != nullptr)
-    {
-        return hasParts(*property->rwValue()) ? property->rwValue() : nullptr;
-    }
-    auto* const file = dynamic_cast<AxReaderWriterFile*>(&rw);
-    if (file != nullptr)
-    {
-        bool const isOwn = file->content() != nullptr && file->contentKind() != AxReaderWriterFile::ContentKind::Member;
-        return isOwn ? file->content() : nullptr;
-    }
-    return hasParts(rw) ? &rw : nullptr;
+    auto const* const property = dynamic_cast<AxRwProperty const*>(&rw);
+    return property != nullptr && property->rwValue() != nullptr ? !isLeaf(*property->rwValue())
+                                                                 : !isLeaf(rw) || !ownFile(rw).empty();
 }
 
-std::string trimmed(std::string const& text)
+/// A record or list on the way to where the walk stands: its values are a table, and the parts in it stand below.
+struct Part
 {
-    std::size_t const start = text.find_first_not_of(" \n");
-    return start == std::string::npos ? "" : text.substr(start, text.find_last_not_of(" \n") + 1 - start);
-}
+    std::size_t depth = 0;
+    std::string heading{};
+    std::string rows{};
+    std::string parts{};
+    bool hasGiven = false; ///< whether one of the values is no default
+};
 
 class RecordHtml
 {
 public:
-    RecordHtml(std::string file, ReportFolder const& folder, std::vector<std::string>& tables)
-        : myFiles{std::move(file)}, myFolder(folder), myTables(tables)
+    RecordHtml(AxZedObjectParameters& record, std::string const& file, Database const& database,
+               ReportFolder const& folder, std::vector<std::string>& tables)
+        : myRecord(record), myFile(file), myFolder(folder), myTables(tables), myOrigins(database.file(), file, record)
     {
     }
 
-    std::string write(AxZedObjectParameters& record)
+    std::string write()
     {
-        myElement = record.objectNode();
-        writePart(record, 3);
-        return std::move(myOut);
+        myParts.emplace_back();
+        RecordWalk(myFile, myRecord).run(KeywordPath::everything(), [this](RecordWalk const& at) { visit(at); });
+        closeDownTo(1);
+        return tableOf(myParts.front()) + myParts.front().parts;
     }
 
 private:
-    struct Member
+    void visit(RecordWalk const& at)
     {
-        AxSymbolString keyword;
-        AxReaderWriter* rw;
-    };
-
-    /// Its members and elements: plain values as a table, then the others one by one.
-    void writePart(AxReaderWriter& rw, int level)
-    {
-        std::vector<Member> values;
-        std::vector<Member> parts;
-        for (Member const& member : membersOf(rw))
-        {
-            bool const isPart = partBehind(*member.rw) != nullptr && !isLinked(*member.rw);
-            (isPart ? parts : values).push_back(member);
-        }
-        writeValues(values);
-        for (Member const& part : parts)
-        {
-            if (part.rw->isDue())
-            {
-                writeSection(part, level);
-            }
-        }
-    }
-
-    std::vector<Member> membersOf(AxReaderWriter& rw) const
-    {
-        std::vector<Member> members;
-        if (AxReaderWriterRegistry const* registry = rw.registryIfAny())
-        {
-            std::vector<AxReaderWriter const*> read; // from files of their own
-            for (std::size_t i = 0; i < registry->size(); ++i)
-            {
-                auto const* const file = dynamic_cast<AxReaderWriterFile const*>(registry->entry(i).member);
-                if (file != nullptr && !file->foundFilename().isNull())
-                {
-                    read.push_back(file->content());
-                }
-            }
-            for (std::size_t i = 0; i < registry->size(); ++i)
-            {
-                AxRegistryEntry const entry = registry->entry(i);
-                if (!entry.content && !entry.keyword.isNull() && std::ranges::find(read, entry.member) == read.end())
-                {
-                    members.push_back({entry.keyword, entry.member});
-                }
-            }
-        }
-        if (auto const* list = dynamic_cast<AxRwList const*>(&rw))
-        {
-            for (AxListItem const* item = list->first(); item != nullptr; item = item->next())
-            {
-                AxReaderWriter* const element = AxRwList::element(item);
-                members.push_back({element->name(), element});
-            }
-        }
-        return members;
-    }
-
-    void writeValues(std::vector<Member> const& values)
-    {
-        if (values.empty())
+        std::size_t const depth = at.steps().size();
+        if (depth > mySkippedBelow)
         {
             return;
         }
-        bool const areDefaults = std::ranges::none_of(values, [](Member const& value) { return value.rw->isDue(); });
-        myOut += std::string("<table class=\"values") + (areDefaults ? " by-default" : "") +
-                 "\"><thead><tr><th scope=\"col\">Keyword</th><th scope=\"col\">Value</th><th scope=\"col\">Unit</th>"
-                 "<th scope=\"col\">Origin</th><th scope=\"col\">Meaning</th></tr></thead>\n<tbody>\n";
-        for (Member const& value : values)
+        mySkippedBelow = std::numeric_limits<std::size_t>::max();
+        closeDownTo(depth);
+        std::string const page = at.isInRecordsOwnFile() ? "" : myFolder.pageOf(at.file());
+        bool const isWord = at.ownItem() != nullptr;
+        if (!page.empty())
         {
-            writeValue(value);
+            skipBelow(depth); // that page shows it
         }
-        myOut += "</tbody></table>\n";
+        else if (!isWord && isPart(at.rw()) && linkOf(at.rw()).empty())
+        {
+            at.rw().isDue() ? open(at) : skipBelow(depth);
+        }
+        else
+        {
+            addRow(at);
+            skipBelow(depth);
+        }
     }
 
-    void writeValue(Member const& member)
+    void skipBelow(std::size_t depth) { mySkippedBelow = depth; }
+
+    void open(RecordWalk const& at)
     {
-        AxReaderWriter& rw = *member.rw;
+        constexpr std::size_t theFirstLevel = 2; // of the headings around the values
+        AxReaderWriter const& rw = at.rw();
+        std::string const tag = "h" + std::to_string(std::min<std::size_t>(theFirstLevel + at.steps().size(), 6));
+        std::string heading = "<" + tag + ">" + wordFor(at);
+        if (auto const* const component = dynamic_cast<AxComponentDescriptor const*>(&rw))
+        {
+            heading += " <span class=\"type\">" + markup(component->type().string()) + "</span>";
+        }
+        heading += "</" + tag + ">\n<div class=\"part\">\n";
         AxKeyword const* const description = rw.description();
-        bool const isDefault = !rw.isDue();
-        std::string text;
-        rw.putData(text, 0);
-        myOut += std::string("<tr") + (isDefault ? " class=\"by-default\"" : "") + "><th scope=\"row\">" +
-                 wordFor(member) + "</th><td>" + linked(rw, trimmed(text)) + "</td><td>" +
-                 markup(description != nullptr ? description->unit : "") + "</td><td>" + originOf(member) +
-                 "</td><td>" + markup(description != nullptr ? description->help : "");
-        if (description != nullptr && description->range.isBounded())
-        {
-            myOut += markup(" (" + rangeText(description->range) + ")");
-        }
-        myOut += "</td></tr>\n";
-    }
-
-    static std::string wordFor(Member const& member)
-    {
-        return member.keyword.isNull() ? "item" : htmlCode(member.keyword.view());
-    }
-
-    void writeSection(Member const& member, int level)
-    {
-        AxReaderWriter& rw = *member.rw;
-        std::string const heading = "h" + std::to_string(std::min(level, 6));
-        AxKeyword const* const description = rw.description();
-        auto const* const component = dynamic_cast<AxComponentDescriptor const*>(&rw);
-        myOut += "<" + heading + ">" + wordFor(member);
-        if (component != nullptr)
-        {
-            myOut += " <span class=\"type\">" + markup(component->type().string()) + "</span>";
-        }
-        myOut += "</" + heading + ">\n<div class=\"part\">\n";
         if (description != nullptr && *description->help != '\0')
         {
-            myOut += "<p>" + markup(description->help) + "</p>\n";
+            heading += "<p>" + markup(description->help) + "</p>\n";
         }
-        myPath.push_back({member.keyword, &rw});
-        auto const* const file = dynamic_cast<AxReaderWriterFile const*>(&rw);
-        if (file != nullptr && !file->foundFilename().isNull())
+        if (std::string const file = ownFile(rw); !file.empty())
         {
-            myOut += "<p>Read from " + htmlCode(shownPath(file->foundFilename().native())) + "</p>\n";
-            std::vector<SourceStep> const outer = std::exchange(myPath, {});
-            myFiles.push_back(file->foundFilename().native());
-            writePart(*partBehind(rw), level + 1);
-            myFiles.pop_back();
-            myPath = outer;
+            heading += "<p>Read from " + htmlCode(shownPath(file)) + "</p>\n";
         }
-        else
-        {
-            writePart(*partBehind(rw), level + 1);
-        }
-        myPath.pop_back();
-        myOut += "</div>\n";
+        myParts.push_back({at.steps().size(), std::move(heading)});
     }
 
-    /// Whether a page of its own tells what is behind the member.
-    bool isLinked(AxReaderWriter const& rw) const
+    /// Ends the parts that what stands at that depth is not in.
+    void closeDownTo(std::size_t depth)
     {
-        auto const* const file = dynamic_cast<AxReaderWriterFile const*>(&rw);
-        return file != nullptr && !myFolder.pageOf(file->foundFilename().native()).empty();
+        while (myParts.back().depth >= depth)
+        {
+            Part const part = std::move(myParts.back());
+            myParts.pop_back();
+            myParts.back().parts += part.heading + tableOf(part) + part.parts + "</div>\n";
+        }
     }
 
-    std::string linked(AxReaderWriter const& rw, std::string const& text)
+    static std::string tableOf(Part const& part)
     {
-        if (!isLinked(rw))
-        {
-            return htmlCode(text);
-        }
-        std::string const file = static_cast<AxReaderWriterFile const&>(rw).foundFilename().native();
-        myTables.push_back(shownPath(file));
-        return htmlLink(theReportRoot + myFolder.pageOf(file), text);
-    }
-
-    std::string originOf(Member const& member)
-    {
-        AxReaderWriter const& rw = *member.rw;
-        if (rw.inherited())
-        {
-            return "inherited";
-        }
-        if (!rw.valueSpecified())
-        {
-            return "default";
-        }
-        myPath.push_back({member.keyword, &rw});
-        std::string origin = placeOf();
-        myPath.pop_back();
-        if (rw.isVariableReference())
-        {
-            origin += (origin.empty() ? "" : ", ") + ("variable " + htmlCode(rw.variableName().view()));
-        }
-        return origin.empty() ? "default" : origin; // some classes count their default as given
-    }
-
-    std::string placeOf()
-    {
-        bool const isOwn = myFiles.size() == 1;
-        unsigned line = 0;
-        if (isOwn && myElement)
-        {
-            AxEnvValue const* const node = ElementSource(myElement).value(myPath);
-            line = node != nullptr ? node->line() : 0;
-        }
-        else
-        {
-            AxlObj const* const cell =
-                mySources.try_emplace(myFiles.back(), myFiles.back()).first->second.value(myPath);
-            line = cell != nullptr ? cell->line() : 0;
-        }
-        if (line == 0)
+        if (part.rows.empty())
         {
             return "";
         }
-        std::string const number = std::to_string(line);
-        std::string const file = AxFilename(myFiles.back()).stripPath().string().string();
-        return isOwn ? htmlLink("#L" + number, "line " + number) : markup(file + ", line " + number);
+        return std::string("<table class=\"values") + (part.hasGiven ? "" : " by-default") +
+               "\"><thead><tr><th scope=\"col\">Keyword</th><th scope=\"col\">Value</th><th scope=\"col\">Unit</th>"
+               "<th scope=\"col\">Origin</th><th scope=\"col\">Meaning</th></tr></thead>\n<tbody>\n" +
+               part.rows + "</tbody></table>\n";
     }
 
-    std::vector<std::string> myFiles; // the record's own, then those read on the way to where the walk stands
+    void addRow(RecordWalk const& at)
+    {
+        Part& part = myParts.back();
+        bool const isWord = at.ownItem() != nullptr;
+        bool const isGiven = isWord || at.rw().isDue();
+        AxKeyword const* const description = isWord ? nullptr : at.rw().description();
+        std::string const link = isWord ? "" : linkOf(at.rw());
+        std::string const value = valueText(at);
+        std::string unit;
+        if (!isWord)
+        {
+            unitOf(at, unit);
+        }
+        part.hasGiven = part.hasGiven || isGiven;
+        part.rows += std::string("<tr") + (isGiven ? "" : " class=\"by-default\"") + "><th scope=\"row\">" +
+                     wordFor(at) + "</th><td>" +
+                     (link.empty() ? htmlCode(value) : htmlLink(theReportRoot + link, value)) + "</td><td>" +
+                     markup(unit) + "</td><td>" + originOf(at) + "</td><td>" +
+                     (description != nullptr ? markup(description->help) : "") +
+                     (description != nullptr && description->range.isBounded()
+                          ? " (" + markup(rangeText(description->range)) + ")"
+                          : "") +
+                     "</td></tr>\n";
+    }
+
+    static std::string wordFor(RecordWalk const& at)
+    {
+        return at.keyword().isNull() ? "item" : htmlCode(at.keyword().view());
+    }
+
+    /// The page that tells what a file member has read; empty when there is none.
+    std::string linkOf(AxReaderWriter const& rw)
+    {
+        auto const* const file = dynamic_cast<AxReaderWriterFile const*>(&rw);
+        if (file == nullptr || file->foundFilename().isNull())
+        {
+            return "";
+        }
+        std::string const& page = myFolder.pageOf(file->foundFilename().native());
+        if (!page.empty())
+        {
+            myTables.push_back(shownPath(file->foundFilename().native()));
+        }
+        return page;
+    }
+
+    std::string originOf(RecordWalk const& at)
+    {
+        Origin const origin = myOrigins.of(at);
+        std::string const place = placeOf(origin.place);
+        switch (origin.kind)
+        {
+        case Origin::Kind::Given:
+            return place;
+        case Origin::Kind::Default:
+            return place.empty() ? "default" : "default, " + place;
+        case Origin::Kind::Inherited:
+            return "inherited from " + htmlCode(origin.parent) + ", " + place;
+        case Origin::Kind::Variable:
+            break;
+        }
+        std::string html = place;
+        for (Origin::Binding const& binding : origin.bindings)
+        {
+            html += ", " + htmlCode("$" + binding.variable) +
+                    (binding.place.file.empty() ? " is not bound" : " from " + placeOf(binding.place));
+        }
+        return html;
+    }
+
+    std::string placeOf(Place const& place) const
+    {
+        if (place.file.empty())
+        {
+            return "";
+        }
+        std::string const line = place.line != 0 ? "line " + std::to_string(place.line) : "";
+        std::string const anchor = place.line != 0 ? "#L" + std::to_string(place.line) : "";
+        if (place.file == shownPath(myFile))
+        {
+            return anchor.empty() ? "this file" : htmlLink(anchor, line);
+        }
+        std::string const name =
+            AxFilename(place.file).stripPath().string().string() + (line.empty() ? "" : ", " + line);
+        std::string const& page = myFolder.pageOf(place.file);
+        return page.empty() ? markup(name) : htmlLink(theReportRoot + page + anchor, name);
+    }
+
+    AxZedObjectParameters& myRecord;
+    std::string const& myFile;
     ReportFolder const& myFolder;
     std::vector<std::string>& myTables;
-    std::map<std::string, Source> mySources;
-    std::vector<SourceStep> myPath; // in the file
-    AxEnvValuePtr myElement;
-    std::string myOut;
+    Origins myOrigins;
+    std::vector<Part> myParts; // the record, then those around where the walk stands
+    std::size_t mySkippedBelow = std::numeric_limits<std::size_t>::max();
 };
 } // namespace
 
-std::string reportValues(AxZedObjectParameters& record, std::string const& file, ReportFolder const& folder,
-                         std::vector<std::string>& tables)
+std::string reportValues(AxZedObjectParameters& record, std::string const& file, Database const& database,
+                         ReportFolder const& folder, std::vector<std::string>& tables)
 {
-    return RecordHtml(file, folder, tables).write(record);
+    return RecordHtml(record, file, database, folder, tables).write();
 }

@@ -4,9 +4,10 @@
 #include <vector>
 
 class AxZedObjectParameters;
+class Database;
 class ReportFolder;
 
-/// What a report tells of the values of a record and its systems, as HTML. `tables` takes the files of the tables that
-/// it uses.
-std::string reportValues(AxZedObjectParameters& record, std::string const& file, ReportFolder const& folder,
-                         std::vector<std::string>& tables);
+/// What a report tells of the values of a record and its systems, as HTML. `file` is that of the record; `tables` takes
+/// the files, as they are shown, of the tables that it uses.
+std::string reportValues(AxZedObjectParameters& record, std::string const& file, Database const& database,
+                         ReportFolder const& folder, std::vector<std::string>& tables);
