@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "AxZedObjectParameters.h"
+#include "Collection.h"
 #include "Commands.h"
 #include "Json.h"
 #include "TypeArgument.h"
@@ -14,7 +15,7 @@ int ask(std::string const& databaseFile, std::string const& type, Answer& answer
     {
         return CouldNotRun;
     }
-    answer.database = Database::open(databaseFile);
+    answer.database = Collection::openAny(databaseFile);
     if (answer.database == nullptr)
     {
         return CouldNotRun;

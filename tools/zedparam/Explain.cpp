@@ -12,7 +12,7 @@
 
 #include "AxNearest.h"
 #include "Catalogue.h"
-#include "Database.h"
+#include "Collection.h"
 #include "Findings.h"
 #include "Json.h"
 #include "KeywordUse.h"
@@ -187,7 +187,7 @@ int explainUse(Options const& options)
         return CouldNotRun;
     }
     Findings findings(Findings::Print::AtOnce);
-    std::unique_ptr<Database> const database = Database::open(options.database);
+    std::unique_ptr<Database> const database = Collection::openAny(options.database);
     if (database == nullptr)
     {
         return CouldNotRun;

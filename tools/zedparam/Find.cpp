@@ -12,7 +12,7 @@
 #include "AxNearest.h"
 #include "AxZedObjectParameters.h"
 #include "Catalogue.h"
-#include "Database.h"
+#include "Collection.h"
 #include "FindExpression.h"
 #include "Findings.h"
 #include "Json.h"
@@ -83,9 +83,9 @@ public:
         {
             myJson.beginArray();
         }
-        bool const isComplete =
-            database.forEachRecord("reading", [this](AxSxpParameterDbEntry& entry, AxZedObjectParameters& record,
-                                                     Progress& progress) { ask(entry, record, progress); });
+        bool const isComplete = database.forEachRecord(
+            "reading", [&](AxSxpParameterDbEntry& entry, AxZedObjectParameters& record, Progress& progress)
+            { ask(entry, Collection::walkThrough(database, entry, record), progress); });
         if (myOptions.json)
         {
             myJson.endArray().print();
@@ -99,9 +99,8 @@ public:
     }
 
 private:
-    void ask(AxSxpParameterDbEntry& entry, AxZedObjectParameters& record, Progress& progress)
+    void ask(AxSxpParameterDbEntry const& entry, RecordWalk walk, Progress& progress)
     {
-        RecordWalk walk(Database::foundFile(entry), record);
         if (!myFault.text.empty() || !myExpression.holds(entry, walk, myFault))
         {
             return;
@@ -214,7 +213,7 @@ int find(Options const& options)
         std::ranges::transform(expression->paths(), std::back_inserter(shown), &FindExpression::Path::keywords);
     }
     Findings findings(Findings::Print::AtOnce);
-    std::unique_ptr<Database> const database = Database::open(options.database);
+    std::unique_ptr<Database> const database = Collection::openAny(options.database);
     if (database == nullptr)
     {
         return CouldNotRun;

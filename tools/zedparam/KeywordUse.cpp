@@ -7,7 +7,7 @@
 #include "AxComponentDescriptor.h"
 #include "AxZedObjectParameters.h"
 #include "Catalogue.h"
-#include "Database.h"
+#include "Collection.h"
 #include "Findings.h"
 #include "Json.h"
 #include "Origin.h"
@@ -148,8 +148,8 @@ void locate(KeywordPath const& path, Database const& database, KeywordUses& uses
         database.withRecord(*entry,
                             [&, &entry = entry, &values = values](AxZedObjectParameters& record)
                             {
-                                RecordWalk walk(Database::foundFile(*entry), record);
-                                Origins origins(database.file(), walk.files().front(), record);
+                                RecordWalk walk = Collection::walkThrough(database, *entry, record);
+                                Origins origins(database, *entry, record);
                                 std::size_t ordinal = 0;
                                 walk.run(path,
                                          [&](RecordWalk const& at)
@@ -196,7 +196,7 @@ KeywordUses usesOf(KeywordPath const& path, Database const& database, bool& isCo
     isComplete = database.forEachRecord("reading",
                                         [&](AxSxpParameterDbEntry& entry, AxZedObjectParameters& record, Progress&)
                                         {
-                                            RecordWalk walk(Database::foundFile(entry), record);
+                                            RecordWalk walk = Collection::walkThrough(database, entry, record);
                                             collector.take(entry, walk);
                                         });
     for (auto& [owner, use] : uses)

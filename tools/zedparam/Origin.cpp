@@ -5,6 +5,7 @@
 #include "AxComponentSystemDescriptor.h"
 #include "AxSystemParameterData.h"
 #include "AxZedObjectParameters.h"
+#include "Collection.h"
 #include "ElementSource.h"
 #include "Json.h"
 #include "ShownPath.h"
@@ -99,14 +100,18 @@ void Origin::write(JsonWriter& json) const
     }
 }
 
-Origins::Origins(std::string databaseFile, std::string recordFile, AxZedObjectParameters& record)
-    : myDatabaseFile(std::move(databaseFile)), myRecordFile(std::move(recordFile)), myRecord(record)
+Origins::Origins(Database const& database, AxSxpParameterDbEntry const& entry, AxZedObjectParameters& record)
+    : myDatabase(database), myEntry(entry), myRecord(record)
 {
 }
 
 Origin Origins::of(RecordWalk const& at)
 {
     AxReaderWriter const& rw = at.rw();
+    if (at.ownItem() == nullptr && rw.inherited())
+    {
+        return ofInherited(at);
+    }
     Origin origin;
     if (at.ownItem() == nullptr && rw.isVariableReference())
     {
@@ -126,6 +131,34 @@ Origin Origins::of(RecordWalk const& at)
     return origin;
 }
 
+Origin Origins::ofInherited(RecordWalk const& at)
+{
+    Origin origin;
+    origin.kind = Origin::Kind::Inherited;
+    auto const* collection = dynamic_cast<Collection const*>(&myDatabase);
+    KeywordPath const path = pathOf(at.steps().first(at.steps().size() - 1), at.keyword().string().string());
+    AxObjectType type = myEntry.objectType();
+    bool isFound = false;
+    while (collection != nullptr && !isFound)
+    {
+        AxZedObjectParameters* const parent = collection->parentOf(type);
+        if (parent == nullptr)
+        {
+            break;
+        }
+        type = parent->objectType();
+        origin.parent = parent->name().string().string();
+        RecordWalk walk(collection->collectionFile(), *parent, collection->stepsTo(type));
+        walk.run(path,
+                 [&](RecordWalk const& given)
+                 {
+                     isFound = !given.rw().inherited();
+                     origin.place = myPlaces.of(given);
+                 });
+    }
+    return origin;
+}
+
 Origin Origins::ofDefault(RecordWalk const& at)
 {
     // A component system's definition declares its parameters with their defaults.
@@ -135,7 +168,7 @@ Origin Origins::ofDefault(RecordWalk const& at)
     {
         return origin;
     }
-    RecordWalk walk(myRecordFile, myRecord);
+    RecordWalk walk = Collection::walkThrough(myDatabase, myEntry, myRecord);
     walk.run(pathOf(at.steps().first(system), "system-definition/meta-data/parameter-data-list/*/default-value"),
              [&](RecordWalk const& declared)
              {
@@ -157,19 +190,25 @@ AxlObj const* Origins::cellOf(std::string const& variable, Place& place)
     {
         if (AxEnvValue const* const node = ElementSource(element).variable(variable))
         {
-            place = {shownPath(myRecordFile), node->line(), node->column()};
+            place = {Database::fileOf(myEntry), node->line(), node->column()};
             return AxlObj::nilCell();
         }
     }
-    else if (AxlObj const* const cell = myPlaces.valueIn(myRecordFile, steps))
+    else
     {
-        place = Places::at(myRecordFile, cell);
-        return cell;
+        RecordWalk const walk = Collection::walkThrough(myDatabase, myEntry, myRecord);
+        std::vector<SourceStep> inRecord(walk.stepsToRecord().begin(), walk.stepsToRecord().end());
+        inRecord.insert(inRecord.end(), std::begin(steps), std::end(steps));
+        if (AxlObj const* const cell = myPlaces.valueIn(walk.files().front(), inRecord))
+        {
+            place = Places::at(walk.files().front(), cell);
+            return cell;
+        }
     }
-    AxlObj const* const cell = myPlaces.valueIn(myDatabaseFile, steps);
+    AxlObj const* const cell = myPlaces.valueIn(myDatabase.file(), steps);
     if (cell != nullptr)
     {
-        place = Places::at(myDatabaseFile, cell);
+        place = Places::at(myDatabase.file(), cell);
     }
     return cell;
 }
@@ -184,7 +223,7 @@ void Origins::bind(std::string variable, RecordWalk const& at, Origin& origin)
         {
             if (variable == "opd-dir")
             {
-                place.file = shownPath(myDatabaseFile);
+                place.file = shownPath(myDatabase.file());
             }
             if (!place.file.empty() || !bindToSystem(variable, at, origin))
             {
@@ -205,7 +244,7 @@ bool Origins::bindToSystem(std::string const& variable, RecordWalk const& at, Or
 {
     std::size_t const system = stepsToSystem(at);
     bool isFound = false;
-    RecordWalk walk(myRecordFile, myRecord);
+    RecordWalk walk = Collection::walkThrough(myDatabase, myEntry, myRecord);
     if (system == 0 || system + 1 == at.steps().size())
     {
         return false;

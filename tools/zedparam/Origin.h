@@ -43,18 +43,19 @@ struct Origin
 class Origins
 {
 public:
-    Origins(std::string databaseFile, std::string recordFile, AxZedObjectParameters& record);
+    Origins(Database const& database, AxSxpParameterDbEntry const& entry, AxZedObjectParameters& record);
 
     Origin of(RecordWalk const& at);
 
 private:
     Origin ofDefault(RecordWalk const& at);
+    Origin ofInherited(RecordWalk const& at);
     void bind(std::string variable, RecordWalk const& at, Origin& origin);
     AxlObj const* cellOf(std::string const& variable, Place& place);
     bool bindToSystem(std::string const& variable, RecordWalk const& at, Origin& origin);
 
-    std::string myDatabaseFile;
-    std::string myRecordFile;
+    Database const& myDatabase;
+    AxSxpParameterDbEntry const& myEntry;
     AxZedObjectParameters& myRecord;
     Places myPlaces;
 };

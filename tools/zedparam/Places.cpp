@@ -40,7 +40,14 @@ Place Places::ofRecord(RecordWalk const& walk)
 {
     std::string const& file = walk.files().front();
     AxEnvValuePtr const& element = walk.record().objectNode();
-    return element ? Place{shownPath(file), element->line(), element->column()} : at(file, &source(file).expression());
+    if (element)
+    {
+        return {shownPath(file), element->line(), element->column()};
+    }
+    // Of a record in a list it is the first item that can be found by steps.
+    AxlObj const* const first =
+        walk.stepsToRecord().empty() ? &source(file).expression() : source(file).value(walk.stepsToRecord());
+    return at(file, first);
 }
 
 AxlObj const* Places::valueIn(std::string const& file, std::span<SourceStep const> path)

@@ -1,12 +1,18 @@
 #include "RecordWalk.h"
 
 #include <algorithm>
+#include <typeinfo>
 #include <unordered_map>
 #include <utility>
 
 #include "AxReaderWriterFile.h"
+#include "AxRwBoolean.h"
+#include "AxRwInt.h"
 #include "AxRwList.h"
 #include "AxRwProperty.h"
+#include "AxRwReal.h"
+#include "AxRwString.h"
+#include "AxRwUnsigned.h"
 #include "AxZedObjectParameters.h"
 #include "AxlFunctions.h"
 #include "RecordValue.h"
@@ -18,6 +24,14 @@ using Step = KeywordPath::Step;
 bool matches(Step const& step, AxSymbolString keyword, AxReaderWriter const& rw)
 {
     return step.kind == Step::Kind::Any || step.keyword == keyword || rw.hasAlias(step.keyword);
+}
+
+/// One number, word or text: there is nothing below, and nothing in it that has a keyword. Most of a record is such.
+bool isPlainValue(AxReaderWriter const& rw)
+{
+    std::type_info const& type = typeid(rw);
+    return type == typeid(AxRwReal) || type == typeid(AxRwBoolean) || type == typeid(AxRwString) ||
+           type == typeid(AxRwInt) || type == typeid(AxRwUnsigned);
 }
 
 /// The one keyword that the path goes on with; null when there may be several.
@@ -76,7 +90,10 @@ bool KeywordPath::isPlain() const
     return std::ranges::all_of(mySteps, [](Step const& step) { return step.kind == Step::Kind::Keyword; });
 }
 
-RecordWalk::RecordWalk(std::string file, AxZedObjectParameters& record) : myRecord(&record), myFiles{std::move(file)} {}
+RecordWalk::RecordWalk(std::string file, AxZedObjectParameters& record, std::vector<SourceStep> stepsToRecord)
+    : myRecord(&record), myFiles{std::move(file)}, mySteps(std::move(stepsToRecord)), myStepsToRecord(mySteps.size())
+{
+}
 
 void RecordWalk::run(KeywordPath const& path, Visit const& visit)
 {
@@ -87,7 +104,7 @@ void RecordWalk::run(KeywordPath const& path, Visit const& visit)
 std::string RecordWalk::path() const
 {
     std::string path;
-    for (SourceStep const& step : mySteps)
+    for (SourceStep const& step : steps())
     {
         path.append(path.empty() ? "" : "/").append(step.keyword.isNull() ? "*" : step.keyword.view());
     }
@@ -96,6 +113,10 @@ std::string RecordWalk::path() const
 
 void RecordWalk::below(AxReaderWriter& rw, Steps rest)
 {
+    if (isPlainValue(rw))
+    {
+        return;
+    }
     if (!rw.isValue())
     {
         if (AxReaderWriterRegistry const* registry = rw.registryIfAny())
@@ -134,7 +155,8 @@ void RecordWalk::members(AxReaderWriterRegistry const& registry, Steps rest)
     std::unordered_map<AxReaderWriter const*, AxReaderWriterFile const*> contents;
     for (std::size_t i = 0; i < registry.size(); ++i)
     {
-        auto const* file = dynamic_cast<AxReaderWriterFile const*>(registry.entry(i).member);
+        AxReaderWriter const& member = *registry.entry(i).member;
+        auto const* file = isPlainValue(member) ? nullptr : dynamic_cast<AxReaderWriterFile const*>(&member);
         if (file != nullptr && file->contentKind() == AxReaderWriterFile::ContentKind::Member &&
             !file->foundFilename().isNull())
         {

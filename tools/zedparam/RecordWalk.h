@@ -57,8 +57,8 @@ class RecordWalk
 public:
     using Visit = std::function<void(RecordWalk const& at)>;
 
-    /// `file` is that of the record.
-    RecordWalk(std::string file, AxZedObjectParameters& record);
+    /// `file` is that of the record; `stepsToRecord` lead to it where it is not the first expression.
+    RecordWalk(std::string file, AxZedObjectParameters& record, std::vector<SourceStep> stepsToRecord = {});
 
     /// Shows `visit` everything that the path names, each before what is below it.
     void run(KeywordPath const& path, Visit const& visit);
@@ -73,13 +73,15 @@ public:
     /// The name of the object or the word.
     AxSymbolString keyword() const { return mySteps.back().keyword; }
     /// The way from the record.
-    std::span<SourceStep const> steps() const { return mySteps; }
+    std::span<SourceStep const> steps() const { return std::span(mySteps).subspan(myStepsToRecord); }
     /// The file that holds it.
     std::string const& file() const { return myFiles[myFile]; }
     bool isInRecordsOwnFile() const { return myFile == 0; }
     /// The way from the first expression of that file.
     std::span<SourceStep const> stepsInFile() const { return std::span(mySteps).subspan(myFirstStep); }
 
+    /// From the first expression of the record's own file to the record.
+    std::span<SourceStep const> stepsToRecord() const { return std::span(mySteps).first(myStepsToRecord); }
     /// All files come to so far, the record's own first.
     std::vector<std::string> const& files() const { return myFiles; }
     AxZedObjectParameters& record() const { return *myRecord; }
@@ -106,4 +108,5 @@ private:
     AxlObj const* myOwnItem = nullptr;
     Visit const* myVisit = nullptr;
     std::string myOwnText; // kept for its memory
+    std::size_t myStepsToRecord;
 };

@@ -11,6 +11,7 @@
 #include "Answer.h"
 #include "AxNearest.h"
 #include "AxZedObjectParameters.h"
+#include "Collection.h"
 #include "Findings.h"
 #include "Json.h"
 #include "Origin.h"
@@ -178,7 +179,7 @@ void forEachValue(RecordWalk& walk, std::vector<KeywordPath> const& paths, bool 
 
 void printOrigins(Answer const& answer, RecordWalk& walk, std::vector<KeywordPath> const& paths, Options const& options)
 {
-    Origins origins(options.database, walk.files().front(), *answer.record);
+    Origins origins(*answer.database, *answer.entry, *answer.record);
     if (!options.json)
     {
         forEachValue(walk, paths, options.all,
@@ -210,7 +211,7 @@ int show(Options const& options)
     {
         return exitCode;
     }
-    RecordWalk walk(Database::foundFile(*answer.entry), *answer.record);
+    RecordWalk walk = Collection::walkThrough(*answer.database, *answer.entry, *answer.record);
     std::vector<KeywordPath> paths;
     if (!readPaths(options.keywords, walk, paths))
     {

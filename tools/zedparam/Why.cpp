@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "Database.h"
+#include "Collection.h"
 #include "Findings.h"
 #include "Json.h"
 #include "TypeArgument.h"
@@ -86,6 +86,16 @@ Account accountOf(AxObjectType const& type, std::vector<Candidate> const& candid
         }
     }
     return account;
+}
+
+/// Those of a collection, whose records stand in its own file.
+void addEntries(Collection const& collection, std::vector<ReadEntry>& read)
+{
+    for (AxSxpParameterDbEntry* entry : collection.entries())
+    {
+        AxObjectType const& type = entry->objectType();
+        read.push_back({type, false, collection.collectionFile(), collection.placeOf(type), entry});
+    }
 }
 
 std::string outcome(Candidate const& candidate, AxObjectType const& type)
@@ -277,10 +287,15 @@ int why(Options const& options)
         return CouldNotRun;
     }
     std::vector<ReadEntry> read;
-    std::unique_ptr<Database> const database = Database::open(options.database, std::make_unique<EntryReader>(read));
+    std::unique_ptr<Database> const database =
+        Collection::openAny(options.database, std::make_unique<EntryReader>(read));
     if (database == nullptr)
     {
         return CouldNotRun;
+    }
+    if (auto const* collection = dynamic_cast<Collection const*>(database.get()))
+    {
+        addEntries(*collection, read);
     }
     AxObjectType const type = typeToAsk(argument, *database);
     std::vector<Candidate> const candidates = candidatesFor(type, *database, read);
