@@ -188,7 +188,7 @@ private:
             out += fact("Description", markup(record.displayDescription().string()));
         }
         std::vector<std::string> used;
-        std::string const values = reportValues(record, Database::foundFile(*entry.entry), myDatabase, myFolder, used);
+        std::string const values = reportValues(record, *entry.entry, myDatabase, myFolder, used);
         for (Table& table : myTables)
         {
             if (std::ranges::find(used, table.shownFile) != used.end())

@@ -48,9 +48,13 @@ struct Part
 class RecordHtml
 {
 public:
-    RecordHtml(AxZedObjectParameters& record, std::string const& file, Database const& database,
+    RecordHtml(AxZedObjectParameters& record, AxSxpParameterDbEntry const& entry, Database const& database,
                ReportFolder const& folder, std::vector<std::string>& tables)
-        : myRecord(record), myFile(file), myFolder(folder), myTables(tables), myOrigins(database.file(), file, record)
+        : myRecord(record),
+          myFile(Database::foundFile(entry)),
+          myFolder(folder),
+          myTables(tables),
+          myOrigins(database, entry, record)
     {
     }
 
@@ -226,7 +230,7 @@ private:
     }
 
     AxZedObjectParameters& myRecord;
-    std::string const& myFile;
+    std::string const myFile;
     ReportFolder const& myFolder;
     std::vector<std::string>& myTables;
     Origins myOrigins;
@@ -235,8 +239,8 @@ private:
 };
 } // namespace
 
-std::string reportValues(AxZedObjectParameters& record, std::string const& file, Database const& database,
+std::string reportValues(AxZedObjectParameters& record, AxSxpParameterDbEntry const& entry, Database const& database,
                          ReportFolder const& folder, std::vector<std::string>& tables)
 {
-    return RecordHtml(record, file, database, folder, tables).write();
+    return RecordHtml(record, entry, database, folder, tables).write();
 }
