@@ -52,8 +52,7 @@ struct AxXmlReader::Item
     Attribute const* attribute; ///< null for a child
     std::uint32_t node;
     std::uint32_t position;
-    std::size_t place;  ///< of the member that has its keyword, or none
-    bool leads = false; ///< it comes before those that do not
+    std::size_t place; ///< of the member that has its keyword, or none
     bool isTaken = false;
     bool isOffered = false; ///< to the class, which did not take it
     AxlObjPtr cell{};       ///< made when it is needed
@@ -340,8 +339,9 @@ bool AxXmlReader::hasLead(AxReaderWriter const& rw, Element const& element, std:
         std::string_view const keyword = myDocument->name(*one);
         if (keyword == head)
         {
-            return (element.guide == &rw || !element.guide) && head.ends_with("-type") && !one->isCoded &&
-                   AxXmlValue::isPlainWord(myDocument->rawValue(*one)) && !AxTreeCells::memberFor(&rw, AxString(head));
+            bool const leads = !element.guide ? head.ends_with("-type")
+                                              : element.guide == &rw && !AxTreeCells::memberFor(&rw, AxString(head));
+            return leads && !one->isCoded && AxXmlValue::isPlainWord(myDocument->rawValue(*one));
         }
         bool const isMember = !element.guide ? !keyword.ends_with("-type")
                                              : AxTreeCells::memberFor(element.guide, AxString(keyword)) != nullptr;
@@ -488,7 +488,7 @@ void AxXmlReader::addAttributes(Record& record) const
     auto const& slots = record.table.slots;
     bool const isAny = document.tag(node) == AxTreeCells::theAnyTag;
     std::size_t expected = 0;
-    bool anyLeads = false;
+    std::ptrdiff_t leading = 0;
     Attribute const* const end = document.attributesEnd(node);
     record.items.reserve(static_cast<std::size_t>(end - document.attributesBegin(node)) + 8);
     for (Attribute const* one = document.attributesBegin(node); one != end; ++one)
@@ -511,12 +511,8 @@ void AxXmlReader::addAttributes(Record& record) const
         place = place != none ? place : placeOf(record.table, keyword);
         expected = place != none ? place + 1 : expected;
         bool const leads = record.leads(keyword, place);
-        anyLeads = anyLeads || leads;
-        record.items.push_back({one, node, 0, place, leads});
-    }
-    if (anyLeads)
-    {
-        std::stable_partition(record.items.begin(), record.items.end(), [](Item const& item) { return item.leads; });
+        record.items.insert(leads ? record.items.begin() + leading : record.items.end(), Item{one, node, 0, place});
+        leading += leads ? 1 : 0;
     }
 }
 
