@@ -137,14 +137,15 @@ void checkWires(Wiring const& wiring, std::function<void(WireFault const&)> cons
     WireCheck(wiring, report).run();
 }
 
-void checkNamedPorts(AxComponentSystemDefinition const& system, PortReport const& report)
+void checkNamedPorts(AxComponentSystemDefinition const& system, PortReport const& portReport)
 {
     AxConnectionDescriptorList const& wires = system.connectionDescriptorList();
     auto const check = [&](char const* keyword, AxString const& port, bool isThere)
     {
         if (!isThere)
         {
-            report(keyword, port.string(), "no connection of the system leads to its port \"" + port.string() + '"');
+            portReport(keyword, port.string(),
+                       "no connection of the system leads to its port \"" + port.string() + '"');
         }
     };
     for (AxSystemMetaDataEntry const* entry : system.metaData().metaDataEntryList())
@@ -195,7 +196,7 @@ bool anyHas(AxComponentSystemDescriptorList const& systems, AxString const& port
 }
 } // namespace
 
-void checkAutomaticWires(AxZedObjectParameters const& record, PortReport const& report)
+void checkAutomaticWires(AxZedObjectParameters const& record, PortReport const& portReport)
 {
     AxComponentSystemDescriptorList const& systems = record.systemDescriptorList();
     if (!areAllDefined(systems))
@@ -206,13 +207,13 @@ void checkAutomaticWires(AxZedObjectParameters const& record, PortReport const& 
     {
         if (!anyHas(systems, rule->output(), true))
         {
-            report("output", rule->output().string(),
-                   "no system of the record has the output \"" + rule->output().string() + '"');
+            portReport("output", rule->output().string(),
+                       "no system of the record has the output \"" + rule->output().string() + '"');
         }
         if (!anyHas(systems, rule->input(), false))
         {
-            report("input", rule->input().string(),
-                   "no system of the record has the input \"" + rule->input().string() + '"');
+            portReport("input", rule->input().string(),
+                       "no system of the record has the input \"" + rule->input().string() + '"');
         }
     }
 }

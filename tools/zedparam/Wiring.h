@@ -41,7 +41,7 @@ void checkWires(Wiring const& wiring, std::function<void(WireFault const&)> cons
 using PortReport = std::function<void(char const* keyword, std::string const& port, std::string text)>;
 
 /// Reports each port that the meta-data of a system names and no wire leads to.
-void checkNamedPorts(AxComponentSystemDefinition const& system, PortReport const& report);
+void checkNamedPorts(AxComponentSystemDefinition const& system, PortReport const& portReport);
 
 /// Reports each side of an automatic connection that no system of the record has.
-void checkAutomaticWires(AxZedObjectParameters const& record, PortReport const& report);
+void checkAutomaticWires(AxZedObjectParameters const& record, PortReport const& portReport);
