@@ -11,6 +11,7 @@
 #include "Database.h"
 #include "Dot.h"
 #include "Findings.h"
+#include "RecordFile.h"
 #include "SystemGraph.h"
 #include "Tables.h"
 #include "WriteFile.h"
@@ -21,9 +22,30 @@ struct Options
 {
     std::string file;
     std::string type;
+    std::string database;
+    std::string object;
     std::string output;
     bool dot = false;
 };
+
+int readRecordGraph(Options const& options, SystemGraph& graph)
+{
+    std::unique_ptr<Database> const database =
+        options.database.empty() ? Database::openNone() : Database::open(options.database);
+    if (database == nullptr)
+    {
+        return CouldNotRun;
+    }
+    Records const records = readRecords(options.file, options.object, *database);
+    if (records.size() != 1)
+    {
+        std::fprintf(stderr, "zedparam: %s holds %s\n", options.file.c_str(),
+                     records.empty() ? "no such record" : "several objects; name one with --object");
+        return CouldNotRun;
+    }
+    graph = graphOf(*records.front());
+    return Fine;
+}
 
 /// Answers an exit code; unless that is Fine or HasFindings, a line was printed.
 int readGraph(Options const& options, SystemGraph& graph)
@@ -39,7 +61,12 @@ int readGraph(Options const& options, SystemGraph& graph)
         graph = graphOf(*answer.record);
         return Fine;
     }
-    if (AxFilename(options.file).extension() == AxString("opd"))
+    AxString const extension = AxFilename(options.file).extension();
+    if (extension == "ope" || extension == "entity")
+    {
+        return readRecordGraph(options, graph);
+    }
+    if (extension == "opd")
     {
         std::fprintf(stderr, "zedparam: %s is a database; expected an object type behind it\n", options.file.c_str());
         return CouldNotRun;
@@ -88,8 +115,12 @@ void addGraphCommand(CLI::App& app, int& exitCode)
     auto const options = std::make_shared<Options>();
     CLI::App* command =
         app.add_subcommand("graph", "The systems and components of an object, and how they are connected.");
-    command->add_option("FILE", options->file, "A database (.opd), or a component system (.sys)")->required();
+    command
+        ->add_option("FILE", options->file, "A database (.opd), a record (.ope, .entity), or a component system (.sys)")
+        ->required();
     command->add_option("TYPE", options->type, "In a database: the object type, such as 1:1:1:225:1:1:3:0");
+    command->add_option("--database", options->database, "Of a record: the database that binds its variables");
+    command->add_option("--object", options->object, "Of an entity file: which object, by name");
     command->add_flag("--dot", options->dot, "In the language of Graphviz instead of an outline or picture");
     command->add_option("-o,--output", options->output, "Write an SVG file, or with --dot its text");
     command->callback([options, &exitCode] { exitCode = drawGraph(*options); });
