@@ -120,7 +120,9 @@ bool AxObjectElement::isEmpty(AxEnvObject const& others)
 
 bool AxObjectElement::isOthersItem(std::string const& item)
 {
-    return item.starts_with(std::string("(") + AxTreeCells::theXmlHead + " \"<" + theTag);
+    std::string beginning = "(";
+    beginning.append(AxTreeCells::theXmlHead).append(" \"<").append(theTag);
+    return item.starts_with(beginning);
 }
 
 void AxObjectElement::addOthers(AxEnvObject& element, AxEnvObject& others)
