@@ -40,13 +40,13 @@ private:
         {"near-distance", "m", "Distance to the destination at which the vessel slows down.", axNotNegative},
         500.0,
         registry()};
-    AxRwReal myNormalAccelerationFraction{{"normal-acceleration-fraction", "",
-                                           "Fraction of the largest acceleration used in normal steering.", axFraction},
-                                          0.5,
-                                          registry()};
-    AxRwReal myNormalLateralAccelerationFraction{
-        {"normal-lateral-acceleration-fraction", "",
-         "Fraction of the largest lateral acceleration used in normal steering.", axFraction},
+    AxRwReal myNormalAccelerationFraction{
+        {"normal-acceleration-fraction", "", "Share of the largest acceleration in normal steering.", axFraction},
         0.5,
         registry()};
+    AxRwReal myNormalLateralAccelerationFraction{{"normal-lateral-acceleration-fraction", "",
+                                                  "Share of the largest lateral acceleration in normal steering.",
+                                                  axFraction},
+                                                 0.5,
+                                                 registry()};
 };
