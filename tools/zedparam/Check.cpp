@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -9,6 +8,7 @@
 
 #include "AxReadWholeFile.h"
 #include "Codes.h"
+#include "CommandLine.h"
 #include "DatabaseCheck.h"
 #include "FileCheck.h"
 #include "Findings.h"
@@ -129,28 +129,17 @@ int run(Options const& options)
 }
 } // namespace
 
-void addCheckCommand(CLI::App& app, int& exitCode)
+void addCheckCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand(
-        "check",
-        "Checks a database with all its records and tables, or one file; prints every finding with its place.");
-    CLI::Option* file = command->add_option(
-        "FILE", options->file,
-        "A database (.opd), a record (.ope), an entity file (.entity), a table (.hit, .det, .asl, .dmg, .frm), a group "
-        "of objects (.sog), a model set, a collection of records or a system definition");
-    CLI::Option* list = command->add_flag("--list", options->list, "Print all codes of findings, with their meaning");
-    file->excludes(list);
-    command->add_flag("--json", options->json, "Print JSON");
-    command->add_flag("--timing", options->timing,
-                      "Tell the time and memory that it took on the standard error stream");
-    command->callback(
-        [options, file, list, &exitCode]
-        {
-            if (file->empty() && list->empty())
-            {
-                throw CLI::RequiredError("FILE");
-            }
-            exitCode = run(*options);
-        });
+    line.add("check",
+             "Checks a database with all its records and tables, or one file; prints every finding with its place.",
+             [options] { return run(*options); })
+        .optional("FILE", options->file,
+                  "A database (.opd), a record (.ope), an entity file (.entity), a table (.hit, .det, .asl, .dmg, "
+                  ".frm), a group of objects (.sog), a model set, a collection of records or a system definition")
+        .flag("--list", options->list, "Print all codes of findings, with their meaning")
+        .insteadOf("FILE")
+        .flag("--json", options->json, "Print JSON")
+        .flag("--timing", options->timing, "Tell the time and memory that it took on the standard error stream");
 }

@@ -1,9 +1,6 @@
 #pragma once
 
-namespace CLI
-{
-class App;
-}
+class CommandLine;
 
 /// What the process ends with.
 enum ExitCode
@@ -13,27 +10,27 @@ enum ExitCode
     CouldNotRun = 2
 };
 
-/// Each adds one sub-command. When the command line calls it, it runs and leaves what it ended with in `exitCode`.
-void addInfoCommand(CLI::App& app, int& exitCode);
-void addListCommand(CLI::App& app, int& exitCode);
-void addFindCommand(CLI::App& app, int& exitCode);
-void addLookupCommand(CLI::App& app, int& exitCode);
-void addWhyCommand(CLI::App& app, int& exitCode);
-void addShowCommand(CLI::App& app, int& exitCode);
-void addCheckCommand(CLI::App& app, int& exitCode);
-void addSaveCommand(CLI::App& app, int& exitCode);
-void addTypesCommand(CLI::App& app, int& exitCode);
-void addExplainCommand(CLI::App& app, int& exitCode);
-void addModelsCommand(CLI::App& app, int& exitCode);
-void addConvertCommand(CLI::App& app, int& exitCode);
-void addSchemaCommand(CLI::App& app, int& exitCode);
-void addProbabilityCommand(CLI::App& app, int& exitCode);
-void addPlotCommand(CLI::App& app, int& exitCode);
-void addGraphCommand(CLI::App& app, int& exitCode);
-void addReportCommand(CLI::App& app, int& exitCode);
-void addSetCommand(CLI::App& app, int& exitCode);
-void addUnsetCommand(CLI::App& app, int& exitCode);
-void addFmtCommand(CLI::App& app, int& exitCode);
-void addDiffCommand(CLI::App& app, int& exitCode);
-void addMergeCommand(CLI::App& app, int& exitCode);
-void addManualCommand(CLI::App& app, int& exitCode);
+// Each adds one sub-command.
+void addInfoCommand(CommandLine& line);
+void addListCommand(CommandLine& line);
+void addFindCommand(CommandLine& line);
+void addLookupCommand(CommandLine& line);
+void addWhyCommand(CommandLine& line);
+void addShowCommand(CommandLine& line);
+void addCheckCommand(CommandLine& line);
+void addSaveCommand(CommandLine& line);
+void addTypesCommand(CommandLine& line);
+void addExplainCommand(CommandLine& line);
+void addModelsCommand(CommandLine& line);
+void addConvertCommand(CommandLine& line);
+void addSchemaCommand(CommandLine& line);
+void addProbabilityCommand(CommandLine& line);
+void addPlotCommand(CommandLine& line);
+void addGraphCommand(CommandLine& line);
+void addReportCommand(CommandLine& line);
+void addSetCommand(CommandLine& line);
+void addUnsetCommand(CommandLine& line);
+void addFmtCommand(CommandLine& line);
+void addDiffCommand(CommandLine& line);
+void addMergeCommand(CommandLine& line);
+void addManualCommand(CommandLine& line);

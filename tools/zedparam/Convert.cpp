@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <boost/make_shared.hpp>
 #include <cstdio>
 #include <memory>
@@ -9,6 +8,7 @@
 #include "AxEnvXMLWriter.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
+#include "CommandLine.h"
 #include "ConvertDatabase.h"
 #include "ConvertWriters.h"
 #include "Database.h"
@@ -159,18 +159,15 @@ int convert(Options const& options)
 }
 } // namespace
 
-void addConvertCommand(CLI::App& app, int& exitCode)
+void addConvertCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand(
-        "convert", "Writes the record in a file, or all records of a database, in another notation.");
-    command->add_option("FILE", options->file, "A record file (.ope), an entity file (.entity) or a database (.opd)")
-        ->required();
-    command->add_option("--to", options->form, "The notation: ope, entity or json")
-        ->required()
-        ->check(CLI::IsMember({"ope", "entity", "json"}));
-    command->add_option("-o,--output", options->output, "The file to write; none: the standard output");
-    command->add_option("--database", options->database, "The database that binds the variables of a record file");
-    command->add_option("--object", options->object, "Of an entity file, the object of this name alone");
-    command->callback([options, &exitCode] { exitCode = convert(*options); });
+    line.add("convert", "Writes the record in a file, or all records of a database, in another notation.",
+             [options] { return convert(*options); })
+        .required("FILE", options->file, "A record file (.ope), an entity file (.entity) or a database (.opd)")
+        .required("--to", options->form, "The notation: ope, entity or json")
+        .oneOf({"ope", "entity", "json"})
+        .optional("-o,--output", options->output, "The file to write; none: the standard output")
+        .optional("--database", options->database, "The database that binds the variables of a record file")
+        .optional("--object", options->object, "Of an entity file, the object of this name alone");
 }

@@ -1,13 +1,13 @@
 #include "DatabaseCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <memory>
 
+#include "CommandLine.h"
 #include "Commands.h"
 #include "Database.h"
 #include "Findings.h"
 
-void addDatabaseCommand(CLI::App& app, int& exitCode, char const* name, char const* help,
+void addDatabaseCommand(CommandLine& line, char const* name, char const* help,
                         int (*run)(std::string const& file, bool asJson))
 {
     struct Options
@@ -16,10 +16,9 @@ void addDatabaseCommand(CLI::App& app, int& exitCode, char const* name, char con
         bool json = false;
     };
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand(name, help);
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_flag("--json", options->json, "Print JSON");
-    command->callback([options, run, &exitCode] { exitCode = run(options->database, options->json); });
+    line.add(name, help, [options, run] { return run(options->database, options->json); })
+        .required("DB", options->database, "The database file (.opd)")
+        .flag("--json", options->json, "Print JSON");
 }
 
 int printDatabase(std::string const& file, std::function<void(Database const&)> const& print)

@@ -3,14 +3,11 @@
 #include <functional>
 #include <string>
 
-namespace CLI
-{
-class App;
-}
+class CommandLine;
 class Database;
 
 /// Adds the sub-command `name DB [--json]`. `run` answers what the process ends with.
-void addDatabaseCommand(CLI::App& app, int& exitCode, char const* name, char const* help,
+void addDatabaseCommand(CommandLine& line, char const* name, char const* help,
                         int (*run)(std::string const& file, bool asJson));
 
 /// Opens a database, lets `print` print what it wants of it, and answers what the process ends with.

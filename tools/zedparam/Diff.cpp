@@ -1,8 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
 
+#include "CommandLine.h"
 #include "Commands.h"
 #include "Database.h"
 #include "DiffDatabases.h"
@@ -60,20 +60,17 @@ int diff(Options const& options)
 }
 } // namespace
 
-void addDiffCommand(CLI::App& app, int& exitCode)
+void addDiffCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand(
-        "diff", "What tells two records, tables, definitions or databases apart: a line for each difference.");
-    command->add_option("A", options->files[0], "A file of any kind, or a database (.opd)")->required();
-    command->add_option("B", options->files[1], "Its other version; a record may stand in another notation")
-        ->required();
-    command
-        ->add_option("--tolerance", options->how.tolerance, "Numbers are equal that differ by this part of the larger")
-        ->check(CLI::NonNegativeNumber);
-    command->add_flag("--defaults", options->how.defaults, "What is not there counts as its default");
-    command->add_option("--database", options->database, "The database that binds the variables of record files");
-    command->add_flag("--json", options->json, "Print JSON");
-    command->footer("Exit codes: 0 the same, 1 different, 2 could not run.");
-    command->callback([options, &exitCode] { exitCode = diff(*options); });
+    line.add("diff", "What tells two records, tables, definitions or databases apart: a line for each difference.",
+             [options] { return diff(*options); })
+        .required("A", options->files[0], "A file of any kind, or a database (.opd)")
+        .required("B", options->files[1], "Its other version; a record may stand in another notation")
+        .optional("--tolerance", options->how.tolerance, "Numbers are equal that differ by this part of the larger")
+        .notNegative()
+        .flag("--defaults", options->how.defaults, "What is not there counts as its default")
+        .optional("--database", options->database, "The database that binds the variables of record files")
+        .flag("--json", options->json, "Print JSON")
+        .footer("Exit codes: 0 the same, 1 different, 2 could not run.");
 }

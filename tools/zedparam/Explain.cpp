@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <map>
@@ -13,6 +12,7 @@
 #include "AxNearest.h"
 #include "Catalogue.h"
 #include "Collection.h"
+#include "CommandLine.h"
 #include "Findings.h"
 #include "Json.h"
 #include "KeywordUse.h"
@@ -217,15 +217,12 @@ int explainUse(Options const& options)
 }
 } // namespace
 
-void addExplainCommand(CLI::App& app, int& exitCode)
+void addExplainCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command =
-        app.add_subcommand("explain", "What a keyword means, which types have it, and how a database uses it.");
-    command->add_option("KEYWORD", options->keyword, "The keyword, such as max-speed; with a database also a path")
-        ->required();
-    command->add_option("DB", options->database, "A database file (.opd) to tell the use in");
-    command->add_flag("--json", options->json, "Print JSON; under \"types\" stands the default of each");
-    command->callback([options, &exitCode]
-                      { exitCode = options->database.empty() ? explain(*options) : explainUse(*options); });
+    line.add("explain", "What a keyword means, which types have it, and how a database uses it.",
+             [options] { return options->database.empty() ? explain(*options) : explainUse(*options); })
+        .required("KEYWORD", options->keyword, "The keyword, such as max-speed; with a database also a path")
+        .optional("DB", options->database, "A database file (.opd) to tell the use in")
+        .flag("--json", options->json, "Print JSON; under \"types\" stands the default of each");
 }

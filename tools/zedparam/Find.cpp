@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <memory>
@@ -13,6 +12,7 @@
 #include "AxZedObjectParameters.h"
 #include "Catalogue.h"
 #include "Collection.h"
+#include "CommandLine.h"
 #include "FindExpression.h"
 #include "Findings.h"
 #include "Json.h"
@@ -227,21 +227,17 @@ int find(Options const& options)
 }
 } // namespace
 
-void addFindCommand(CLI::App& app, int& exitCode)
+void addFindCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("find", "The records that meet a condition.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command
-        ->add_option("EXPRESSION", options->expression,
-                     "The condition, such as 'max-speed > 60 km/h and parameter-type = \"ground-vehicle-param\"'")
-        ->required();
-    command->add_option("KEYWORD", options->keywords, "Values to show; none: those that the condition names");
-    command->add_flag("--json", options->json, "Print JSON");
-    command->footer(
-        "Conditions: KEYWORD =, !=, <, <=, >, >= VALUE; KEYWORD ~ \"te*t\"; exists KEYWORD; specified "
-        "KEYWORD;\nand, or, not, parentheses. A KEYWORD may be a path (systems/*/reload-time), @type, @name "
-        "or @file;\na VALUE is a number with or without a unit, a text in quotes, true, false or another "
-        "KEYWORD.");
-    command->callback([options, &exitCode] { exitCode = find(*options); });
+    line.add("find", "The records that meet a condition.", [options] { return find(*options); })
+        .required("DB", options->database, "The database file (.opd)")
+        .required("EXPRESSION", options->expression,
+                  "The condition, such as 'max-speed > 60 km/h and parameter-type = \"ground-vehicle-param\"'")
+        .optional("KEYWORD", options->keywords, "Values to show; none: those that the condition names")
+        .flag("--json", options->json, "Print JSON")
+        .footer("Conditions: KEYWORD =, !=, <, <=, >, >= VALUE; KEYWORD ~ \"te*t\"; exists KEYWORD; specified "
+                "KEYWORD;\nand, or, not, parentheses. A KEYWORD may be a path (systems/*/reload-time), @type, @name "
+                "or @file;\na VALUE is a number with or without a unit, a text in quotes, true, false or another "
+                "KEYWORD.");
 }

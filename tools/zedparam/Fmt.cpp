@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -11,6 +10,7 @@
 #include <vector>
 
 #include "AxReadWholeFile.h"
+#include "CommandLine.h"
 #include "Findings.h"
 #include "TextLayout.h"
 #include "UnifiedDiff.h"
@@ -109,24 +109,25 @@ int format(std::string const& file, Options const& options)
     std::printf("formatted %s\n", file.c_str());
     return Fine;
 }
+
+/// What went worst.
+int formatAll(Options const& options)
+{
+    int exitCode = Fine;
+    for (std::string const& file : options.files)
+    {
+        exitCode = std::max(exitCode, format(file, options));
+    }
+    return exitCode;
+}
 } // namespace
 
-void addFmtCommand(CLI::App& app, int& exitCode)
+void addFmtCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command =
-        app.add_subcommand("fmt", "Lays files out as the library writes them; comments and what is not known stay.");
-    command
-        ->add_option("FILE", options->files, "Parameter text or XML; - reads standard input and writes standard output")
-        ->required();
-    command->add_flag("--check", options->check, "Write nothing; name the files that would change");
-    command->add_flag("--diff", options->diff, "Write nothing; show what would change");
-    command->callback(
-        [options, &exitCode]
-        {
-            for (std::string const& file : options->files)
-            {
-                exitCode = std::max(exitCode, format(file, *options));
-            }
-        });
+    line.add("fmt", "Lays files out as the library writes them; comments and what is not known stay.",
+             [options] { return formatAll(*options); })
+        .required("FILE", options->files, "Parameter text or XML; - reads standard input and writes standard output")
+        .flag("--check", options->check, "Write nothing; name the files that would change")
+        .flag("--diff", options->diff, "Write nothing; show what would change");
 }

@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -8,6 +7,7 @@
 #include "Answer.h"
 #include "AxComponentSystemDefinition.h"
 #include "AxZedObjectParameters.h"
+#include "CommandLine.h"
 #include "Database.h"
 #include "Dot.h"
 #include "Findings.h"
@@ -110,18 +110,15 @@ int drawGraph(Options const& options)
 }
 } // namespace
 
-void addGraphCommand(CLI::App& app, int& exitCode)
+void addGraphCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command =
-        app.add_subcommand("graph", "The systems and components of an object, and how they are connected.");
-    command
-        ->add_option("FILE", options->file, "A database (.opd), a record (.ope, .entity), or a component system (.sys)")
-        ->required();
-    command->add_option("TYPE", options->type, "In a database: the object type, such as 1:1:1:225:1:1:3:0");
-    command->add_option("--database", options->database, "Of a record: the database that binds its variables");
-    command->add_option("--object", options->object, "Of an entity file: which object, by name");
-    command->add_flag("--dot", options->dot, "In the language of Graphviz instead of an outline or picture");
-    command->add_option("-o,--output", options->output, "Write an SVG file, or with --dot its text");
-    command->callback([options, &exitCode] { exitCode = drawGraph(*options); });
+    line.add("graph", "The systems and components of an object, and how they are connected.",
+             [options] { return drawGraph(*options); })
+        .required("FILE", options->file, "A database (.opd), a record (.ope, .entity), or a component system (.sys)")
+        .optional("TYPE", options->type, "In a database: the object type, such as 1:1:1:225:1:1:3:0")
+        .optional("--database", options->database, "Of a record: the database that binds its variables")
+        .optional("--object", options->object, "Of an entity file: which object, by name")
+        .flag("--dot", options->dot, "In the language of Graphviz instead of an outline or picture")
+        .optional("-o,--output", options->output, "Write an SVG file, or with --dot its text");
 }

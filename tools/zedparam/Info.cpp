@@ -77,7 +77,7 @@ int info(std::string const& file, bool asJson)
 }
 } // namespace
 
-void addInfoCommand(CLI::App& app, int& exitCode)
+void addInfoCommand(CommandLine& line)
 {
-    addDatabaseCommand(app, exitCode, "info", "What a database holds, in numbers; no record is read.", info);
+    addDatabaseCommand(line, "info", "What a database holds, in numbers; no record is read.", info);
 }

@@ -50,7 +50,7 @@ int list(std::string const& file, bool asJson)
 }
 } // namespace
 
-void addListCommand(CLI::App& app, int& exitCode)
+void addListCommand(CommandLine& line)
 {
-    addDatabaseCommand(app, exitCode, "list", "All entries: type, exact or pattern, record file.", list);
+    addDatabaseCommand(line, "list", "All entries: type, exact or pattern, record file.", list);
 }

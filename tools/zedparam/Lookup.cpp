@@ -1,12 +1,12 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
 
 #include "Answer.h"
 #include "AxZedObjectParameters.h"
+#include "CommandLine.h"
 #include "Database.h"
 #include "Findings.h"
 #include "Json.h"
@@ -25,46 +25,44 @@ void printText(Answer const& answer)
                     title.isNull() ? "" : ": ", title.c_str());
     }
 }
+
+struct Options
+{
+    std::string database;
+    std::string type;
+    bool json = false;
+};
+
+int lookup(Options const& options)
+{
+    Findings findings(Findings::Print::AtOnce);
+    Answer answer;
+    int const exitCode = ask(options.database, options.type, answer);
+    if (exitCode == CouldNotRun)
+    {
+        return exitCode;
+    }
+    if (options.json)
+    {
+        JsonWriter json;
+        json.beginObject();
+        writeAnswer(json, answer);
+        json.endObject().print();
+    }
+    else if (answer.entry != nullptr)
+    {
+        printText(answer);
+    }
+    return exitCode == Fine && !findings.empty() ? HasFindings : exitCode;
+}
 } // namespace
 
-void addLookupCommand(CLI::App& app, int& exitCode)
+void addLookupCommand(CommandLine& line)
 {
-    struct Options
-    {
-        std::string database;
-        std::string type;
-        bool json = false;
-    };
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("lookup", "Which entry answers an object type, and from which file.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_option("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")->required();
-    command->add_flag("--json", options->json, "Print JSON");
-    command->callback(
-        [options, &exitCode]
-        {
-            Findings findings(Findings::Print::AtOnce);
-            Answer answer;
-            exitCode = ask(options->database, options->type, answer);
-            if (exitCode == CouldNotRun)
-            {
-                return;
-            }
-            if (options->json)
-            {
-                JsonWriter json;
-                json.beginObject();
-                writeAnswer(json, answer);
-                json.endObject().print();
-            }
-            else if (answer.entry == nullptr)
-            {
-                return;
-            }
-            else
-            {
-                printText(answer);
-            }
-            exitCode = exitCode == Fine && !findings.empty() ? HasFindings : exitCode;
-        });
+    line.add("lookup", "Which entry answers an object type, and from which file.",
+             [options] { return lookup(*options); })
+        .required("DB", options->database, "The database file (.opd)")
+        .required("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")
+        .flag("--json", options->json, "Print JSON");
 }

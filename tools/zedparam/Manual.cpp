@@ -189,9 +189,9 @@ std::string zshCompletion(CLI::App const& app)
            "_zedparam \"$@\"\n";
 }
 
-std::string manPage(CLI::App const& app, std::string const& version)
+std::string manPage(CLI::App const& app)
 {
-    std::string text = ".TH ZEDPARAM 1 \"\" \"" + version + "\" \"User Commands\"\n.SH NAME\nzedparam \\- " +
+    std::string text = ".TH ZEDPARAM 1 \"\" \"" + app.version() + "\" \"User Commands\"\n.SH NAME\nzedparam \\- " +
                        roff(app.get_description()) +
                        "\n.SH SYNOPSIS\n.B zedparam\n.I COMMAND\n[\\fIOPTIONS\\fR] \\fIARGUMENTS\\fR\n.SH COMMANDS\n";
     for (CLI::App const* command : commands(app))

@@ -12,6 +12,6 @@ class App;
 std::string bashCompletion(CLI::App const& app);
 std::string zshCompletion(CLI::App const& app);
 /// A page for man(1).
-std::string manPage(CLI::App const& app, std::string const& version);
+std::string manPage(CLI::App const& app);
 /// The help texts of all sub-commands.
 std::string helpTexts(CLI::App const& app);

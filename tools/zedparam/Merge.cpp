@@ -1,8 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
 
+#include "CommandLine.h"
 #include "Commands.h"
 #include "Json.h"
 #include "ReadFile.h"
@@ -65,23 +65,22 @@ int merge(Options const& options)
 }
 } // namespace
 
-void addMergeCommand(CLI::App& app, int& exitCode)
+void addMergeCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand(
-        "merge",
-        "Brings what was changed from BASE to THEIRS into OURS, keyword by keyword; serves git as merge driver.");
-    command->add_option("BASE", options->base, "The version that both began with; may be empty")->required();
-    command->add_option("OURS", options->ours, "The version to change")->required();
-    command->add_option("THEIRS", options->theirs, "The version to bring in")->required();
-    command->add_option("-o,--output", options->output, "The file to write; none: OURS");
-    command->add_option("--path", options->path, "What the file is called in messages");
-    command->add_option("--marker-size", options->how.markerSize, "Length of the marks around a conflict")
-        ->check(CLI::Range(1, 1000))
-        ->capture_default_str();
-    command->add_option("--ours-label", options->how.ours, "Stands at the beginning of a conflict");
-    command->add_option("--theirs-label", options->how.theirs, "Stands at the end of a conflict");
-    command->add_flag("--json", options->json, "Print JSON");
-    command->footer("Exit codes: 0 merged, 1 with conflicts between lines of marks, 2 could not run.");
-    command->callback([options, &exitCode] { exitCode = merge(*options); });
+    line.add("merge",
+             "Brings what was changed from BASE to THEIRS into OURS, keyword by keyword; serves git as merge driver.",
+             [options] { return merge(*options); })
+        .required("BASE", options->base, "The version that both began with; may be empty")
+        .required("OURS", options->ours, "The version to change")
+        .required("THEIRS", options->theirs, "The version to bring in")
+        .optional("-o,--output", options->output, "The file to write; none: OURS")
+        .optional("--path", options->path, "What the file is called in messages")
+        .optional("--marker-size", options->how.markerSize, "Length of the marks around a conflict")
+        .between(1, 1000)
+        .showDefault()
+        .optional("--ours-label", options->how.ours, "Stands at the beginning of a conflict")
+        .optional("--theirs-label", options->how.theirs, "Stands at the end of a conflict")
+        .flag("--json", options->json, "Print JSON")
+        .footer("Exit codes: 0 merged, 1 with conflicts between lines of marks, 2 could not run.");
 }

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
@@ -9,6 +8,7 @@
 #include "AxModelSet.h"
 #include "AxSimulationObjectBaseState.h"
 #include "AxSimulationObjectGroupModelSetEntry.h"
+#include "CommandLine.h"
 #include "Commands.h"
 #include "Findings.h"
 #include "Json.h"
@@ -203,15 +203,13 @@ int run(Options const& options)
 }
 } // namespace
 
-void addModelsCommand(CLI::App& app, int& exitCode)
+void addModelsCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("models", "What users may create: all models, or one of them.");
-    command->add_option("PATH", options->path, "A model set file, or a directory of .entity and .sog files")
-        ->required();
-    CLI::Option* label = command->add_option("--label", options->label, "The first model of this label");
-    command->add_option("--type", options->type, "The model of this object type, else the best pattern for it")
-        ->excludes(label);
-    command->add_flag("--json", options->json, "Print JSON");
-    command->callback([options, &exitCode] { exitCode = run(*options); });
+    line.add("models", "What users may create: all models, or one of them.", [options] { return run(*options); })
+        .required("PATH", options->path, "A model set file, or a directory of .entity and .sog files")
+        .optional("--label", options->label, "The first model of this label")
+        .optional("--type", options->type, "The model of this object type, else the best pattern for it")
+        .excludes("--label")
+        .flag("--json", options->json, "Print JSON");
 }

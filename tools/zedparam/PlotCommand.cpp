@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -9,6 +8,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "CommandLine.h"
 #include "Findings.h"
 #include "Plot.h"
 #include "PlotSvg.h"
@@ -88,22 +88,18 @@ int plot(Options const& options)
 }
 } // namespace
 
-void addPlotCommand(CLI::App& app, int& exitCode)
+void addPlotCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command =
-        app.add_subcommand("plot", "Draws the probabilities of a table by range, or of two of its versions.");
-    command
-        ->add_option("FILE", options->files,
-                     "A hit, detection or damage table (.hit, .det, .dmg), or a file with one inside; two: one drawing "
-                     "of both")
-        ->required()
-        ->expected(1, 2);
-    command->add_option("--table", options->table, "Which table of the file, by its keyword, when there are several");
-    command->add_option("-o,--output", options->output, "Write an SVG file instead of drawing in characters");
-    command
-        ->add_option("--style", options->style,
-                     "plain (ASCII), unicode, or auto: unicode on a terminal that has it, else plain")
-        ->check(CLI::IsMember({"auto", "plain", "unicode"}));
-    command->callback([options, &exitCode] { exitCode = plot(*options); });
+    line.add("plot", "Draws the probabilities of a table by range, or of two of its versions.",
+             [options] { return plot(*options); })
+        .required("FILE", options->files,
+                  "A hit, detection or damage table (.hit, .det, .dmg), or a file with one inside; two: one drawing "
+                  "of both")
+        .atMost(2)
+        .optional("--table", options->table, "Which table of the file, by its keyword, when there are several")
+        .optional("-o,--output", options->output, "Write an SVG file instead of drawing in characters")
+        .optional("--style", options->style,
+                  "plain (ASCII), unicode, or auto: unicode on a terminal that has it, else plain")
+        .oneOf({"auto", "plain", "unicode"});
 }

@@ -1,12 +1,12 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <numbers>
 #include <string>
 
 #include "AxNumberText.h"
+#include "CommandLine.h"
 #include "Findings.h"
 #include "Json.h"
 #include "RecordJson.h"
@@ -206,26 +206,24 @@ int probability(Options const& options)
 }
 } // namespace
 
-void addProbabilityCommand(CLI::App& app, int& exitCode)
+void addProbabilityCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("probability", "Asks a table as the engine does, and shows what answers.");
-    command
-        ->add_option("FILE", options->file,
-                     "A table file (.hit, .det, .dmg, .asl), or a record or system with a table inside")
-        ->required();
-    command->add_option("--table", options->table, "Which table of the file, by its keyword, when there are several");
-    command->add_option("--type", options->type,
-                        "Object type of the target; for hit, detection and ammunition tables and target priorities");
-    command->add_option("--range", options->range,
-                        "Distance in m, or with a unit (1.2km); for damage tables that of the miss");
-    command->add_option("--angle", options->angle,
-                        "Angle of incidence in degrees, or with a unit (25deg, 0.44rad); for damage tables");
-    command->add_option("--surface", options->surface, "Surface that is hit, such as front; for damage tables");
-    command->add_option("--munition", options->munition,
-                        "Type or name of the munition; for munition tables, which name damage tables");
-    command->add_flag("--collateral", options->isCollateral,
-                      "Ask what a detonation nearby does, rather than a hit; for munition tables");
-    command->add_flag("--json", options->json, "Print JSON");
-    command->callback([options, &exitCode] { exitCode = probability(*options); });
+    line.add("probability", "Asks a table as the engine does, and shows what answers.",
+             [options] { return probability(*options); })
+        .required("FILE", options->file,
+                  "A table file (.hit, .det, .dmg, .asl), or a record or system with a table inside")
+        .optional("--table", options->table, "Which table of the file, by its keyword, when there are several")
+        .optional("--type", options->type,
+                  "Object type of the target; for hit, detection and ammunition tables and target priorities")
+        .optional("--range", options->range,
+                  "Distance in m, or with a unit (1.2km); for damage tables that of the miss")
+        .optional("--angle", options->angle,
+                  "Angle of incidence in degrees, or with a unit (25deg, 0.44rad); for damage tables")
+        .optional("--surface", options->surface, "Surface that is hit, such as front; for damage tables")
+        .optional("--munition", options->munition,
+                  "Type or name of the munition; for munition tables, which name damage tables")
+        .flag("--collateral", options->isCollateral,
+              "Ask what a detonation nearby does, rather than a hit; for munition tables")
+        .flag("--json", options->json, "Print JSON");
 }

@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -12,6 +11,7 @@
 #include <vector>
 
 #include "AxZedObjectParameters.h"
+#include "CommandLine.h"
 #include "Database.h"
 #include "DatabaseCheck.h"
 #include "Dot.h"
@@ -417,7 +417,7 @@ int report(std::string const& file, std::string const& folder)
 }
 } // namespace
 
-void addReportCommand(CLI::App& app, int& exitCode)
+void addReportCommand(CommandLine& line)
 {
     struct Options
     {
@@ -425,10 +425,9 @@ void addReportCommand(CLI::App& app, int& exitCode)
         std::string folder;
     };
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand(
-        "report", "Writes pages that show a database in a browser: types, records, tables, connections and findings.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_option("-o,--output", options->folder, "The folder to write: new, empty, or with an older report")
-        ->required();
-    command->callback([options, &exitCode] { exitCode = report(options->database, options->folder); });
+    line.add("report",
+             "Writes pages that show a database in a browser: types, records, tables, connections and findings.",
+             [options] { return report(options->database, options->folder); })
+        .required("DB", options->database, "The database file (.opd)")
+        .required("-o,--output", options->folder, "The folder to write: new, empty, or with an older report");
 }

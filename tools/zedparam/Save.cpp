@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -9,6 +8,7 @@
 #include "AxReaderWriterFile.h"
 #include "AxRecursiveReaderWriterIterator.h"
 #include "AxZedObjectParameters.h"
+#include "CommandLine.h"
 #include "Database.h"
 #include "Findings.h"
 #include "Tables.h"
@@ -120,7 +120,7 @@ int save(std::string const& from, std::string const& to)
 }
 } // namespace
 
-void addSaveCommand(CLI::App& app, int& exitCode)
+void addSaveCommand(CommandLine& line)
 {
     struct Options
     {
@@ -128,9 +128,8 @@ void addSaveCommand(CLI::App& app, int& exitCode)
         std::string target;
     };
     auto const options = std::make_shared<Options>();
-    CLI::App* command =
-        app.add_subcommand("save", "Reads all records and writes the database anew, with the files that it refers to.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_option("NEW", options->target, "The database file to write (.opd)")->required();
-    command->callback([options, &exitCode] { exitCode = save(options->database, options->target); });
+    line.add("save", "Reads all records and writes the database anew, with the files that it refers to.",
+             [options] { return save(options->database, options->target); })
+        .required("DB", options->database, "The database file (.opd)")
+        .required("NEW", options->target, "The database file to write (.opd)");
 }

@@ -1,6 +1,6 @@
+#include "CommandLine.h"
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "AxReadWholeFile.h"
+#include "CommandLine.h"
 #include "Database.h"
 #include "ReadContext.h"
 #include "TextEditor.h"
@@ -101,44 +102,42 @@ int edit(Options const& options, bool (*apply)(FileEditor& editor, std::string c
     return Fine;
 }
 
-void addEditCommand(CLI::App& app, int& exitCode, char const* name, char const* help, char const* argument,
+void addEditCommand(CommandLine& line, char const* name, char const* help, char const* argument,
                     char const* argumentHelp, bool (*apply)(FileEditor& editor, std::string const& edit),
-                    CLI::Validator const& validator)
+                    std::string (*fault)(std::string const& edit))
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand(name, help);
-    command->add_option("FILE", options->file, "The file to change")->required();
-    command->add_option(argument, options->edits, argumentHelp)->required()->check(validator);
-    command->add_option("--database", options->database, "The database that binds the variables of a record file");
-    command->add_option("--object", options->object, "Of an entity file, the object of this name");
-    command->add_flag("--force", options->force, "Also change what is not known, or would be found fault with");
-    command->add_flag("--dry-run", options->dryRun, "Tell the changes, write nothing");
-    command->callback([options, apply, &exitCode] { exitCode = edit(*options, apply); });
+    line.add(name, help, [options, apply] { return edit(*options, apply); })
+        .required("FILE", options->file, "The file to change")
+        .required(argument, options->edits, argumentHelp)
+        .check(fault)
+        .optional("--database", options->database, "The database that binds the variables of a record file")
+        .optional("--object", options->object, "Of an entity file, the object of this name")
+        .flag("--force", options->force, "Also change what is not known, or would be found fault with")
+        .flag("--dry-run", options->dryRun, "Tell the changes, write nothing");
 }
 } // namespace
 
-void addSetCommand(CLI::App& app, int& exitCode)
+void addSetCommand(CommandLine& line)
 {
-    CLI::Validator const isAssignment(
-        [](std::string const& edit)
-        { return edit.find('=') == std::string::npos ? "expected PATH=VALUE, found \"" + edit + "\"" : std::string(); },
-        "");
     addEditCommand(
-        app, exitCode, "set", "Changes values in a file; every other byte stays as it is.", "PATH=VALUE",
+        line, "set", "Changes values in a file; every other byte stays as it is.", "PATH=VALUE",
         "Such as max-speed=20.5 or systems/main-gun/reload-time=6.0; all are set, or none",
         [](FileEditor& editor, std::string const& edit)
         {
             std::size_t const equals = edit.find('=');
             return editor.set(edit.substr(0, equals), edit.substr(equals + 1));
         },
-        isAssignment);
+        [](std::string const& edit) {
+            return edit.find('=') == std::string::npos ? "expected PATH=VALUE, found \"" + edit + "\"" : std::string();
+        });
 }
 
-void addUnsetCommand(CLI::App& app, int& exitCode)
+void addUnsetCommand(CommandLine& line)
 {
     addEditCommand(
-        app, exitCode, "unset", "Takes values out of a file; every other byte stays as it is.", "PATH",
+        line, "unset", "Takes values out of a file; every other byte stays as it is.", "PATH",
         "Such as max-speed or sensors/radar; all are taken out, or none",
         [](FileEditor& editor, std::string const& edit) { return editor.unset(edit); },
-        CLI::Validator([](std::string const&) { return std::string(); }, ""));
+        [](std::string const&) { return std::string(); });
 }

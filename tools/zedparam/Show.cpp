@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -12,6 +11,7 @@
 #include "AxNearest.h"
 #include "AxZedObjectParameters.h"
 #include "Collection.h"
+#include "CommandLine.h"
 #include "Findings.h"
 #include "Json.h"
 #include "Origin.h"
@@ -240,17 +240,17 @@ int show(Options const& options)
 }
 } // namespace
 
-void addShowCommand(CLI::App& app, int& exitCode)
+void addShowCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("show", "The record that answers an object type, or some of its values.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_option("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")->required();
-    command->add_option("KEYWORD", options->keywords,
-                        "Values to show, such as max-speed or systems/main-gun/reload-time; none: the whole record");
-    command->add_flag("--json", options->json, "Print JSON");
-    command->add_flag("--all", options->all, "Show members that hold their default, too");
-    command->add_flag("--origin", options->origin,
-                      "Show for each value where it comes from: its place, a variable, another record, a default");
-    command->callback([options, &exitCode] { exitCode = show(*options); });
+    line.add("show", "The record that answers an object type, or some of its values.",
+             [options] { return show(*options); })
+        .required("DB", options->database, "The database file (.opd)")
+        .required("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")
+        .optional("KEYWORD", options->keywords,
+                  "Values to show, such as max-speed or systems/main-gun/reload-time; none: the whole record")
+        .flag("--json", options->json, "Print JSON")
+        .flag("--all", options->all, "Show members that hold their default, too")
+        .flag("--origin", options->origin,
+              "Show for each value where it comes from: its place, a variable, another record, a default");
 }

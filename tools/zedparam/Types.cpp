@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
 #include <memory>
@@ -10,6 +9,7 @@
 
 #include "AxNearest.h"
 #include "Catalogue.h"
+#include "CommandLine.h"
 #include "Json.h"
 
 namespace
@@ -146,11 +146,11 @@ int listTypes(Options const& options)
 }
 } // namespace
 
-void addTypesCommand(CLI::App& app, int& exitCode)
+void addTypesCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("types", "The types of records and components, or the keywords of one.");
-    command->add_option("NAME", options->name, "A type, such as turret-component-descriptor; none: all");
-    command->add_flag("--json", options->json, "Print JSON");
-    command->callback([options, &exitCode] { exitCode = listTypes(*options); });
+    line.add("types", "The types of records and components, or the keywords of one.",
+             [options] { return listTypes(*options); })
+        .optional("NAME", options->name, "A type, such as turret-component-descriptor; none: all")
+        .flag("--json", options->json, "Print JSON");
 }

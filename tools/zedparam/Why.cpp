@@ -1,6 +1,5 @@
 #include "Commands.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -9,6 +8,7 @@
 #include <vector>
 
 #include "Collection.h"
+#include "CommandLine.h"
 #include "Findings.h"
 #include "Json.h"
 #include "TypeArgument.h"
@@ -305,13 +305,13 @@ int why(Options const& options)
 }
 } // namespace
 
-void addWhyCommand(CLI::App& app, int& exitCode)
+void addWhyCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    CLI::App* command = app.add_subcommand("why", "Why an entry answers an object type, and why the others do not.");
-    command->add_option("DB", options->database, "The database file (.opd)")->required();
-    command->add_option("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")->required();
-    command->add_flag("--json", options->json, "Print JSON");
-    command->add_flag("--all", options->all, "List every entry, also those that differ early");
-    command->callback([options, &exitCode] { exitCode = why(*options); });
+    line.add("why", "Why an entry answers an object type, and why the others do not.",
+             [options] { return why(*options); })
+        .required("DB", options->database, "The database file (.opd)")
+        .required("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")
+        .flag("--json", options->json, "Print JSON")
+        .flag("--all", options->all, "List every entry, also those that differ early");
 }

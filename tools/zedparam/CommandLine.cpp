@@ -1,0 +1,167 @@
+#include "CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+#include <utility>
+
+#include "AxNearest.h"
+#include "Commands.h"
+
+Command::Command(CLI::App& app, std::function<int()> run, int& exitCode) : myArguments(&app)
+{
+    app.callback(
+        [this, run = std::move(run), &exitCode]
+        {
+            if (myReplaced != nullptr && myReplaced->empty() && myReplacement->empty())
+            {
+                throw CLI::RequiredError(myReplaced->get_name());
+            }
+            exitCode = run();
+        });
+}
+
+template <class Value>
+Command& Command::required(char const* name, Value& value, char const* help)
+{
+    optional(name, value, help);
+    myLast->required();
+    return *this;
+}
+
+template <class Value>
+Command& Command::optional(char const* name, Value& value, char const* help)
+{
+    myLast = myArguments->add_option(name, value, help);
+    return *this;
+}
+
+template Command& Command::required(char const*, std::string&, char const*);
+template Command& Command::required(char const*, std::vector<std::string>&, char const*);
+template Command& Command::optional(char const*, std::string&, char const*);
+template Command& Command::optional(char const*, std::vector<std::string>&, char const*);
+template Command& Command::optional(char const*, std::size_t&, char const*);
+template Command& Command::optional(char const*, double&, char const*);
+
+Command& Command::flag(char const* name, bool& value, char const* help)
+{
+    myLast = myArguments->add_flag(name, value, help);
+    return *this;
+}
+
+Command& Command::oneFlagOf(char const* group)
+{
+    myArguments = myArguments->add_option_group(group)->require_option(1);
+    return *this;
+}
+
+Command& Command::footer(char const* text)
+{
+    myArguments->footer(text);
+    return *this;
+}
+
+Command& Command::oneOf(std::vector<std::string> words)
+{
+    myLast->check(CLI::IsMember(std::move(words)));
+    return *this;
+}
+
+Command& Command::between(int least, int most)
+{
+    myLast->check(CLI::Range(least, most));
+    return *this;
+}
+
+Command& Command::notNegative()
+{
+    myLast->check(CLI::NonNegativeNumber);
+    return *this;
+}
+
+Command& Command::atMost(int count)
+{
+    myLast->expected(1, count);
+    return *this;
+}
+
+Command& Command::check(std::function<std::string(std::string const& value)> fault)
+{
+    myLast->check(std::move(fault));
+    return *this;
+}
+
+Command& Command::showDefault()
+{
+    myLast->capture_default_str();
+    return *this;
+}
+
+Command& Command::excludes(char const* argument)
+{
+    myLast->excludes(myArguments->get_option(argument));
+    return *this;
+}
+
+Command& Command::insteadOf(char const* argument)
+{
+    myReplaced = myArguments->get_option(argument);
+    myReplacement = myLast;
+    return excludes(argument);
+}
+
+CommandLine::CommandLine(char const* name, char const* help, char const* version, char const* footer)
+    : myApp(std::make_unique<CLI::App>(help, name))
+{
+    myApp->set_version_flag("--version", version);
+    myApp->require_subcommand(1);
+    myApp->failure_message(CLI::FailureMessage::simple);
+    myApp->footer(footer);
+}
+
+CommandLine::~CommandLine() = default;
+
+Command& CommandLine::add(char const* name, char const* help, std::function<int()> run)
+{
+    myCommands.push_back(std::make_unique<Command>(*myApp->add_subcommand(name, help), std::move(run), myExitCode));
+    return *myCommands.back();
+}
+
+/// False, after a line on the standard error stream, when the first word is no sub-command.
+bool CommandLine::hasCommand(std::string const& word) const
+{
+    std::vector<std::string_view> known;
+    for (CLI::App const* command : myApp->get_subcommands([](CLI::App const*) { return true; }))
+    {
+        known.push_back(command->get_name());
+    }
+    if (word.starts_with('-') || std::ranges::find(known, word) != known.end())
+    {
+        return true;
+    }
+    std::fprintf(stderr, "zedparam: unknown command \"%s\"", word.c_str());
+    if (std::string_view const nearest = axNearest(word, known); !nearest.empty())
+    {
+        std::fprintf(stderr, "; did you mean \"%s\"?", std::string(nearest).c_str());
+    }
+    std::fprintf(stderr, "\nzedparam --help lists the commands\n");
+    return false;
+}
+
+int CommandLine::run(int argc, char** argv)
+{
+    if (argc > 1 && !hasCommand(argv[1]))
+    {
+        return CouldNotRun;
+    }
+    try
+    {
+        myApp->parse(argc, argv);
+    }
+    catch (CLI::ParseError const& error)
+    {
+        return myApp->exit(error) == 0 ? Fine : CouldNotRun;
+    }
+    return myExitCode;
+}
