@@ -3,7 +3,7 @@
 #include "AxReaderWriterFactory.h"
 #include "AxZedXmlUtils.h"
 
-static AxTypeEntry<AxModelSetEntry> const typeEntry{AxTypeOps::withCreator<AxModelSetEntry>()};
+static AxTypeEntry<AxModelSetEntry> const modelSetEntryEntry{AxTypeOps::withCreator<AxModelSetEntry>()};
 
 namespace
 {

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-static AxTypeEntry<AxSimulationObjectGroupModelSetEntry> const typeEntry{
+static AxTypeEntry<AxSimulationObjectGroupModelSetEntry> const simulationObjectGroupModelSetEntryEntry{
     AxTypeOps::withCreator<AxSimulationObjectGroupModelSetEntry>()};
 
 AxSimulationObjectGroupModelSetEntry::Content::Content() = default;

@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-static AxTypeEntry<AxZedObjectParametersList> const entry;
+static AxTypeEntry<AxZedObjectParametersList> const zedObjectParametersListEntry;
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include "AxReaderWriterFactory.h"
 
-static AxTypeEntry<AxComponentSystemDefinition> const typeEntry;
+static AxTypeEntry<AxComponentSystemDefinition> const componentSystemDefinitionEntry;
 
 AxComponentSystemDefinition::AxComponentSystemDefinition(AxComponentSystemDefinition const& other,
                                                          AxReaderWriterRegistry* registry)

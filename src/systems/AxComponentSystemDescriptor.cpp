@@ -9,7 +9,7 @@
 
 #include <vector>
 
-static AxTypeEntry<AxComponentSystemDescriptor> const typeEntry;
+static AxTypeEntry<AxComponentSystemDescriptor> const componentSystemDescriptorEntry;
 
 static AxlObjPtr listOf(std::vector<AxlObj const*> const& cells)
 {

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-static AxTypeEntry<AxComponentSystemDescriptorList> const typeEntry;
+static AxTypeEntry<AxComponentSystemDescriptorList> const componentSystemDescriptorListEntry;
 
 AxComponentSystemDescriptorList::AxComponentSystemDescriptorList(AxComponentSystemDescriptorList const& other,
                                                                  AxReaderWriterRegistry* registry)

@@ -7,7 +7,7 @@
 #include "AxlPrint.h"
 #include "axTryNew.h"
 
-static AxTypeEntry<AxConnectionDescriptor> const typeEntry;
+static AxTypeEntry<AxConnectionDescriptor> const connectionDescriptorEntry;
 
 AxConnectionDescriptor::AxConnectionDescriptor() : AxConnectionDescriptor(AxSymbolString(), nullptr)
 {

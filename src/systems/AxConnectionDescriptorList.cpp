@@ -8,7 +8,7 @@
 
 #include <memory>
 
-static AxTypeEntry<AxConnectionDescriptorList> const typeEntry;
+static AxTypeEntry<AxConnectionDescriptorList> const connectionDescriptorListEntry;
 
 /// Whether `endpoint` is that of the enclosing system's boundary called `name`.
 static bool isOnBoundary(AxString const& endpoint, AxString const& name)

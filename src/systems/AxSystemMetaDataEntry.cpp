@@ -6,7 +6,7 @@
 #include <memory>
 #include <typeinfo>
 
-static AxTypeEntry<AxSystemMetaDataEntry> const typeEntry;
+static AxTypeEntry<AxSystemMetaDataEntry> const systemMetaDataEntryEntry;
 
 AxSystemMetaDataEntry::AxSystemMetaDataEntry(AxSymbolString name, AxReaderWriterRegistry* registry)
     : AxReaderWriter(name, registry)

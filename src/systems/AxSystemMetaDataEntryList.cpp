@@ -1,6 +1,6 @@
 #include "AxSystemMetaDataEntryList.h"
 
-static AxTypeEntry<AxSystemMetaDataEntryList> const typeEntry;
+static AxTypeEntry<AxSystemMetaDataEntryList> const systemMetaDataEntryListEntry;
 
 AxSystemMetaDataEntryList::~AxSystemMetaDataEntryList() = default;
 

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-static AxTypeEntry<AxSystemParameterData> const typeEntry;
+static AxTypeEntry<AxSystemParameterData> const systemParameterDataEntry;
 
 AxSystemParameterData::AxSystemParameterData(AxSymbolString name, AxReaderWriterRegistry* registry)
     : AxSystemParameterData(name, registry, "", "none")

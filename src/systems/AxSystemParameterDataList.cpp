@@ -1,6 +1,6 @@
 #include "AxSystemParameterDataList.h"
 
-static AxTypeEntry<AxSystemParameterDataList> const typeEntry;
+static AxTypeEntry<AxSystemParameterDataList> const systemParameterDataListEntry;
 
 AxSystemParameterDataList::~AxSystemParameterDataList() = default;
 

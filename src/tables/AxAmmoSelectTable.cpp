@@ -5,7 +5,7 @@
 #include "AxTypeLookup.h"
 #include "axTryNew.h"
 
-static AxTypeEntry<AxAmmoSelectTable> const typeEntry;
+static AxTypeEntry<AxAmmoSelectTable> const ammoSelectTableEntry;
 
 AxAmmoSelectTable::AxAmmoSelectTable(AxAmmoSelectTable const& other)
     : AxRwTemplatedListPtr(other.AxReaderWriter::name(), nullptr)

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <memory>
 
-static AxTypeEntry<AxDmgSurfaceEntry> const typeEntry;
+static AxTypeEntry<AxDmgSurfaceEntry> const dmgSurfaceEntryEntry;
 
 AxDmgSurfaceEntry::AxDmgSurfaceEntry(AxDmgSurfaceEntry const& other) : AxRwList(other)
 {

@@ -5,7 +5,7 @@
 #include "AxStreams.h"
 #include "AxlObj.h"
 
-static AxTypeEntry<AxPrbCoefficientList> const typeEntry;
+static AxTypeEntry<AxPrbCoefficientList> const prbCoefficientListEntry;
 
 AxPrbCoefficientList::~AxPrbCoefficientList() = default;
 

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
-static AxTypeEntry<AxPrbProbabilityCoefficients> const typeEntry;
+static AxTypeEntry<AxPrbProbabilityCoefficients> const prbProbabilityCoefficientsEntry;
 
 AxPrbProbabilityCoefficients::AxPrbProbabilityCoefficients(AxSymbolString name, AxReaderWriterRegistry* registry)
     : AxReaderWriter(name, registry)

@@ -11,7 +11,7 @@
 #include <cmath>
 #include <unordered_map>
 
-static AxTypeEntry<AxPrbRangeList> const typeEntry;
+static AxTypeEntry<AxPrbRangeList> const prbRangeListEntry;
 
 /// Tells of each row that a later one of its range has replaced.
 static void reportReplacedRows(AxlObj const* rows)

@@ -8,7 +8,7 @@
 #include "AxlPrint.h"
 #include "axTryNew.h"
 
-static AxTypeEntry<AxPrbRangeTableEntry> const typeEntry;
+static AxTypeEntry<AxPrbRangeTableEntry> const prbRangeTableEntryEntry;
 
 AxPrbRangeTableEntry::Refill::Refill(AxPrbRangeTableEntry& row, double range) : myRow(row), myNext(row.first())
 {

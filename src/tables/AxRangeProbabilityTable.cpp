@@ -7,7 +7,7 @@
 #include "AxStreams.h"
 #include "AxTypeLookup.h"
 
-static AxTypeEntry<AxRangeProbabilityTable> const typeEntry;
+static AxTypeEntry<AxRangeProbabilityTable> const rangeProbabilityTableEntry;
 
 AxRangeProbabilityTable::AxRangeProbabilityTable(AxRangeProbabilityTable const& other) : AxRwList(other)
 {

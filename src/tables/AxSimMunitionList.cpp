@@ -4,7 +4,7 @@
 #include "AxStreams.h"
 #include "axTryNew.h"
 
-static AxTypeEntry<AxSimMunitionList> const typeEntry;
+static AxTypeEntry<AxSimMunitionList> const simMunitionListEntry;
 
 AxSimMunitionList::~AxSimMunitionList() = default;
 

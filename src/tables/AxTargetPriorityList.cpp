@@ -5,7 +5,7 @@
 #include "AxTypeLookup.h"
 #include "axTryNew.h"
 
-static AxTypeEntry<AxTargetPriorityList> const typeEntry;
+static AxTypeEntry<AxTargetPriorityList> const targetPriorityListEntry;
 
 AxTargetPriorityList::AxTargetPriorityList(AxTargetPriorityList const& other)
     : AxRwTemplatedListPtr(other.AxReaderWriter::name(), nullptr)

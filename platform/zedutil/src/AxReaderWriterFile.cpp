@@ -11,7 +11,7 @@
 #include <cerrno>
 #include <cstring>
 
-static AxTypeEntry<AxReaderWriterFile> const entry;
+static AxTypeEntry<AxReaderWriterFile> const readerWriterFileEntry;
 
 AxReaderWriterFile::AxReaderWriterFile(AxSymbolString name, AxReaderWriterRegistry* registry)
     : AxReaderWriter(name, registry)

@@ -2,7 +2,7 @@
 
 #include "AxReaderWriterFactory.h"
 
-static AxTypeEntry<AxRemoteConfiguration> const entry;
+static AxTypeEntry<AxRemoteConfiguration> const remoteConfigurationEntry;
 
 AxRemoteConfiguration::AxRemoteConfiguration() : AxRecordOf(elementWord(), nullptr) {}
 

@@ -2,7 +2,7 @@
 
 #include "AxReaderWriterFactory.h"
 
-static AxTypeEntry<AxRwAppearance> const entry;
+static AxTypeEntry<AxRwAppearance> const appearanceEntry;
 
 AxRwAppearance::~AxRwAppearance() = default;
 

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-static AxTypeEntry<AxRwProperty> const entry;
+static AxTypeEntry<AxRwProperty> const propertyEntry;
 
 AxRwProperty::AxRwProperty(AxSymbolString name, AxReaderWriterRegistry* registry) : AxReaderWriter(name, registry) {}
 

@@ -10,7 +10,7 @@
 #include <boost/uuid/uuid_io.hpp>
 #include <exception>
 
-static AxTypeEntry<AxRwUUID> const entry;
+static AxTypeEntry<AxRwUUID> const uUIDEntry;
 
 static bool parse(std::string_view text, boost::uuids::uuid& value)
 {

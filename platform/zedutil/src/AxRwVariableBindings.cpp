@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-static AxTypeEntry<AxRwVariableBindings> const entry;
+static AxTypeEntry<AxRwVariableBindings> const variableBindingsEntry;
 
 namespace
 {
