@@ -1,9 +1,9 @@
 #include "Damage_bench.h"
 
+#include "Allocations.h"
 #include "AxDmgAngleOfIncidenceRangeCalcTable.h"
 #include "AxDmgAngleOfIncidenceRangeLookupTable.h"
 #include "AxDmgMunitionTable.h"
-#include "HeapUse.h"
 
 #include <benchmark/benchmark.h>
 

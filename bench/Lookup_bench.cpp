@@ -1,8 +1,8 @@
 #include "Lookup_bench.h"
 
+#include "Allocations.h"
 #include "AxZedParameterDb.h"
 #include "AxZedParameterDbEntry.h"
-#include "HeapUse.h"
 #include "Types.h"
 
 #include <absl/container/flat_hash_map.h>

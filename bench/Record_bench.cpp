@@ -1,10 +1,10 @@
 #include "Record_bench.h"
 
+#include "Allocations.h"
 #include "AxComponentDescriptorFactory.h"
 #include "AxlFunctions.h"
 #include "AxlInputStream.h"
 #include "BenchRecord.h"
-#include "HeapUse.h"
 #include "PlainJson.h"
 #include "RecordTexts.h"
 #include "record.pb.h"

@@ -39,7 +39,9 @@ public:
     /// Adds the entries of a database file to those that are there; records are not read yet. A load that fails
     /// changes nothing but the dependent pairs.
     bool load(AxFilename const& file) override;
-    /// Writes "dir/x.opd" and the records that are held below "dir/x". Either all files are replaced or none.
+    /// Writes "dir/x.opd" and the records that are held below "dir/x". Either all files are replaced or none; a disk
+    /// that fails for good on the way, or the end of the process, leaves each file old or new and the database
+    /// readable.
     bool save(AxFilename const& file) override;
 
     using AxZedParameterDb::add;

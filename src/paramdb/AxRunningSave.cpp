@@ -101,6 +101,17 @@ void AxRunningSave::rename(AxSxpParameterDbEntry& entry, AxFilename const& file)
     entry.setFilename(file);
 }
 
+bool AxRunningSave::isHopeless(AxFilename const& file)
+{
+    if (!myHasFailed || myIsProbed)
+    {
+        return false;
+    }
+    myIsProbed = true;
+    int ignored = 0;
+    return !AxFileTransaction().stage(file, "", ignored);
+}
+
 bool AxRunningSave::finish(AxFilename const& file)
 {
     int error = 0;

@@ -28,6 +28,10 @@ public:
 
     AxFileTransaction& files() { return myFiles; }
     AxFileTransaction const& files() const { return myFiles; }
+    /// Notes that a file could not be written.
+    void noteFailure() { myHasFailed = true; }
+    /// Whether, after such a failure, not even the database file can be written; asked of the disk once.
+    bool isHopeless(AxFilename const& file);
     /// The absolute directory of the database file.
     AxFilename const& directory() const { return myDirectory; }
     /// "opd-dir" as it will be when the saved file is loaded.
@@ -59,5 +63,7 @@ private:
     std::set<std::string> myNames;
     std::map<AxSxpParameterDbEntry*, AxFilename> myFormerNames;
     AxFilename myMadeDirectory;
+    bool myHasFailed = false;
+    bool myIsProbed = false;
     bool myIsFinished = false;
 };

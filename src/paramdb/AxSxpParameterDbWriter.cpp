@@ -4,6 +4,7 @@
 #include "AxReadWholeFile.h"
 #include "AxReaderWriterFile.h"
 #include "AxRemoteConfigurationList.h"
+#include "AxReplaceFile.h"
 #include "AxRunningSave.h"
 #include "AxRwVariableBindings.h"
 #include "AxStreams.h"
@@ -206,7 +207,8 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
     AxSavedVariables const& variables = save.collectVariables(data->variableBindings());
     AxList const& list = db->parameterList();
     std::uint32_t const changes = list.changeCount();
-    for (AxListItem const* item = list.first(); item; item = item->next())
+    AxListItem const* item = list.first();
+    for (; item; item = item->next())
     {
         auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));
         if (!entry)
@@ -216,6 +218,11 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
         else if (!entry->temporary())
         {
             writeEntry(data.get(), entry, parameterDir, dir);
+        }
+        if (save.isHopeless(file))
+        {
+            // One line for the place, not one for each record.
+            break;
         }
         if (list.changeCount() != changes)
         {
@@ -239,7 +246,8 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
         }
         data->setRemoteConfigurationList(configurations.get());
     }
-    bool const isWritten = writeTopLevelParameterDbFile(*data, file) && save.finish(file);
+    bool const isComplete = item == nullptr;
+    bool const isWritten = writeTopLevelParameterDbFile(*data, file) && isComplete && save.finish(file);
     data->setRemoteConfigurationList(nullptr);
     if (!isWritten)
     {
@@ -328,10 +336,14 @@ bool AxSxpParameterDbWriter::writeText(AxFilename const& file, std::string const
     int error = 0;
     if (AxRunningSave* const save = AxRunningSave::current())
     {
-        return save->files().stage(file, text, error) || cannotWrite(file, error);
+        if (save->files().stage(file, text, error))
+        {
+            return true;
+        }
+        save->noteFailure();
+        return cannotWrite(file, error);
     }
-    AxFileTransaction alone;
-    return (alone.stage(file, text, error) && alone.commit(error)) || cannotWrite(file, error);
+    return axReplaceFile(file, text, error) || cannotWrite(file, error);
 }
 
 bool AxSxpParameterDbWriter::writeParameterFile(AxFilename const& file, AxZedObjectParameters* record) const

@@ -1,8 +1,8 @@
 #include "AxZedObjectParametersDB.h"
 
 #include "AxExtFileInputStream.h"
-#include "AxFileTransaction.h"
 #include "AxParameterDbFiles.h"
+#include "AxReplaceFile.h"
 #include "AxStreams.h"
 #include "AxZedObjectParametersList.h"
 #include "AxlFunctions.h"
@@ -136,8 +136,7 @@ bool AxZedObjectParametersDB::writeParameterFile(AxString const& file)
     putSelf(text, 0, false, name);
     text += '\n';
     int error = 0;
-    AxFileTransaction files;
-    if (!files.stage(name, text, error) || !files.commit(error))
+    if (!axReplaceFile(name, text, error))
     {
         AxDiagnostics::reportStated(axFault("cannot-write", name, std::strerror(error)),
                                     axFormat("Could not open parameter file %s for writing\n", file.c_str()));

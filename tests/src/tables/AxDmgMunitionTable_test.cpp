@@ -1,6 +1,6 @@
 #include "AxDmgMunitionTable.h"
 
-#include "AllocationCount.h"
+#include "Allocations.h"
 #include "AxDmgAngleOfIncidenceRangeLookupTable.h"
 #include "platform/zedutil/Reading.h"
 

@@ -1,4 +1,4 @@
-#include "AllocationCount.h"
+#include "Allocations.h"
 #include "AxComponentDescriptorFactoryEntry.h"
 #include "AxEmbarkationSlotEntry.h"
 #include "AxEnvXMLReader.h"

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <malloc.h>
+
+#include <cstddef>
+
+/// How often memory was asked for by `new` since the process began.
+std::size_t allocationCount();
+
+/// Bytes in use of the heap, with the allocator's own overhead.
+inline std::size_t heapUse()
+{
+    struct mallinfo2 const info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+/// As long as one lives, the n-th `new` from its construction on fails, alone or with all that follow it.
+class AllocationFault
+{
+public:
+    enum class Reach
+    {
+        One,
+        AllFromThere
+    };
+    AllocationFault(std::size_t n, Reach reach);
+    AllocationFault(AllocationFault const&) = delete;
+    AllocationFault& operator=(AllocationFault const&) = delete;
+    ~AllocationFault();
+
+    /// Whether the n-th was reached; also after its end.
+    static bool wasHit();
+};
