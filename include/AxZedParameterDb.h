@@ -84,14 +84,22 @@ public:
 private:
     friend class AxZedParameterDbEntry;
 
+    AxZedParameterDbEntry* entryOf(AxListItem const* item) const;
     void release(AxZedParameterDbEntry& entry);
     void typeChanges();
     void park(AxZedParameterDbEntry* entry);
 
     struct Parked;
+    struct Answer
+    {
+        AxListItem const* item = nullptr;
+        AxZedParameterDbEntry* entry = nullptr;
+    };
     AxList myList;
     std::unique_ptr<AxTypeIndex> myIndex;
     std::unique_ptr<Parked> myParked; // entries that the insertion rule left outside the list
     /// While an entry is inserted, its type: of what is found for it only an equal type counts.
     AxObjectType const* myInsertedType = nullptr;
+    /// Of the last look-up: its entry is known without reading the item, which costs a line of memory.
+    mutable Answer myAnswer;
 };

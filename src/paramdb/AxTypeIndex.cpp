@@ -43,12 +43,12 @@ bool hasNegativeField(AxObjectType const& type)
 }
 } // namespace
 
-AxListItem* AxTypeIndex::bestMatch(AxObjectType const& type)
+AxTypeIndex::Found AxTypeIndex::bestMatch(AxObjectType const& type)
 {
     arrange();
     if (!isSorted())
     {
-        return walk(type);
+        return found(walk(type));
     }
     buildTables();
     if (hasNegativeField(type))
@@ -72,10 +72,10 @@ AxListItem* AxTypeIndex::bestMatch(AxObjectType const& type)
             }
         }
     }
-    return nullptr;
+    return {};
 }
 
-AxListItem* AxTypeIndex::bestOfUnusual(AxObjectType const& type)
+AxTypeIndex::Found AxTypeIndex::bestOfUnusual(AxObjectType const& type)
 {
     if (AxTypeTable::Slot const* const slot = tableFor(shapeOf(type)).find(type))
     {
@@ -90,13 +90,13 @@ AxListItem* AxTypeIndex::bestOfUnusual(AxObjectType const& type)
     {
         best = item;
     }
-    return best != nullptr ? best : greatestBelow(type);
+    return best != nullptr ? found(best) : greatestBelow(type);
 }
 
-AxListItem* AxTypeIndex::greatestBelow(AxObjectType const& type)
+AxTypeIndex::Found AxTypeIndex::greatestBelow(AxObjectType const& type)
 {
     unsigned const own = shapeOf(type);
-    AxListItem* best = nullptr;
+    Found best;
     auto const consider = [&](unsigned shape)
     {
         // A wildcard of the asked type fits nothing but a wildcard.
@@ -106,7 +106,7 @@ AxListItem* AxTypeIndex::greatestBelow(AxObjectType const& type)
         }
         AxObjectType const key = masked(type, shape);
         AxTypeTable::Slot const* const slot = key < type ? tableFor(shape).find(key) : nullptr;
-        if (slot != nullptr && (best == nullptr || typeOf(best) < key))
+        if (slot != nullptr && (best.item == nullptr || typeOf(best.item) < key))
         {
             best = slot->last;
         }
@@ -146,20 +146,20 @@ AxListItem* AxTypeIndex::walk(AxObjectType const& type) const
     return best;
 }
 
-AxListItem* AxTypeIndex::firstOf(AxObjectType const& type)
+AxTypeIndex::Found AxTypeIndex::firstOf(AxObjectType const& type)
 {
     if (!isSorted())
     {
-        AxListItem* const found = walk(type);
-        return found != nullptr && typeOf(found) == type ? found : nullptr;
+        AxListItem* const best = walk(type);
+        return best != nullptr && typeOf(best) == type ? found(best) : Found();
     }
     if (myList.isEmpty() || greatest() < type)
     {
-        return nullptr;
+        return {};
     }
     buildTables();
     AxTypeTable::Slot const* const slot = tableFor(shapeOf(type)).find(type);
-    return slot != nullptr ? slot->first : nullptr;
+    return slot != nullptr ? slot->first : Found();
 }
 
 AxListItem* AxTypeIndex::insert(void* data, AxObjectType const& type)
@@ -245,10 +245,10 @@ void AxTypeIndex::enter(AxListItem* item, AxObjectType const& type)
         std::uint64_t const hash = AxTypeHash(type).mixed();
         if (AxTypeTable::Slot* const slot = table.find(type, hash))
         {
-            slot->last = item; // it stands behind those of equal type
+            slot->last = found(item); // it stands behind those of equal type
             return;
         }
-        table.add(type, item, hash);
+        table.add(type, found(item), hash);
         countShape(shape, 1);
     }
 }
@@ -324,8 +324,8 @@ bool AxTypeIndex::leave(AxListItem const* item)
         }
         else
         {
-            slot->first = isFirst ? next : slot->first;
-            slot->last = isLast ? previous : slot->last;
+            slot->first = isFirst ? found(next) : slot->first;
+            slot->last = isLast ? found(previous) : slot->last;
         }
     }
     return true;
@@ -448,7 +448,7 @@ AxListItem* AxTypeIndex::ancestorOf(AxListItem const* item)
         return before;
     }
     buildTables();
-    AxListItem* const fitting = greatestBelow(type);
+    AxListItem* const fitting = greatestBelow(type).item;
     AxListItem* const catchAll = lastCatchAllBefore(type);
     if (fitting == nullptr || catchAll == nullptr)
     {

@@ -21,11 +21,12 @@ public:
 
     AxTypeIndex(AxList& list, TypeOf ofData) : myList(list), myTypeOf(ofData) {}
 
-    AxListItem* bestMatch(AxObjectType const& type);
+    using Found = AxTypeTable::Found;
+    Found bestMatch(AxObjectType const& type);
     /// The same by the walk itself, for lists whose types may have been changed without a word.
     AxListItem* walk(AxObjectType const& type) const;
     /// The first item of exactly this type, null when there is none.
-    AxListItem* firstOf(AxObjectType const& type);
+    Found firstOf(AxObjectType const& type);
     /// Puts `data` in front of the first item above its type, or at the end when the last item is below it. Null when
     /// neither is to be had, because an item of equal type is the last.
     AxListItem* insert(void* data, AxObjectType const& type);
@@ -58,6 +59,7 @@ private:
         AxListItem* item;
     };
 
+    static Found found(AxListItem* item) { return {item, item != nullptr ? item->data() : nullptr}; }
     AxObjectType const& typeOf(AxListItem const* item) const { return *myTypeOf(item->data()); }
     AxObjectType const& greatest() const { return myUnplaced.empty() ? typeOf(myList.last()) : myGreatest; }
     void placeAll();
@@ -70,8 +72,8 @@ private:
     void countShape(unsigned shape, int change);
     void enter(AxListItem* item, AxObjectType const& type);
     bool leave(AxListItem const* item);
-    AxListItem* bestOfUnusual(AxObjectType const& type);
-    AxListItem* greatestBelow(AxObjectType const& type);
+    Found bestOfUnusual(AxObjectType const& type);
+    Found greatestBelow(AxObjectType const& type);
     AxListItem* insertByWalk(void* data, AxObjectType const& type);
     AxListItem* lastCatchAllBefore(AxObjectType const& type);
 

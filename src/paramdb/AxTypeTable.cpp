@@ -13,7 +13,7 @@ constexpr std::size_t theFilterBitsPerSlot = 16;
 void AxTypeTable::reserve(std::size_t count)
 {
     std::size_t const groups = (count + count / 7) / theGroupSize + 1;
-    if (mySlots.size() < groups * theGroupSize)
+    if (myTags.size() < groups * theGroupSize)
     {
         resize(std::max(theFewestGroupBits, static_cast<unsigned>(std::bit_width(groups - 1))));
     }
@@ -22,19 +22,20 @@ void AxTypeTable::reserve(std::size_t count)
 void AxTypeTable::resize(unsigned groupBits)
 {
     std::size_t const groups = std::size_t{1} << groupBits;
-    std::vector<Slot> const slots = std::exchange(mySlots, std::vector<Slot>(groups * theGroupSize));
+    std::unique_ptr<Slot[]> const slots =
+        std::exchange(mySlots, std::make_unique_for_overwrite<Slot[]>(groups * theGroupSize));
     std::vector<std::uint8_t> const tags =
         std::exchange(myTags, std::vector<std::uint8_t>(groups * theGroupSize, theFree));
     myMask = groups - 1;
     myShift = 64 - groupBits;
     myNumErased = 0;
-    myFilter.assign((mySlots.size() * theFilterBitsPerSlot + 63) / 64, 0);
+    myFilter.assign((myTags.size() * theFilterBitsPerSlot + 63) / 64, 0);
     myFilterMask = myFilter.size() - 1;
-    for (std::size_t i = 0; i < slots.size(); ++i)
+    for (std::size_t i = 0; i < tags.size(); ++i)
     {
         if (tags[i] > theErased)
         {
-            place(slots[i], AxTypeHash(slots[i].type).mixed());
+            place(slots[i], AxTypeHash(AxObjectType(slots[i].fields)).mixed());
         }
     }
 }
@@ -53,30 +54,29 @@ void AxTypeTable::place(Slot const& slot, std::uint64_t hash)
     myFilter[hash >> 6 & myFilterMask] |= std::uint64_t{1} << (hash & 63);
 }
 
-void AxTypeTable::add(AxObjectType const& type, AxListItem* item, std::uint64_t hash)
+void AxTypeTable::add(AxObjectType const& type, Found const& found, std::uint64_t hash)
 {
-    if ((myCount + myNumErased + 1) * 8 > mySlots.size() * 7)
+    if ((myCount + myNumErased + 1) * 8 > myTags.size() * 7)
     {
-        bool const isFull = myCount * 2 >= mySlots.size();
-        resize(mySlots.empty() ? theFewestGroupBits : static_cast<unsigned>(std::bit_width(myMask)) + isFull);
+        bool const isFull = myCount * 2 >= myTags.size();
+        resize(myTags.empty() ? theFewestGroupBits : static_cast<unsigned>(std::bit_width(myMask)) + isFull);
     }
-    place({type, item, item}, hash);
+    place({type.fields(), found, found}, hash);
     ++myCount;
 }
 
 void AxTypeTable::erase(Slot* slot)
 {
-    auto const at = static_cast<std::size_t>(slot - mySlots.data());
+    auto const at = static_cast<std::size_t>(slot - mySlots.get());
     bool const hasFree = zeroBytes(tagsOf(at / theGroupSize)) != 0;
     myTags[at] = hasFree ? theFree : theErased;
     myNumErased += !hasFree;
-    *slot = Slot{};
     --myCount;
 }
 
 void AxTypeTable::clear()
 {
-    mySlots.clear();
+    mySlots.reset();
     myTags.clear();
     myFilter.assign(1, 0);
     myCount = myNumErased = myMask = myFilterMask = 0;

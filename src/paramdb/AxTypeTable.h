@@ -6,22 +6,21 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <vector>
 
 class AxListItem;
 
 /// The eight fields of an object type weighed for hashing: a sum, so that a field is replaced by a wildcard with one
-/// subtraction.
+/// subtraction. Looks at the type as long as it lives.
 class AxTypeHash
 {
 public:
-    explicit AxTypeHash(AxObjectType const& type)
+    explicit AxTypeHash(AxObjectType const& type) : myFields(type.fields())
     {
         for (std::size_t i = 0; i < theWeights.size(); ++i)
         {
-            std::uint64_t const weighed = static_cast<std::uint64_t>(std::int64_t{type.fields()[i]}) * theWeights[i];
-            mySum += weighed;
-            myToWildcard[i] = weighed + theWeights[i];
+            mySum += bitsOf(myFields[i]) * theWeights[i];
         }
     }
     /// Replaces the fields that the shape leaves open, or puts those back that the former shape left open. Bit 7 of a
@@ -31,7 +30,7 @@ public:
         for (unsigned changed = shape ^ myShape; changed != 0; changed &= changed - 1)
         {
             unsigned const bit = static_cast<unsigned>(std::countr_zero(changed));
-            std::uint64_t const change = myToWildcard[7 - bit];
+            std::uint64_t const change = (bitsOf(myFields[7 - bit]) + 1) * theWeights[7 - bit];
             mySum = (shape >> bit & 1) != 0 ? mySum - change : mySum + change;
         }
         myShape = shape;
@@ -47,21 +46,29 @@ private:
         0x9E3779B97F4A7C15U, 0xC2B2AE3D27D4EB4FU, 0x165667B19E3779F9U, 0xD6E8FEB86659FD93U,
         0xA0761D6478BD642FU, 0xE7037ED1A0B428DBU, 0x8EBC6AF09C88C6E3U, 0x589965CC75374CC3U};
 
+    static std::uint64_t bitsOf(std::int32_t field) { return static_cast<std::uint64_t>(std::int64_t{field}); }
+
+    AxObjectType::Fields const& myFields;
     std::uint64_t mySum = 0;
-    std::array<std::uint64_t, AxObjectType::theNumFields> myToWildcard{};
     unsigned myShape = 0;
 };
 
 /// Object types to the first and the last of the list items of that type: open addressing in groups of eight slots. A
-/// byte of the hash for each slot tells at once which slots of a group to look at.
+/// byte of the hash for each slot tells at once which slots of a group to look at; a slot is one line of memory and
+/// holds the whole answer, since among many entries each further line costs more than all the rest.
 class AxTypeTable
 {
 public:
-    struct Slot
+    struct Found
     {
-        AxObjectType type;
-        AxListItem* first = nullptr;
-        AxListItem* last = nullptr;
+        AxListItem* item = nullptr;
+        void* data = nullptr; // of the item
+    };
+    struct alignas(64) Slot
+    {
+        AxObjectType::Fields fields;
+        Found first;
+        Found last;
     };
 
     std::size_t count() const { return myCount; }
@@ -78,7 +85,7 @@ public:
             for (std::uint64_t same = zeroBytes(tags ^ theOnes * tagOf(hash)); same != 0; same &= same - 1)
             {
                 Slot& slot = mySlots[group * theGroupSize + byteOf(same)];
-                if (isSame(slot.type, type)) [[likely]]
+                if (isSame(slot.fields, type.fields())) [[likely]]
                 {
                     return &slot;
                 }
@@ -96,7 +103,7 @@ public:
 
     void reserve(std::size_t count);
     /// `type` is not there yet; `hash` is its.
-    void add(AxObjectType const& type, AxListItem* item, std::uint64_t hash);
+    void add(AxObjectType const& type, Found const& found, std::uint64_t hash);
     /// `slot` is of this table; other slots stay where they are.
     void erase(Slot* slot);
     void clear();
@@ -108,12 +115,12 @@ private:
     static constexpr std::uint8_t theFree = 0;
     static constexpr std::uint8_t theErased = 1; // probing goes on behind it
 
-    static bool isSame(AxObjectType const& a, AxObjectType const& b)
+    static bool isSame(AxObjectType::Fields const& a, AxObjectType::Fields const& b)
     {
         std::array<std::uint64_t, 4> left;
         std::array<std::uint64_t, 4> right;
-        std::memcpy(left.data(), a.fields().data(), sizeof left);
-        std::memcpy(right.data(), b.fields().data(), sizeof right);
+        std::memcpy(left.data(), a.data(), sizeof left);
+        std::memcpy(right.data(), b.data(), sizeof right);
         return ((left[0] ^ right[0]) | (left[1] ^ right[1]) | (left[2] ^ right[2]) | (left[3] ^ right[3])) == 0;
     }
     /// The highest bit of each byte that is 0; of others only above such a byte.
@@ -135,7 +142,7 @@ private:
     void resize(unsigned groupBits);
     void place(Slot const& slot, std::uint64_t hash);
 
-    std::vector<Slot> mySlots;
+    std::unique_ptr<Slot[]> mySlots; // memory is touched as slots are taken
     std::vector<std::uint8_t> myTags;
     std::vector<std::uint64_t> myFilter{0};
     std::size_t myCount = 0;

@@ -108,7 +108,7 @@ void AxZedObjectParametersList::addParameters(AxZedObjectParameters* record)
 
 AxListItem* AxZedObjectParametersList::lookupParameters(AxObjectType const& type) const
 {
-    return myTypesAreKnown ? myIndex->bestMatch(type) : myIndex->walk(type);
+    return myTypesAreKnown ? myIndex->bestMatch(type).item : myIndex->walk(type);
 }
 
 AxZedObjectParameters* AxZedObjectParametersList::lookupParameters(AxObjectType const& type,

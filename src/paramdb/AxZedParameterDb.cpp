@@ -11,11 +11,6 @@
 
 namespace
 {
-AxZedParameterDbEntry* entryOf(AxListItem const* item)
-{
-    return item != nullptr ? static_cast<AxZedParameterDbEntry*>(item->data()) : nullptr;
-}
-
 AxObjectType const* typeOfEntry(void const* data)
 {
     return data != nullptr ? &static_cast<AxZedParameterDbEntry const*>(data)->objectType() : nullptr;
@@ -95,6 +90,7 @@ void AxZedParameterDb::removeAll()
             entries.push_back(entry);
         }
     }
+    myAnswer = {};
     myIndex->removeAll();
     myParked.reset();
     for (AxZedParameterDbEntry* const entry : entries)
@@ -130,7 +126,9 @@ void AxZedParameterDb::addParameters(AxObjectType const& type, AxZedObjectParame
 
 AxListItem* AxZedParameterDb::lookupParameters(AxObjectType const& type) const
 {
-    return &type == myInsertedType ? myIndex->firstOf(type) : myIndex->bestMatch(type);
+    AxTypeIndex::Found const found = &type == myInsertedType ? myIndex->firstOf(type) : myIndex->bestMatch(type);
+    myAnswer = {found.item, static_cast<AxZedParameterDbEntry*>(found.data)};
+    return found.item;
 }
 
 AxZedObjectParameters* AxZedParameterDb::lookupParameters(AxObjectType const& type, AxObjectType* matchedType) const
@@ -226,8 +224,14 @@ AxZedParameterDb::Match AxZedParameterDb::entryForLookup(AxObjectType const& typ
     return match;
 }
 
+AxZedParameterDbEntry* AxZedParameterDb::entryOf(AxListItem const* item) const
+{
+    return item == myAnswer.item ? myAnswer.entry : static_cast<AxZedParameterDbEntry*>(item->data());
+}
+
 void AxZedParameterDb::release(AxZedParameterDbEntry& entry)
 {
+    myAnswer = {};
     entry.myHolder = nullptr;
     if (entry.myItem != nullptr)
     {
