@@ -96,7 +96,7 @@ AxTypeIndex::Found AxTypeIndex::bestOfUnusual(AxObjectType const& type)
 AxTypeIndex::Found AxTypeIndex::greatestBelow(AxObjectType const& type)
 {
     unsigned const own = shapeOf(type);
-    Found best;
+    Found best{};
     auto const consider = [&](unsigned shape)
     {
         // A wildcard of the asked type fits nothing but a wildcard.

@@ -6,14 +6,12 @@
 namespace
 {
 constexpr unsigned theFewestGroupBits = 1;
-/// A table is up to seven eighths full, so about one probe in twenty passes the filter by chance.
-constexpr std::size_t theFilterBitsPerSlot = 16;
 } // namespace
 
 void AxTypeTable::reserve(std::size_t count)
 {
     std::size_t const groups = (count + count / 7) / theGroupSize + 1;
-    if (myTags.size() < groups * theGroupSize)
+    if (myGroups.size() < groups)
     {
         resize(std::max(theFewestGroupBits, static_cast<unsigned>(std::bit_width(groups - 1))));
     }
@@ -21,21 +19,18 @@ void AxTypeTable::reserve(std::size_t count)
 
 void AxTypeTable::resize(unsigned groupBits)
 {
-    std::size_t const groups = std::size_t{1} << groupBits;
-    std::unique_ptr<Slot[]> const slots =
-        std::exchange(mySlots, std::make_unique_for_overwrite<Slot[]>(groups * theGroupSize));
-    std::vector<std::uint8_t> const tags =
-        std::exchange(myTags, std::vector<std::uint8_t>(groups * theGroupSize, theFree));
-    myMask = groups - 1;
+    std::size_t const count = std::size_t{1} << groupBits;
+    auto const slots = std::exchange(mySlots, std::make_unique_for_overwrite<Slot[]>(count * theGroupSize));
+    auto const groups = std::exchange(myGroups, std::vector<Group>(count));
+    myMask = count - 1;
     myShift = 64 - groupBits;
     myNumErased = 0;
-    myFilter.assign((myTags.size() * theFilterBitsPerSlot + 63) / 64, 0);
-    myFilterMask = myFilter.size() - 1;
-    for (std::size_t i = 0; i < tags.size(); ++i)
+    for (std::size_t group = 0; group < groups.size(); ++group)
     {
-        if (tags[i] > theErased)
+        for (std::uint64_t taken = groups[group].tags & theHighBits; taken != 0; taken &= taken - 1)
         {
-            place(slots[i], AxTypeHash(AxObjectType(slots[i].fields)).mixed());
+            Slot const& slot = slots[group * theGroupSize + byteOf(taken)];
+            place(slot, AxTypeHash(AxObjectType(slot.fields)).mixed());
         }
     }
 }
@@ -43,23 +38,24 @@ void AxTypeTable::resize(unsigned groupBits)
 void AxTypeTable::place(Slot const& slot, std::uint64_t hash)
 {
     std::size_t group = hash >> myShift;
-    while ((tagsOf(group) & theHighBits) == theHighBits)
+    myGroups[group].filter |= std::uint64_t{1} << (hash & 63);
+    while ((myGroups[group].tags & theHighBits) == theHighBits)
     {
         group = (group + 1) & myMask;
     }
-    std::size_t const at = group * theGroupSize + byteOf(~tagsOf(group) & theHighBits);
-    myNumErased -= myTags[at] == theErased;
-    myTags[at] = tagOf(hash);
-    mySlots[at] = slot;
-    myFilter[hash >> 6 & myFilterMask] |= std::uint64_t{1} << (hash & 63);
+    std::uint64_t const tags = myGroups[group].tags;
+    std::size_t const at = byteOf(~tags & theHighBits);
+    myNumErased -= (tags >> at * 8 & 0xFF) == theErased;
+    myGroups[group].setTag(at, tagOf(hash));
+    mySlots[group * theGroupSize + at] = slot;
 }
 
 void AxTypeTable::add(AxObjectType const& type, Found const& found, std::uint64_t hash)
 {
-    if ((myCount + myNumErased + 1) * 8 > myTags.size() * 7)
+    if ((myCount + myNumErased + 1) * 8 > numSlots() * 7)
     {
-        bool const isFull = myCount * 2 >= myTags.size();
-        resize(myTags.empty() ? theFewestGroupBits : static_cast<unsigned>(std::bit_width(myMask)) + isFull);
+        bool const isFull = myCount * 2 >= numSlots();
+        resize(myGroups.empty() ? theFewestGroupBits : static_cast<unsigned>(std::bit_width(myMask)) + isFull);
     }
     place({type.fields(), found, found}, hash);
     ++myCount;
@@ -68,8 +64,9 @@ void AxTypeTable::add(AxObjectType const& type, Found const& found, std::uint64_
 void AxTypeTable::erase(Slot* slot)
 {
     auto const at = static_cast<std::size_t>(slot - mySlots.get());
-    bool const hasFree = zeroBytes(tagsOf(at / theGroupSize)) != 0;
-    myTags[at] = hasFree ? theFree : theErased;
+    Group& group = myGroups[at / theGroupSize];
+    bool const hasFree = zeroBytes(group.tags) != 0;
+    group.setTag(at % theGroupSize, hasFree ? theFree : theErased);
     myNumErased += !hasFree;
     --myCount;
 }
@@ -77,8 +74,7 @@ void AxTypeTable::erase(Slot* slot)
 void AxTypeTable::clear()
 {
     mySlots.reset();
-    myTags.clear();
-    myFilter.assign(1, 0);
-    myCount = myNumErased = myMask = myFilterMask = 0;
+    myGroups.clear();
+    myCount = myNumErased = myMask = 0;
     myShift = 63;
 }

@@ -61,8 +61,8 @@ class AxTypeTable
 public:
     struct Found
     {
-        AxListItem* item = nullptr;
-        void* data = nullptr; // of the item
+        AxListItem* item;
+        void* data; // of the item
     };
     struct alignas(64) Slot
     {
@@ -81,7 +81,7 @@ public:
         }
         for (std::size_t group = hash >> myShift;; group = (group + 1) & myMask)
         {
-            std::uint64_t const tags = tagsOf(group);
+            std::uint64_t const tags = myGroups[group].tags;
             for (std::uint64_t same = zeroBytes(tags ^ theOnes * tagOf(hash)); same != 0; same &= same - 1)
             {
                 Slot& slot = mySlots[group * theGroupSize + byteOf(same)];
@@ -98,8 +98,8 @@ public:
     }
     Slot* find(AxObjectType const& type) { return find(type, AxTypeHash(type).mixed()); }
 
-    /// False when no entry can have this hash; true says nothing.
-    bool mayHold(std::uint64_t hash) const { return (myFilter[hash >> 6 & myFilterMask] >> (hash & 63) & 1) != 0; }
+    /// False when no entry can have this hash; true says nothing. Not for an empty table.
+    bool mayHold(std::uint64_t hash) const { return (myGroups[hash >> myShift].filter >> (hash & 63) & 1) != 0; }
 
     void reserve(std::size_t count);
     /// `type` is not there yet; `hash` is its.
@@ -112,8 +112,8 @@ private:
     static constexpr std::size_t theGroupSize = 8;
     static constexpr std::uint64_t theOnes = 0x0101010101010101U;
     static constexpr std::uint64_t theHighBits = theOnes << 7;
-    static constexpr std::uint8_t theFree = 0;
-    static constexpr std::uint8_t theErased = 1; // probing goes on behind it
+    static constexpr std::uint64_t theFree = 0;
+    static constexpr std::uint64_t theErased = 1; // probing goes on behind it
 
     static bool isSame(AxObjectType::Fields const& a, AxObjectType::Fields const& b)
     {
@@ -125,29 +125,28 @@ private:
     }
     /// The highest bit of each byte that is 0; of others only above such a byte.
     static std::uint64_t zeroBytes(std::uint64_t word) { return (word - theOnes) & ~word & theHighBits; }
-    /// The place in memory of the byte whose lowest bit is set.
-    static std::size_t byteOf(std::uint64_t bits)
-    {
-        std::size_t const byte = static_cast<std::size_t>(std::countr_zero(bits)) / 8;
-        return std::endian::native == std::endian::little ? byte : theGroupSize - 1 - byte;
-    }
+    /// Which of the eight bytes holds the lowest bit that is set.
+    static std::size_t byteOf(std::uint64_t bits) { return static_cast<std::size_t>(std::countr_zero(bits)) / 8; }
     /// Neither free nor erased.
-    static std::uint8_t tagOf(std::uint64_t hash) { return static_cast<std::uint8_t>(hash >> 16 | 0x80U); }
-    std::uint64_t tagsOf(std::size_t group) const
+    static std::uint64_t tagOf(std::uint64_t hash) { return (hash >> 16 | 0x80U) & 0xFFU; }
+    /// What is looked at before a slot is.
+    struct Group
     {
-        std::uint64_t tags = 0;
-        std::memcpy(&tags, myTags.data() + group * theGroupSize, sizeof tags);
-        return tags;
-    }
+        void setTag(std::size_t slot, std::uint64_t tag)
+        {
+            tags = (tags & ~(std::uint64_t{0xFF} << slot * 8)) | tag << slot * 8;
+        }
+        std::uint64_t tags = 0;   // a byte for each slot
+        std::uint64_t filter = 0; // a bit for each entry that belongs here or did, also for those pushed on
+    };
+    std::size_t numSlots() const { return myGroups.size() * theGroupSize; }
     void resize(unsigned groupBits);
     void place(Slot const& slot, std::uint64_t hash);
 
     std::unique_ptr<Slot[]> mySlots; // memory is touched as slots are taken
-    std::vector<std::uint8_t> myTags;
-    std::vector<std::uint64_t> myFilter{0};
+    std::vector<Group> myGroups;
     std::size_t myCount = 0;
     std::size_t myNumErased = 0;
     std::size_t myMask = 0; // of groups
-    std::size_t myFilterMask = 0;
     unsigned myShift = 63;
 };
