@@ -187,7 +187,9 @@ AxlObjPtr AxModelSet::getData(AxlObjPtr const& item, AxFilenameList const& files
         entry = std::make_unique<AxModelSetEntry>(AxSymbolString(), nullptr);
     }
     entry->getSelf(item, files, bindings);
-    if (myKeepsAll)
+    // Models whose types could not be read are not the same model.
+    bool const isUntyped = !isGroup && entry->objectType().isNull();
+    if (myKeepsAll || (isUntyped && find(entry->objectType())))
     {
         AxRwList::addToEnd(entry.release());
     }

@@ -281,9 +281,10 @@ private:
     std::string findingsOf(std::string const& file) const
     {
         std::string items;
-        for (AxDiagnostic const& finding : std::ranges::equal_range(myFindings, file, {}, &AxDiagnostic::file))
+        for (auto finding = std::ranges::lower_bound(myFindings, file, {}, &AxDiagnostic::file);
+             finding != myFindings.end() && finding->file == file; ++finding)
         {
-            items += findingItem(finding, "#L" + std::to_string(finding.line));
+            items += findingItem(*finding, "#L" + std::to_string(finding->line));
         }
         return items.empty() ? "" : "<h2 id=\"findings\">Findings</h2>\n<ul>\n" + items + "</ul>\n";
     }

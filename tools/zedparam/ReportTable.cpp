@@ -52,7 +52,7 @@ std::string numbersOf(Plot const& plot, std::size_t subject)
         }
     }
     std::ranges::sort(ranges);
-    ranges.erase(std::ranges::unique(ranges).begin(), ranges.end());
+    ranges.erase(std::unique(ranges.begin(), ranges.end()), ranges.end());
     constexpr std::size_t theSamples = 10; // of a polynomial
     bool const isStep = std::ranges::any_of(lines, &PlotLine::isStep);
     heads.insert(heads.begin(), isStep ? "Range up to, m" : "Range, m");

@@ -277,7 +277,10 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
     if (member->flag(Rejected))
     {
         member->setFlag(Rejected, false);
-        rare().kept.push_back({frame.last, printed(item), true, member->lastStamp()});
+        // Beside a value that the text gave before it stands for itself.
+        auto const standsFor = [&frame](AxKeptItem const& kept) { return kept.replaces && kept.after == frame.last; };
+        bool const hasValue = isRepeated && std::ranges::none_of(rare().kept, standsFor);
+        rare().kept.push_back({frame.last, printed(item), !hasValue, member->lastStamp()});
         setFlag(KeepsItems, true);
     }
 }

@@ -295,6 +295,12 @@ TEST_F(AxModelSetTest, AKnownTypeTakesOverTheValuesInItsPlace)
     EXPECT_EQ(tankEntry->uniqueId(), "mine");
 }
 
+TEST_F(AxModelSetTest, ModelsOfUnreadableTypesStayBesideEachOther)
+{
+    EXPECT_TRUE(load("(model (label \"a\") (object-type 1 2)) (model (label \"b\")) (model (label \"c\"))"));
+    EXPECT_EQ(labels(), "a b c");
+}
+
 TEST_F(AxModelSetTest, CategoriesAreThoseOfTheEntriesOnEachPalette)
 {
     AxModelSetEntry* const tankEntry = add("1:1:1:225:1:1:3:0", "M1A2", "Tank");

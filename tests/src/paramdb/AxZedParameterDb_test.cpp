@@ -1,8 +1,8 @@
 #include "AxZedParameterDb.h"
 
 #include "AxReaderWriterFileExtensible.h"
-#include "AxZedParameterDbEntry.h"
 #include "src/objparams/RecordFixture.h"
+#include "src/paramdb/DatabaseWalk.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -11,109 +11,11 @@
 
 namespace
 {
-struct Database : AxZedParameterDb
-{
-    using AxZedParameterDb::addParameterDbEntry;
-    using AxZedParameterDb::lookupParameters;
-
-    /// What answers for a type, by the list's item.
-    AxZedParameterDbEntry const* found(AxObjectType const& type) const
-    {
-        AxListItem const* const item = lookupParameters(type);
-        return item ? static_cast<AxZedParameterDbEntry const*>(item->data()) : nullptr;
-    }
-    std::vector<AxZedParameterDbEntry const*> entries() const
-    {
-        std::vector<AxZedParameterDbEntry const*> all;
-        for (AxListItem const* item = parameterList().first(); item; item = item->next())
-        {
-            all.push_back(static_cast<AxZedParameterDbEntry const*>(item->data()));
-        }
-        return all;
-    }
-};
-
 /// Knows of no entry, so that none is replaced.
 struct BlindDatabase : Database
 {
     using Database::lookupParameters;
     AxListItem* lookupParameters(AxObjectType const&) const override { return nullptr; }
-};
-
-AxZedParameterDbEntry* newEntry(AxObjectType const& type, bool isMatchType)
-{
-    auto* const entry = new AxZedParameterDbEntry;
-    entry->setObjectType(type);
-    entry->setTypeIsMatchType(isMatchType);
-    return entry;
-}
-
-/// The definition of the best match and of the ordered insertion, step by step.
-class Walk
-{
-public:
-    using Entry = AxZedParameterDbEntry const*;
-
-    Entry found(AxObjectType const& type) const
-    {
-        std::size_t const at = best(type);
-        return at < entries.size() ? entries[at] : nullptr;
-    }
-    void remove(AxObjectType const& type)
-    {
-        std::size_t const at = best(type);
-        if (at < entries.size() && entries[at]->objectType() == type)
-        {
-            entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(at));
-        }
-    }
-    /// To be called before the database deletes what is replaced.
-    void insert(Entry entry)
-    {
-        AxObjectType const& type = entry->objectType();
-        Entry const old = found(type);
-        if (old && old->objectType() == type && (old->typeIsMatchType() || !entry->typeIsMatchType()))
-        {
-            remove(type);
-        }
-        if (entries.empty() || entries.back()->objectType() < type)
-        {
-            entries.push_back(entry);
-            return;
-        }
-        auto const above = std::find_if(entries.begin(), entries.end(),
-                                        [&type](Entry standing) { return type < standing->objectType(); });
-        if (above != entries.end())
-        {
-            entries.insert(above, entry);
-        }
-    }
-
-    std::vector<Entry> entries;
-
-private:
-    std::size_t best(AxObjectType const& type) const
-    {
-        std::size_t best = entries.size();
-        for (std::size_t i = 0; i < entries.size(); ++i)
-        {
-            AxObjectType const& standing = entries[i]->objectType();
-            bool const fits = type.matchPattern(standing);
-            if (!(standing < type))
-            {
-                if (standing == type)
-                {
-                    return i;
-                }
-                if (!fits)
-                {
-                    break;
-                }
-            }
-            best = fits ? i : best;
-        }
-        return best;
-    }
 };
 
 /// Types that collide often: some fields vary, the others are 0 or open.
@@ -151,7 +53,7 @@ class AxZedParameterDbTest : public RecordFixture
 protected:
     AxZedObjectParameters* record() { return made("zed-object-param").release(); }
 
-    Database db;
+    WalkedDatabase db;
     AxObjectType const tank = typeOf("1:1:1:225:1:1:3:0");
     AxObjectType const tanks = typeOf("1:1:1:225:1:1:-1:-1");
     AxObjectType const vehicles = typeOf("1:1:1:-1:-1:-1:-1:-1");
@@ -253,7 +155,7 @@ TEST_F(AxZedParameterDbTest, EqualTypesReplaceEachOtherByTheirMarks)
     };
     for (Case const& row : cases)
     {
-        Database made;
+        WalkedDatabase made;
         std::vector<AxZedParameterDbEntry const*> added;
         for (char const mark : row.added)
         {
