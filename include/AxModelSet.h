@@ -96,6 +96,7 @@ public:
 private:
     class Loading;
 
+    /// Adds what was read. Models whose types could not be read are not the same model: all of them stay.
     void adopt(std::unique_ptr<AxModelSetEntry> entry);
     void takeIn(AxModelSet& read);
     void refreshIndex() const;

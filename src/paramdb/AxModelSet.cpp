@@ -187,9 +187,7 @@ AxlObjPtr AxModelSet::getData(AxlObjPtr const& item, AxFilenameList const& files
         entry = std::make_unique<AxModelSetEntry>(AxSymbolString(), nullptr);
     }
     entry->getSelf(item, files, bindings);
-    // Models whose types could not be read are not the same model.
-    bool const isUntyped = !isGroup && entry->objectType().isNull();
-    if (myKeepsAll || (isUntyped && find(entry->objectType())))
+    if (myKeepsAll)
     {
         AxRwList::addToEnd(entry.release());
     }
@@ -257,7 +255,13 @@ AxString AxModelSet::unusedID(AxString const& base) const
 
 void AxModelSet::adopt(std::unique_ptr<AxModelSetEntry> entry)
 {
-    if (addModel(entry.get(), false) == entry.get())
+    AxObjectType const& type = entry->objectType();
+    bool const isGroup = dynamic_cast<AxSimulationObjectGroupModelSetEntry*>(entry.get()) != nullptr;
+    if (type.isNull() && !isGroup && find(type))
+    {
+        AxRwList::addToEnd(entry.release());
+    }
+    else if (addModel(entry.get(), false) == entry.get())
     {
         static_cast<void>(entry.release());
     }

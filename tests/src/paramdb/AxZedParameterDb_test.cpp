@@ -12,9 +12,9 @@
 namespace
 {
 /// Knows of no entry, so that none is replaced.
-struct BlindDatabase : Database
+struct BlindDatabase : WalkedDatabase
 {
-    using Database::lookupParameters;
+    using WalkedDatabase::lookupParameters;
     AxListItem* lookupParameters(AxObjectType const&) const override { return nullptr; }
 };
 
@@ -64,7 +64,7 @@ TEST_F(AxZedParameterDbTest, IndexAnswersAsTheWalkDoes)
 {
     for (unsigned seed = 0; seed < 400; ++seed)
     {
-        Database random;
+        WalkedDatabase random;
         Walk walk;
         RandomTypes types(seed);
         int const lowest = seed % 2 == 0 ? -2 : -1;
@@ -260,7 +260,7 @@ TEST_F(AxZedParameterDbTest, SaysWhatItRefuses)
     db.addParameterDbEntry(nullptr);
     EXPECT_EQ(warnings.text(), "AxZedParameterDb::addParameters : attempting to add NULL entry\n");
     warnings.clear();
-    Database other;
+    WalkedDatabase other;
     other.addParameterDbEntry(db.add(tank, record()));
     EXPECT_EQ(findings.back().code, "entry-held");
     EXPECT_EQ(db.numParameterEntries(), 1);
