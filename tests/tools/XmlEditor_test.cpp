@@ -51,11 +51,25 @@ TEST(XmlEditor, ChangesTheBytesOfTheValueAlone)
         {" mass='5.0'/>", "/mass=1", "no-path"},
         {" mass='5.0'/>", "max-speed=6", " mass='5.0' max-speed=\"6\"/>"},
         {" />", "max-speed=6", " max-speed=\"6\" />"},
-        {" mass='5.0'/>", "other-support=1 2 3", "no-element"},
+        {" mass='5.0'/>", "other-support=1 2 3",
+         " mass='5.0'>\n    <offsetVector name=\"other-support\" value=\"1.0 2.0 3.0\"/>\n  </platform>"},
+        {"/>", "sensor-signatures/x=2",
+         ">\n    <attributes name=\"sensor-signatures\">\n      <attribute name=\"x\" value=\"2.0\"/>\n    "
+         "</attributes>\n"
+         "  </platform>"},
+        {">\n    <attributes name='sensor-signatures'> <attribute name='x' value='1'/></attributes></platform>",
+         "dr-thresholds/rotation=3",
+         ">\n    <AxRwDeadReckonThresholds name=\"dr-thresholds\" rotation=\"3.0\"/>\n    <attributes "
+         "name='sensor-signatures'> <attribute name='x' value='1'/></attributes></platform>"},
+        {"><properties name='parameter-data'><property name='x' type='AxRwInt' value='4'/></properties></platform>",
+         "parameter-data/x=5",
+         "><properties name='parameter-data'><property name='x' type='AxRwInt' value='5'/></properties></platform>"},
+        {"><properties name='parameter-data'><property name='x' type='AxRwInt' value='4'/></properties></platform>",
+         "parameter-data/x=many", "wrong-kind"},
         {">\n    <!-- note -->\n    <offsetVector name='left-support' value='1 2 3'/></platform>",
          "other-support=4 5 6",
-         ">\n    <!-- note -->\n    <offsetVector name=\"other-support\" value=\"4.0 5.0 6.0\"/>\n"
-         "    <offsetVector name='left-support' value='1 2 3'/></platform>"},
+         ">\n    <!-- note -->\n    <offsetVector name='left-support' value='1 2 3'/>\n"
+         "    <offsetVector name=\"other-support\" value=\"4.0 5.0 6.0\"/></platform>"},
         {"><offsetVector name='left-support' value='1 2 3'/></platform>", "left-support=4 5 6",
          "><offsetVector name='left-support' value='4 5 6'/></platform>"},
         {"><offsetVector name='left-support' value='1 2 3'/></platform>", "left-support=4 5", "wrong-kind"},

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "AxKeyword.h"
+#include "Colour.h"
 #include "ShownPath.h"
 
 /// One difference with all that is told of it.
@@ -78,7 +79,9 @@ void DiffReport::addOnly(std::string const& subject, int side, std::string const
     }
     else
     {
-        std::printf("%s: %s  (%s)\n", subject.c_str(), side == 0 ? "removed" : "added", told.file[side].c_str());
+        std::printf("%s: %s  (%s)\n", coloured(subject, Colour::Bold).c_str(),
+                    side == 0 ? coloured("removed", Colour::Red).c_str() : coloured("added", Colour::Green).c_str(),
+                    told.file[side].c_str());
     }
     ++myCount;
 }
@@ -87,13 +90,14 @@ void DiffReport::print(Told const& told) const
 {
     std::string line = told.subject;
     (line += line.empty() || told.path.empty() ? "" : " ") += told.path;
-    line += line.empty() ? "" : ": ";
-    auto const value = [&told](int side)
-    { return shown(told.text[side]) + (told.unit.empty() ? "" : " " + told.unit); };
+    line = line.empty() ? line : coloured(line, Colour::Bold) + ": ";
+    auto const text = [&told](int side)
+    { return coloured(shown(told.text[side]), side == 0 ? Colour::Red : Colour::Green); };
+    auto const value = [&](int side) { return text(side) + (told.unit.empty() ? "" : " " + told.unit); };
     switch (told.what)
     {
     case What::Changed:
-        line += shown(told.text[0]) + " -> " + value(1);
+        line += text(0) + " -> " + value(1);
         break;
     case What::Removed:
         line += value(0) + " -> absent";
@@ -102,7 +106,7 @@ void DiffReport::print(Told const& told) const
         line += "absent -> " + value(1);
         break;
     case What::Moved:
-        line += "order: " + shown(told.text[0]) + " -> " + shown(told.text[1]);
+        line += "order: " + text(0) + " -> " + text(1);
         break;
     }
     char const* separator = "  (";

@@ -7,9 +7,13 @@
 #include "AxNearest.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwList.h"
+#include "AxRwProperties.h"
+#include "AxRwRealAttributeList.h"
 #include "AxRwString.h"
+#include "AxRwStringAttributeList.h"
 #include "AxlPrint.h"
 #include "RangeText.h"
+#include "ShownPath.h"
 #include "TextPath.h"
 #include "TextPlacement.h"
 
@@ -35,12 +39,32 @@ bool isText(AxReaderWriter const* rw)
     return dynamic_cast<AxRwString const*>(rw) != nullptr || dynamic_cast<AxReaderWriterFile const*>(rw) != nullptr;
 }
 
-std::string valueText(std::string const& value, AxReaderWriter const* rw)
+bool holdsNamedValues(AxReaderWriter const* rw)
+{
+    return dynamic_cast<AxRwRealAttributeList const*>(rw) != nullptr ||
+           dynamic_cast<AxRwStringAttributeList const*>(rw) != nullptr ||
+           dynamic_cast<AxRwProperties const*>(rw) != nullptr;
+}
+
+bool isLeadingItem(std::string_view name)
+{
+    constexpr std::string_view theWords[] = {
+        "parameter-type", "component-descriptor-type", "comm-model-descriptor-type", "object-type", "match-type",
+        "record-name"};
+    return std::ranges::find(theWords, name) != std::end(theWords);
+}
+
+std::string valueText(std::string const& value, AxReaderWriter const* rw, AxReaderWriter const* outer)
 {
     TextTree const tree(value);
+    if (AxRwProperty const* const property = rw != nullptr ? rw->property() : nullptr)
+    {
+        bool const isTyped = AxRwProperty("value", nullptr).setType(AxString(tree.root().value()));
+        return isTyped ? value : property->type().string() + " " + valueText(value, property->rwValue(), nullptr);
+    }
     bool const isWhole = tree.root() && tree.faults().empty() && !holdsComment(tree, 0, value.size());
     bool const isQuoted = isWhole && (tree.root().isString() || value.starts_with('$')) && !tree.root().next();
-    if (isText(rw) && !isQuoted)
+    if ((isText(rw) || dynamic_cast<AxRwStringAttributeList const*>(outer) != nullptr) && !isQuoted)
     {
         std::string quoted;
         axAppendQuoted(quoted, value);
@@ -48,6 +72,44 @@ std::string valueText(std::string const& value, AxReaderWriter const* rw)
     }
     std::size_t const begin = value.find_first_not_of(theBlanks);
     return isWhole ? value.substr(begin, value.find_last_not_of(theBlanks) + 1 - begin) : std::string();
+}
+
+std::string namedValueText(AxReaderWriter const& rw, std::string const& name, std::string const& value)
+{
+    std::string text = "(";
+    if (dynamic_cast<AxRwProperties const*>(&rw) != nullptr)
+    {
+        axAppendName(text, AxSymbolString(AxString(name)));
+    }
+    else
+    {
+        axAppendQuoted(text, name);
+    }
+    return text.append(" ").append(value).append(")");
+}
+
+ElsewhereNote elsewhere(AxReaderWriter const* rw, std::string const& name, std::string_view path)
+{
+    auto const* file = dynamic_cast<AxReaderWriterFile const*>(rw);
+    AxReaderWriterRegistry const* const members = rw != nullptr && file == nullptr ? rw->registryIfAny() : nullptr;
+    AxReaderWriter const* const member = members != nullptr ? members->find(AxSymbolString(AxString(name))) : nullptr;
+    std::string of = file != nullptr ? file->name().string().string() : name;
+    for (std::size_t i = 0; member != nullptr && file == nullptr && i < members->size(); ++i)
+    {
+        auto const* const each = dynamic_cast<AxReaderWriterFile const*>(members->entry(i).member);
+        file = each != nullptr && each->content() == member ? each : nullptr;
+    }
+    if (file == nullptr || file->foundFilename().isNull())
+    {
+        return {};
+    }
+    if (member != nullptr)
+    {
+        std::size_t const slash = path.find('/');
+        path = slash == std::string_view::npos ? std::string_view() : path.substr(slash + 1);
+    }
+    return {"\"" + of + "\" is read from \"" + shownPath(file->foundFilename().native()) + "\"",
+            path.empty() ? "change it there" : "change \"" + std::string(path) + "\" there"};
 }
 
 AxDiagnostic valueFault(AxReaderWriter const& member, std::string const& name, std::string const& value, bool isTaken,

@@ -14,9 +14,27 @@ bool holdsItems(AxReaderWriter const& rw);
 /// Whether a member is a text, whose quotes a user may leave out.
 bool isText(AxReaderWriter const* rw);
 
-/// What follows the keyword, as it stands in parameter text; empty for what is no value. `rw` is null when nothing is
-/// known of it.
-std::string valueText(std::string const& value, AxReaderWriter const* rw);
+/// Whether a member holds values under any names, such as signatures or properties.
+bool holdsNamedValues(AxReaderWriter const* rw);
+
+/// Words that tell what a record or element is; they are read before there are members.
+bool isLeadingItem(std::string_view name);
+
+/// What follows the keyword, as it stands in parameter text; empty for what is no value. `rw` reads it, `outer` what it
+/// stands in; either is null when nothing is known of it. The type of a property may be left out.
+std::string valueText(std::string const& value, AxReaderWriter const* rw, AxReaderWriter const* outer);
+
+/// What holds `name` and the value among the named values of a member, as parameter text.
+std::string namedValueText(AxReaderWriter const& rw, std::string const& name, std::string const& value);
+
+/// Why a path does not lead from what `rw` reads to `name`: that stands in another file, where `rest` is set. Empty
+/// texts when it does not.
+struct ElsewhereNote
+{
+    std::string text;
+    std::string hint;
+};
+ElsewhereNote elsewhere(AxReaderWriter const* rw, std::string const& name, std::string_view path);
 
 /// What speaks against a value that a member was given to read: a fault with code and text, or without a code when
 /// nothing does. `findings` are those of that reading.

@@ -29,12 +29,17 @@ AxEnvValue const* valueBelow(AxEnvObject const& object, std::span<SourceStep con
             }
         }
     }
+    int occurrence = 0;
     for (AxEnvValuePtr const& node : object.children())
     {
         AxEnvObject const* const child = objectIn(node);
         AxEnvValue const* found = nullptr;
-        if (child != nullptr && matches(path.front(), child->hasName() ? child->name() : child->type()))
+        if (child != nullptr && matches(path.front(), elementName(*child)))
         {
+            if (path.front().occurrence != SourceStep::theLast && occurrence++ != path.front().occurrence)
+            {
+                continue;
+            }
             found = path.size() == 1 ? child : valueBelow(*child, path.subspan(1));
         }
         else if (child != nullptr && child->type() == "variableBindings")
@@ -73,6 +78,12 @@ AxEnvValue const* attributeBelow(AxEnvObject const& object, Accept const& accept
 }
 } // namespace
 
+AxString const& elementName(AxEnvObject const& element)
+{
+    AxString const* const type = element.type() == "readerWriter" ? element.attribute("type") : nullptr;
+    return element.hasName() ? element.name() : type != nullptr ? *type : element.type();
+}
+
 AxEnvValue const* ElementSource::value(std::span<SourceStep const> path) const
 {
     if (path.empty() || myElement == nullptr)
@@ -86,7 +97,8 @@ AxEnvValue const* ElementSource::value(std::span<SourceStep const> path) const
         AxEnvObject const* const child = objectIn(node);
         std::span<SourceStep const> const rest = path;
         AxEnvValue const* found = nullptr;
-        if (child != nullptr && isInSystem && child->type() == "componentSystem" && matches(path[1], child->name()))
+        if (child != nullptr && isInSystem && child->type() == "componentSystem" &&
+            matches(path[1], elementName(*child)))
         {
             found = path.size() == 2 ? child : valueBelow(*child, rest.subspan(2));
         }

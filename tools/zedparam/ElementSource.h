@@ -6,6 +6,9 @@
 #include "AxEnvironment.h"
 #include "Source.h"
 
+/// What an element is called where it is read: its name, else its type, else its tag.
+AxString const& elementName(AxEnvObject const& element);
+
 /// Where something stands in the object element of an entity file, as Source tells it of parameter text. Each search
 /// answers null when nothing is found.
 class ElementSource

@@ -25,8 +25,17 @@ public:
 
     std::string const& text() const { return myText; }
     AxDiagnostic const& fault() const { return myFault; }
-    /// One line for each change, such as "m1a2.ope:83:3: (mass 5.0) -> (mass 6.0)".
-    std::vector<std::string> const& changes() const { return myChanges; }
+    /// What was done, in the order in which it was asked for.
+    struct Change
+    {
+        std::string path;
+        unsigned line;
+        unsigned column;
+        std::string keyword; ///< of values that do not show it themselves
+        std::string before;  ///< empty for what was added
+        std::string after;   ///< empty for what was taken out
+    };
+    std::vector<Change> const& changes() const { return myChanges; }
 
 protected:
     FileEditor(std::string file, std::string text, bool force)
@@ -46,10 +55,7 @@ protected:
         myFault.hint = std::move(hint);
         return false;
     }
-    void note(unsigned line, unsigned column, std::string const& what)
-    {
-        myChanges.push_back(myFile + ":" + std::to_string(line) + ":" + std::to_string(column) + ": " + what);
-    }
+    void note(Change change) { myChanges.push_back(std::move(change)); }
     std::string const& file() const { return myFile; }
     /// Whether to let pass what the library does not know, or would find fault with.
     bool force() const { return myForce; }
@@ -60,5 +66,5 @@ private:
     std::string myFile;
     bool myForce;
     AxDiagnostic myFault;
-    std::vector<std::string> myChanges;
+    std::vector<Change> myChanges;
 };

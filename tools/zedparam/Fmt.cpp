@@ -66,6 +66,11 @@ bool layOut(std::string const& file, std::string const& text, std::string& out)
         std::fprintf(stderr, "%s\n", fault.format().c_str());
         return false;
     }
+    if (!tree.root())
+    {
+        std::fprintf(stderr, "%s:1:1: error: the file holds nothing to lay out [empty-file]\n", file.c_str());
+        return false;
+    }
     TextReading reading(file);
     out = laidOut(tree, reading);
     if (!haveSameContent(tree, TextTree(out)))
@@ -91,7 +96,8 @@ int format(std::string const& file, Options const& options)
     }
     else if (options.check && out != text)
     {
-        std::printf("%s is not formatted\n", file.c_str());
+        auto const [stop, ignored] = std::ranges::mismatch(text, out);
+        std::printf("%s:%td:1: is not formatted\n", file.c_str(), std::count(text.begin(), stop, '\n') + 1);
     }
     else if (!options.check && file == theStandardInput)
     {

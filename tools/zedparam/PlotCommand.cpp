@@ -8,6 +8,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "Colour.h"
 #include "CommandLine.h"
 #include "Findings.h"
 #include "Plot.h"
@@ -48,9 +49,7 @@ PlotStyle styleFor(std::string const& wish)
     {
         return PlotStyle::Plain;
     }
-    char const* const noColour = std::getenv("NO_COLOR");
-    bool const mayColour = noColour == nullptr || *noColour == '\0';
-    return isTerminal && mayColour ? PlotStyle::Coloured : PlotStyle::Unicode;
+    return mayColour() ? PlotStyle::Coloured : PlotStyle::Unicode;
 }
 
 int plot(Options const& options)

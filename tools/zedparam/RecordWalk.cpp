@@ -1,6 +1,7 @@
 #include "RecordWalk.h"
 
 #include <algorithm>
+#include <charconv>
 #include <typeinfo>
 #include <unordered_map>
 #include <utility>
@@ -21,10 +22,44 @@ namespace
 {
 using Step = KeywordPath::Step;
 
-bool matches(Step const& step, AxSymbolString keyword, AxReaderWriter const& rw)
+bool matches(Step const& step, SourceStep const& at)
 {
-    return step.kind == Step::Kind::Any || step.keyword == keyword || rw.hasAlias(step.keyword);
+    bool const isThat = step.occurrence == SourceStep::theLast || step.occurrence == std::max(at.occurrence, 0);
+    return isThat && (step.kind == Step::Kind::Any || step.keyword == at.keyword || at.rw->hasAlias(step.keyword));
 }
+
+/// The keyword of an element that has no name of its own is what it writes in front.
+AxSymbolString nameOf(AxReaderWriter& element)
+{
+    if (!element.name().isNull())
+    {
+        return element.name();
+    }
+    std::string text;
+    element.putSelf(text, 0, false, AxFilename::nullFilename());
+    std::size_t const begin = std::min(text.find('(') + 1, text.size());
+    return AxSymbolString(std::string_view(text).substr(begin, text.find_first_of(" ()\n", begin) - begin));
+}
+
+/// Tells elements of one name apart.
+class Occurrences
+{
+public:
+    void count(AxSymbolString name) { ++myCounts[name].all; }
+    SourceStep next(AxSymbolString name, AxReaderWriter const& rw)
+    {
+        Count& count = myCounts[name];
+        return {name, &rw, count.seen++, count.all > 1};
+    }
+
+private:
+    struct Count
+    {
+        int all = 0;
+        int seen = 0;
+    };
+    std::unordered_map<AxSymbolString, Count> myCounts;
+};
 
 /// One number, word or text: there is nothing below, and nothing in it that has a keyword. Most of a record is such.
 bool isPlainValue(AxReaderWriter const& rw)
@@ -48,6 +83,20 @@ std::string_view neededText(std::span<Step const> rest)
 }
 } // namespace
 
+bool takePosition(std::string& name, std::size_t& position)
+{
+    position = 0;
+    std::size_t const bracket = name.rfind('[');
+    if (bracket == std::string::npos || !name.ends_with(']'))
+    {
+        return true;
+    }
+    char const* const end = name.data() + name.size() - 1;
+    auto const [stop, error] = std::from_chars(name.data() + bracket + 1, end, position);
+    name.resize(bracket);
+    return error == std::errc() && stop == end && position != 0;
+}
+
 bool KeywordPath::parse(std::string_view text, KeywordPath& out, std::string& fault)
 {
     out.myText = text;
@@ -56,19 +105,23 @@ bool KeywordPath::parse(std::string_view text, KeywordPath& out, std::string& fa
     for (std::size_t begin = 0; begin <= text.size();)
     {
         std::size_t const end = std::min(text.find('/', begin), text.size());
-        std::string_view const word = text.substr(begin, end - begin);
+        std::string word(text.substr(begin, end - begin));
+        std::size_t position = 0;
+        bool const isWord = takePosition(word, position);
         begin = end + 1;
         Step::Kind const kind = word == "*"    ? Step::Kind::Any
                                 : word == "**" ? Step::Kind::AnyDepth
                                                : Step::Kind::Keyword;
         anyDepths += kind == Step::Kind::AnyDepth;
-        if (word.empty() || anyDepths > 1)
+        if (word.empty() || !isWord || anyDepths > 1)
         {
             fault = "\"" + std::string(text) + "\" is no path of keywords; expected one such as \"max-speed\"";
             fault += anyDepths > 1 ? ", with \"**\" at most once" : "";
             return false;
         }
-        out.mySteps.push_back({kind, kind == Step::Kind::Keyword ? AxSymbolString(word) : AxSymbolString()});
+        out.mySteps.push_back({kind,
+                               kind == Step::Kind::Keyword ? AxSymbolString(std::string_view(word)) : AxSymbolString(),
+                               static_cast<int>(position) - 1});
     }
     return true;
 }
@@ -107,6 +160,7 @@ std::string RecordWalk::path() const
     for (SourceStep const& step : steps())
     {
         path.append(path.empty() ? "" : "/").append(step.keyword.isNull() ? "*" : step.keyword.view());
+        path.append(step.isOneOfSeveral ? "[" + std::to_string(step.occurrence + 1) + "]" : std::string());
     }
     return path;
 }
@@ -148,7 +202,7 @@ void RecordWalk::members(AxReaderWriterRegistry const& registry, Steps rest)
     }
     if (named != nullptr && named->isValue())
     {
-        child(named->name(), SourceStep::theLast, *named, nullptr, rest);
+        child({named->name(), named}, *named, nullptr, rest);
         return;
     }
     // A member that a file was read into stands in that file.
@@ -177,7 +231,7 @@ void RecordWalk::members(AxReaderWriterRegistry const& registry, Steps rest)
         }
         else
         {
-            child(entry.keyword, SourceStep::theLast, *entry.member, nullptr, rest);
+            child({entry.keyword, entry.member}, *entry.member, nullptr, rest);
         }
     }
 }
@@ -185,15 +239,22 @@ void RecordWalk::members(AxReaderWriterRegistry const& registry, Steps rest)
 void RecordWalk::elements(AxReaderWriter& rw, Steps rest)
 {
     auto const* list = dynamic_cast<AxRwList const*>(&rw);
-    std::unordered_map<AxSymbolString, int> occurrences;
+    AxListItem const* const first = list != nullptr ? list->first() : nullptr;
     AxSymbolString const only = onlyKeyword(rest);
-    for (AxListItem const* item = list != nullptr ? list->first() : nullptr; item != nullptr; item = item->next())
+    Occurrences occurrences;
+    std::vector<AxSymbolString> names;
+    for (AxListItem const* item = first; item != nullptr; item = item->next())
+    {
+        names.push_back(nameOf(*AxRwList::element(item)));
+        occurrences.count(names.back());
+    }
+    auto name = names.cbegin();
+    for (AxListItem const* item = first; item != nullptr; item = item->next(), ++name)
     {
         AxReaderWriter& element = *AxRwList::element(item);
-        AxSymbolString const name = element.name();
-        if (only.isNull() || only == name)
+        if (only.isNull() || only == *name)
         {
-            child(name, occurrences[name]++, element, nullptr, rest);
+            child(occurrences.next(*name, element), element, nullptr, rest);
         }
     }
 }
@@ -210,7 +271,7 @@ void RecordWalk::content(AxReaderWriterFile const& file, Steps rest, AxReaderWri
     }
     if (asMember != nullptr)
     {
-        child(keyword, SourceStep::theLast, *asMember, nullptr, rest);
+        child({keyword, asMember}, *asMember, nullptr, rest);
     }
     else
     {
@@ -245,24 +306,32 @@ void RecordWalk::ownWords(AxReaderWriter& rw, Steps rest)
 
 void RecordWalk::words(AxReaderWriter& rw, AxlObj const& items, Steps rest)
 {
-    std::unordered_map<AxSymbolString, int> occurrences;
+    AxSymbolString const only = onlyKeyword(rest);
+    Occurrences occurrences;
+    auto const wordOf = [](AxlObj const& item) { return item.isPair() ? item.car()->symbol() : AxSymbolString(); };
     for (AxlObj const* left = &items; left->isPair(); left = left->cdr())
     {
-        AxlObj const& item = *left->car();
-        AxSymbolString const word = item.isPair() ? item.car()->symbol() : AxSymbolString();
-        if (!word.isNull() && (onlyKeyword(rest).isNull() || onlyKeyword(rest) == word))
+        occurrences.count(wordOf(*left->car()));
+    }
+    for (AxlObj const* left = &items; left->isPair(); left = left->cdr())
+    {
+        AxSymbolString const word = wordOf(*left->car());
+        if (!word.isNull() && (only.isNull() || only == word))
         {
-            child(word, occurrences[word]++, rw, &item, rest);
+            child(occurrences.next(word, rw), rw, left->car(), rest);
         }
     }
 }
 
-void RecordWalk::child(AxSymbolString keyword, int occurrence, AxReaderWriter& rw, AxlObj const* item, Steps rest)
+void RecordWalk::child(SourceStep const& step, AxReaderWriter& rw, AxlObj const* item, Steps rest)
 {
-    mySteps.push_back({keyword, &rw, occurrence});
+    mySteps.push_back(step);
     if (rest.front().kind != Step::Kind::AnyDepth)
     {
-        arrive(rw, item, rest.subspan(1));
+        if (rest.front().occurrence == SourceStep::theLast || matches(rest.front(), step))
+        {
+            arrive(rw, item, rest.subspan(1));
+        }
     }
     else
     {
@@ -271,7 +340,7 @@ void RecordWalk::child(AxSymbolString keyword, int occurrence, AxReaderWriter& r
         {
             visit(rw, item);
         }
-        else if (matches(tail.front(), keyword, rw))
+        else if (matches(tail.front(), step))
         {
             arrive(rw, item, tail.subspan(1));
         }

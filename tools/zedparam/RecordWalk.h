@@ -15,8 +15,8 @@ class AxReaderWriterRegistry;
 class AxZedObjectParameters;
 
 /// Keywords from a record inwards, as users write them: "systems/main-gun/reload-time". A list has its elements by
-/// name, a file member what it read. A step of "*" is any keyword; "**", once in a path, any number of steps, also
-/// none.
+/// name, a file member what it read; of several of one name "position[2]" is the second. A step of "*" is any keyword;
+/// "**", once in a path, any number of steps, also none.
 class KeywordPath
 {
 public:
@@ -30,6 +30,7 @@ public:
         };
         Kind kind;
         AxSymbolString keyword{};
+        int occurrence = SourceStep::theLast; ///< from 0; that or any, where none is given
     };
 
     /// False, and `fault` tells why, for a text that is no path.
@@ -50,6 +51,9 @@ private:
     std::vector<Step> mySteps;
 };
 
+/// Takes "[2]" from the end of a name; 0 when there is none. False for what is no number from 1.
+bool takePosition(std::string& name, std::size_t& position);
+
 /// Goes through a record and the contents of its files along a path, and knows for each object how it is reached and
 /// where it is read. Words that an object writes besides its members ("parameter-type") are come to as well.
 class RecordWalk
@@ -68,7 +72,7 @@ public:
     AxReaderWriter& rw() const { return *myRw; }
     /// The list `(word item...)`; null where an object is visited.
     AxlObj const* ownItem() const { return myOwnItem; }
-    /// From the record inwards; elements without a name come as "*".
+    /// From the record inwards; where several share a name with the position: "connections/connect[2]".
     std::string path() const;
     /// The name of the object or the word.
     AxSymbolString keyword() const { return mySteps.back().keyword; }
@@ -95,7 +99,7 @@ private:
     void content(AxReaderWriterFile const& file, Steps rest, AxReaderWriter* asMember, AxSymbolString keyword);
     void ownWords(AxReaderWriter& rw, Steps rest);
     void words(AxReaderWriter& rw, AxlObj const& items, Steps rest);
-    void child(AxSymbolString keyword, int occurrence, AxReaderWriter& rw, AxlObj const* item, Steps rest);
+    void child(SourceStep const& step, AxReaderWriter& rw, AxlObj const* item, Steps rest);
     void arrive(AxReaderWriter& rw, AxlObj const* item, Steps rest);
     void visit(AxReaderWriter& rw, AxlObj const* item);
 

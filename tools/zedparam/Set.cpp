@@ -10,6 +10,8 @@
 #include "AxReadWholeFile.h"
 #include "CommandLine.h"
 #include "Database.h"
+#include "Findings.h"
+#include "Json.h"
 #include "ReadContext.h"
 #include "TextEditor.h"
 #include "WriteFile.h"
@@ -26,6 +28,7 @@ struct Options
     std::string object;
     bool force = false;
     bool dryRun = false;
+    bool json = false;
 };
 
 /// The editor of a file, and what it works with; without one after a line that says why.
@@ -67,6 +70,30 @@ Opened open(Options const& options, std::string const& text)
     return opened;
 }
 
+void printJson(Options const& options, std::vector<FileEditor::Change> const& changes, AxDiagnostic const* fault)
+{
+    auto const text = [](JsonWriter& json, char const* key, std::string const& value)
+    {
+        json.key(key);
+        value.empty() ? json.null() : json.string(value);
+    };
+    JsonWriter json;
+    json.beginObject().member("file", options.file);
+    json.key("written").boolean(!options.dryRun && !changes.empty());
+    json.key("changes").beginArray();
+    for (FileEditor::Change const& change : changes)
+    {
+        json.beginObject().member("path", change.path);
+        json.key("line").integer(change.line).key("column").integer(change.column);
+        text(json, "before", change.before);
+        text(json, "after", change.after);
+        json.endObject();
+    }
+    json.endArray().key("findings");
+    Findings::write(json, fault != nullptr ? std::vector{*fault} : std::vector<AxDiagnostic>());
+    json.endObject().print();
+}
+
 /// All edits or none.
 int edit(Options const& options, bool (*apply)(FileEditor& editor, std::string const& edit))
 {
@@ -87,7 +114,14 @@ int edit(Options const& options, bool (*apply)(FileEditor& editor, std::string c
     {
         if (!apply(editor, each))
         {
-            std::fprintf(stderr, "%s\n", editor.fault().format().c_str());
+            if (options.json)
+            {
+                printJson(options, {}, &editor.fault());
+            }
+            else
+            {
+                std::fprintf(stderr, "%s\n", editor.fault().format().c_str());
+            }
             return CouldNotRun;
         }
     }
@@ -95,9 +129,18 @@ int edit(Options const& options, bool (*apply)(FileEditor& editor, std::string c
     {
         return CouldNotRun;
     }
-    for (std::string const& change : editor.changes())
+    if (options.json)
     {
-        std::printf("%s\n", change.c_str());
+        printJson(options, editor.changes(), nullptr);
+        return Fine;
+    }
+    for (FileEditor::Change const& change : editor.changes())
+    {
+        std::string const what = change.before.empty()  ? "added " + change.after
+                                 : change.after.empty() ? "removed " + change.before
+                                                        : (change.keyword.empty() ? "" : change.keyword + " ") +
+                                                              change.before + " -> " + change.after;
+        std::printf("%s:%u:%u: %s\n", options.file.c_str(), change.line, change.column, what.c_str());
     }
     return Fine;
 }
@@ -114,7 +157,8 @@ void addEditCommand(CommandLine& line, char const* name, char const* help, char 
         .optional("--database", options->database, "The database that binds the variables of a record file")
         .optional("--object", options->object, "Of an entity file, the object of this name")
         .flag("--force", options->force, "Also change what is not known, or would be found fault with")
-        .flag("--dry-run", options->dryRun, "Tell the changes, write nothing");
+        .flag("--dry-run", options->dryRun, "Tell the changes, write nothing")
+        .flag("--json", options->json, "Print JSON");
 }
 } // namespace
 

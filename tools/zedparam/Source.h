@@ -18,7 +18,8 @@ struct SourceStep
 
     AxSymbolString keyword; ///< null: any item
     AxReaderWriter const* rw = nullptr;
-    int occurrence = theLast; ///< of an element among those of its name, from 0; of repeated members the last counts
+    int occurrence = theLast;    ///< of an element among those of its name, from 0; of repeated members the last counts
+    bool isOneOfSeveral = false; ///< whether others share its name
 };
 
 /// The first expression of a file, read again to tell where something stands in it. Each search answers null when

@@ -120,12 +120,12 @@ FoundTable const* chosenOf(std::vector<FoundTable> const& tables, std::string co
     if (tables.empty())
     {
         std::fprintf(stderr,
-                     "%s: holds no table; expected a hit, detection, damage or ammunition table, or target "
+                     "%s:1:1: error: holds no table; expected a hit, detection, damage or ammunition table, or target "
                      "priorities\n",
                      file.c_str());
         return nullptr;
     }
-    std::fprintf(stderr, "%s: holds %s table%s; choose one with --table:", file.c_str(),
+    std::fprintf(stderr, "%s:1:1: error: holds %s table%s; choose one with --table:", file.c_str(),
                  first == tables.end() ? "no" : "more than one", named.c_str());
     for (FoundTable const& table : tables)
     {

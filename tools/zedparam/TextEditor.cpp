@@ -15,11 +15,6 @@ namespace
 {
 using Kind = TextTree::Kind;
 
-/// Items that tell what a record is; they are read before there are members.
-constexpr std::string_view theLeadingItems[] = {
-    "parameter-type", "component-descriptor-type", "comm-model-descriptor-type", "object-type", "match-type",
-    "record-name"};
-
 bool isVariable(TextItem list)
 {
     return list.parent().head() == "variable-bindings";
@@ -64,7 +59,7 @@ bool TextEditor::set(std::string const& path, std::string const& value)
     TextPath const place = TextPath::follow(path, tree, myReading);
     if (!place.fault.empty())
     {
-        return refuseAt(place.lists.empty() ? TextItem() : place.lists.back(), "no-path", place.fault);
+        return refuseAt(place.lists.empty() ? TextItem() : place.lists.back(), "no-path", place.fault, place.hint);
     }
     return place.isWhole() ? replaceValue(tree, place, value) : insert(tree, place, value);
 }
@@ -73,7 +68,7 @@ bool TextEditor::isKnown(TextPath const& path) const
 {
     bool const isNamedValue = path.outer != nullptr && path.outer->isValue(); // such as a signature
     return path.rw != nullptr || isNamedValue || isVariable(path.lists.back()) ||
-           std::ranges::find(theLeadingItems, path.lists.back().head()) != std::end(theLeadingItems);
+           isLeadingItem(path.lists.back().head());
 }
 
 bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::string const& value)
@@ -90,7 +85,7 @@ bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::s
         return refuseAt(list, "no-value", "\"" + path.names.back() + "\" is not one value; name one that is in it",
                         names.empty() ? std::string() : "such as \"" + path.names.back() + "/" + names.front() + "\"");
     }
-    std::string const text = valueText(value, path.rw);
+    std::string const text = valueText(value, path.rw, path.outer);
     if (text.empty())
     {
         return refuseAt(list, "no-value", "\"" + value + "\" is no value");
@@ -132,7 +127,7 @@ bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::s
         return false;
     }
     TextTree const changed(myText);
-    note(at.line, at.column, old + " -> " + shownItem(changed.itemAt(changed.offset(at)).source()));
+    note({path.text, at.line, at.column, {}, old, shownItem(changed.itemAt(changed.offset(at)).source())});
     return true;
 }
 
@@ -144,8 +139,11 @@ bool TextEditor::insert(TextTree const& tree, TextPath const& path, std::string 
     bool const isBinding = names.size() == 2 && keyword == "variable-bindings" && list == tree.root();
     bool isKnownKeyword = isBinding || (names.size() == 1 && list.head() == "variable-bindings");
     AxReaderWriter* member = path.rw;
+    AxReaderWriter* map = nullptr; // that holds the value under its name
     for (std::string const& name : names)
     {
+        map = &name == &names.back() && holdsNamedValues(member) ? member : nullptr;
+        isKnownKeyword = isKnownKeyword || map != nullptr;
         AxReaderWriterRegistry const* const members = isKnownKeyword ? nullptr : membersIn(member);
         AxReaderWriter* const found = members != nullptr ? members->find(AxSymbolString(AxString(name))) : nullptr;
         if (found == nullptr && !isKnownKeyword && !force())
@@ -162,30 +160,33 @@ bool TextEditor::insert(TextTree const& tree, TextPath const& path, std::string 
     {
         return refuseAt(list, "no-value", "\"" + names.back() + "\" is not one value; name one that is in it");
     }
-    std::string const text = valueText(value, member);
+    std::string const text = valueText(value, member, map);
     if (text.empty())
     {
         return refuseAt(list, "no-value", "\"" + value + "\" is no value");
     }
-    if (member != nullptr && !accepts(*member, list, names.back(), text))
+    std::string const entry = map != nullptr ? namedValueText(*map, names.back(), text) : text;
+    if ((member != nullptr && !accepts(*member, list, names.back(), text)) ||
+        (map != nullptr && !accepts(*map, list, map->name().string().string(), entry)))
     {
         return false;
     }
     std::string item;
-    for (std::string const& name : names)
+    std::size_t const lists = names.size() - (map != nullptr ? 1 : 0);
+    for (std::string const& name : names.first(lists))
     {
         item += '(';
         axAppendName(item, AxSymbolString(AxString(name)));
         item += ' ';
     }
-    item.append(text).append(names.size(), ')');
+    item.append(entry).append(lists, ')');
     TextPlacement const placement = TextPlacement::find(tree, list, keyword, membersIn(path.rw));
     if (!apply(tree, {{placement.offset, placement.offset, placement.before + item + placement.behind}}))
     {
         return false;
     }
     TextTree::Place const at = TextTree(myText).place(placement.offset + placement.before.size());
-    note(at.line, at.column, "added " + shownItem(item));
+    note({path.text, at.line, at.column, {}, {}, shownItem(item)});
     return true;
 }
 
@@ -197,7 +198,7 @@ bool TextEditor::unset(std::string const& path)
     {
         TextItem const list = place.lists.empty() ? TextItem() : place.lists.back();
         return place.fault.empty() ? refuseUnknown(place, list, nullptr, place.missing())
-                                   : refuseAt(list, "no-path", place.fault);
+                                   : refuseAt(list, "no-path", place.fault, place.hint);
     }
     TextItem const list = place.lists.back();
     if (holdsComment(tree, list.begin(), list.end()) && !force())
@@ -212,7 +213,7 @@ bool TextEditor::unset(std::string const& path)
     {
         return false;
     }
-    note(at.line, at.column, "removed " + old);
+    note({path, at.line, at.column, {}, old, {}});
     return true;
 }
 

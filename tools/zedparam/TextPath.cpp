@@ -1,22 +1,16 @@
 #include "TextPath.h"
 
 #include <algorithm>
-#include <charconv>
 #include <set>
+#include <utility>
 
 #include "AxObjectType.h"
 #include "AxReaderWriterFile.h"
+#include "EditedValue.h"
+#include "RecordWalk.h"
 
 namespace
 {
-/// The member of that keyword or alias; null when there is none.
-AxReaderWriter const* memberOf(AxReaderWriter const* rw, std::string_view name)
-{
-    AxReaderWriterRegistry const* const registry = membersIn(rw);
-    AxSymbolString const keyword = AxSymbolString::find(name);
-    return registry != nullptr && !keyword.isNull() ? registry->find(keyword) : nullptr;
-}
-
 void appendFields(TextItem item, std::string& text)
 {
     for (TextItem field = item.isList() ? item.firstChild() : item; field;
@@ -71,9 +65,12 @@ std::vector<TextItem> itemsNamed(std::string const& name, TextItem list, AxReade
 TextPath TextPath::follow(std::string_view path, TextTree const& tree, TextReading& reading)
 {
     TextPath result;
+    result.text = path;
     std::vector<std::size_t> positions;
+    std::vector<std::size_t> begins;
     for (std::size_t begin = 0; begin <= path.size();)
     {
+        begins.push_back(begin);
         std::size_t const end = std::min(path.find('/', begin), path.size());
         result.names.emplace_back(path.substr(begin, end - begin));
         positions.push_back(0);
@@ -94,6 +91,9 @@ TextPath TextPath::follow(std::string_view path, TextTree const& tree, TextReadi
         std::vector<TextItem> const items = itemsNamed(name, result.lists.back(), member);
         if (items.empty())
         {
+            auto [text, hint] = elsewhere(result.rw, name, path.substr(begins[i]));
+            result.fault = std::move(text);
+            result.hint = std::move(hint);
             return result;
         }
         if (items.size() > 1 && positions[i] == 0 && member == nullptr)
@@ -116,20 +116,6 @@ TextPath TextPath::follow(std::string_view path, TextTree const& tree, TextReadi
     return result;
 }
 
-bool takePosition(std::string& name, std::size_t& position)
-{
-    position = 0;
-    std::size_t const bracket = name.rfind('[');
-    if (bracket == std::string::npos || !name.ends_with(']'))
-    {
-        return true;
-    }
-    char const* const end = name.data() + name.size() - 1;
-    auto const [stop, error] = std::from_chars(name.data() + bracket + 1, end, position);
-    name.resize(bracket);
-    return error == std::errc() && stop == end && position != 0;
-}
-
 AxReaderWriterRegistry const* membersIn(AxReaderWriter const* rw)
 {
     if (auto const* file = dynamic_cast<AxReaderWriterFile const*>(rw))
@@ -137,6 +123,13 @@ AxReaderWriterRegistry const* membersIn(AxReaderWriter const* rw)
         rw = file->content();
     }
     return rw != nullptr ? rw->registryIfAny() : nullptr;
+}
+
+AxReaderWriter* memberOf(AxReaderWriter const* rw, std::string_view name)
+{
+    AxReaderWriterRegistry const* const registry = membersIn(rw);
+    AxSymbolString const keyword = AxSymbolString::find(name);
+    return registry != nullptr && !keyword.isNull() ? registry->find(keyword) : nullptr;
 }
 
 std::vector<std::string> namesIn(TextItem list, AxReaderWriter const* rw)

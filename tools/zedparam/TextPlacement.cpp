@@ -43,21 +43,6 @@ Token const* commentBehind(TextTree const& tree, TextItem item)
     return nullptr;
 }
 
-/// The place of a member among all; none for what is no member.
-std::size_t orderOf(AxReaderWriterRegistry const* members, std::string const& name)
-{
-    AxSymbolString const keyword = AxSymbolString::find(name);
-    AxReaderWriter const* const member = members != nullptr && !keyword.isNull() ? members->find(keyword) : nullptr;
-    for (std::size_t i = 0; member != nullptr && i < members->size(); ++i)
-    {
-        if (members->entry(i).member == member)
-        {
-            return i;
-        }
-    }
-    return SIZE_MAX;
-}
-
 /// What the new item comes behind: the list's head, what leads it, or an item.
 TextItem predecessor(TextItem list, std::string const& name, AxReaderWriterRegistry const* members)
 {
@@ -86,6 +71,20 @@ TextItem predecessor(TextItem list, std::string const& name, AxReaderWriterRegis
     return behindSmaller ? behindSmaller : beforeLarger ? beforeLarger : last;
 }
 } // namespace
+
+std::size_t orderOf(AxReaderWriterRegistry const* members, std::string const& name)
+{
+    AxSymbolString const keyword = AxSymbolString::find(name);
+    AxReaderWriter const* const member = members != nullptr && !keyword.isNull() ? members->find(keyword) : nullptr;
+    for (std::size_t i = 0; member != nullptr && i < members->size(); ++i)
+    {
+        if (members->entry(i).member == member)
+        {
+            return i;
+        }
+    }
+    return SIZE_MAX;
+}
 
 TextPlacement TextPlacement::find(TextTree const& tree, TextItem list, std::string const& name,
                                   AxReaderWriterRegistry const* members)

@@ -18,6 +18,9 @@ struct TextPlacement
                               AxReaderWriterRegistry const* members);
 };
 
+/// The place of a member among all; behind them for what is none.
+std::size_t orderOf(AxReaderWriterRegistry const* members, std::string const& name);
+
 /// The bytes to take out with an item: its line end and indentation when it has a line for itself, else the blank
 /// before it. What stands behind a comment keeps its line.
 struct TextRemoval

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "Colour.h"
+
 namespace
 {
 struct Line
@@ -115,8 +117,11 @@ std::string unifiedDiff(std::string const& file, std::string const& before, std:
         std::string body;
         for (std::size_t i = begin; i < stop; ++i)
         {
-            body.append(1, steps[i].mark).append(steps[i].text);
-            body.append(steps[i].text.ends_with('\n') ? "" : "\n\\ No newline at end of file\n");
+            bool const isEnded = steps[i].text.ends_with('\n');
+            std::string line(1, steps[i].mark);
+            line.append(steps[i].text.substr(0, steps[i].text.size() - (isEnded ? 1 : 0)));
+            body += isChange(steps[i]) ? coloured(line, steps[i].mark == '-' ? Colour::Red : Colour::Green) : line;
+            body += isEnded ? "\n" : "\n\\ No newline at end of file\n";
         }
         countTo(stop);
         out.append(out.empty() ? "--- " + file + "\n+++ " + file + "\n" : "");

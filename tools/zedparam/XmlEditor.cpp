@@ -9,13 +9,17 @@
 #include "AxEnvXMLReader.h"
 #include "AxEnvXMLWriter.h"
 #include "AxRwList.h"
+#include "AxRwProperty.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
 #include "AxlPrint.h"
 #include "EditedValue.h"
+#include "ElementSource.h"
 #include "Findings.h"
 #include "ReadContext.h"
+#include "RecordWalk.h"
 #include "TextPath.h"
+#include "TextPlacement.h"
 #include "XmlText.h"
 
 /// What an entity file says of one object.
@@ -31,6 +35,7 @@ struct XmlEditor::Document
 /// How far a path leads.
 struct XmlEditor::Target
 {
+    std::string path;
     std::vector<std::string> names;
     std::vector<std::size_t> positions; ///< of the elements that share a name, from 1; 0: there is but one
     std::size_t found = 0;
@@ -47,7 +52,17 @@ struct XmlEditor::Target
 
 namespace
 {
-std::vector<AxEnvObjectPtr> childrenOf(AxEnvObject const& parent, std::string_view tag, std::string const& name)
+constexpr char const* theVariables = "variable-bindings";
+
+/// Whether an element or attribute of that name is meant by `name`, or by another name of the member.
+bool isMeant(AxString const& its, std::string const& name, AxReaderWriter const* member)
+{
+    return its == AxString(name) ||
+           (member != nullptr && (member->name() == its || member->hasAlias(AxSymbolString(its))));
+}
+
+std::vector<AxEnvObjectPtr> childrenOf(AxEnvObject const& parent, std::string_view tag, std::string const& name,
+                                       AxReaderWriter const* member = nullptr)
 {
     std::vector<AxEnvObjectPtr> found;
     for (AxEnvValuePtr const& node : parent.children())
@@ -57,8 +72,7 @@ std::vector<AxEnvObjectPtr> childrenOf(AxEnvObject const& parent, std::string_vi
         {
             continue;
         }
-        AxString const& its = child->hasName() ? child->name() : child->type();
-        if (name.empty() || its == AxString(name))
+        if (name.empty() || isMeant(elementName(*child), name, member))
         {
             found.push_back(child);
         }
@@ -66,19 +80,17 @@ std::vector<AxEnvObjectPtr> childrenOf(AxEnvObject const& parent, std::string_vi
     return found;
 }
 
-/// The member of that name or the element, of those without a name the one at `position`.
+/// The member of that name, or the one of the elements of that name or of none that is at `position`.
 AxReaderWriter* partOf(AxReaderWriter* rw, std::string const& name, std::size_t position = 1)
 {
-    AxReaderWriterRegistry const* const members = membersIn(rw);
-    AxSymbolString const keyword = AxSymbolString::find(name);
-    AxReaderWriter* found = members != nullptr && !keyword.isNull() ? members->find(keyword) : nullptr;
+    AxReaderWriter* found = memberOf(rw, name);
     auto const* const list = dynamic_cast<AxRwList const*>(rw);
     AxListItem const* item = list != nullptr ? list->first() : nullptr;
     for (; item != nullptr && found == nullptr; item = item->next())
     {
         AxReaderWriter* const element = AxRwList::element(item);
-        bool const isMeant = element->name().isNull() ? --position == 0 : element->name() == AxString(name);
-        found = isMeant ? element : nullptr;
+        bool const isNamed = element->name().isNull() || element->name() == AxString(name);
+        found = isNamed && --position == 0 ? element : nullptr;
     }
     return found;
 }
@@ -161,8 +173,12 @@ std::unique_ptr<XmlEditor::Document> XmlEditor::read(std::string const& text)
     }
     if (elements.size() != 1 && document->tree != nullptr)
     {
+        AxEnvValuePtr const& top = document->tree->root();
+        AxEnvObjectPtr const root = top != nullptr ? top->castToObject() : nullptr;
+        bool const isGroup = root != nullptr && root->type() == AxString("simulationObjectGroup");
         refuse(1, 1, "no-object",
-               names.empty()      ? "the file holds no object"
+               isGroup            ? "groups of objects are not changed by paths; objects of entity files are"
+               : names.empty()    ? "the file holds no object"
                : elements.empty() ? "the file holds no object \"" + myObject + "\""
                                   : "the file holds several objects",
                names.empty() ? std::string() : "name one with --object: " + names);
@@ -175,6 +191,7 @@ std::unique_ptr<XmlEditor::Document> XmlEditor::read(std::string const& text)
 
 bool XmlEditor::follow(Document& document, std::string const& path, Target& target)
 {
+    target.path = path;
     for (std::size_t begin = 0; begin <= path.size();)
     {
         std::size_t const end = std::min(path.find('/', begin), path.size());
@@ -196,7 +213,7 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
         target.found = 1;
         tag = "componentSystem";
     }
-    else if (first == "variable-bindings" || first == "objectType" || first == "matchType")
+    else if (first == theVariables || first == "objectType" || first == "matchType")
     {
         target.owner = document.element;
         target.rw = nullptr;
@@ -205,8 +222,12 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
     for (; !target.isWhole() && target.attribute == nullptr; ++target.found)
     {
         std::string const& name = target.names[target.found];
-        AxEnvValuePtr const attribute = tag.empty() ? target.owner->attributeNode(AxString(name)) : nullptr;
-        std::vector<AxEnvObjectPtr> elements = childrenOf(*target.owner, tag, name);
+        AxReaderWriter const* const member = tag.empty() ? memberOf(target.rw, name) : nullptr;
+        auto const& attributes = target.owner->attributes();
+        auto const its = std::ranges::find_if(attributes, [&](AxEnvObject::Attribute const& each)
+                                              { return tag.empty() && isMeant(each.name, name, member); });
+        AxEnvValuePtr const attribute = its != attributes.end() ? its->value : nullptr;
+        std::vector<AxEnvObjectPtr> elements = childrenOf(*target.owner, tag, name, member);
         bool const isInSystem = target.owner->type() == AxString("componentSystem");
         if (isInSystem && elements.empty() && attribute == nullptr)
         {
@@ -225,13 +246,12 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
         }
         if (attribute == nullptr && elements.empty())
         {
-            return true;
+            return leadsOn(target);
         }
         tag.clear();
         target.outer = target.rw;
         target.rw = partOf(target.rw, name, std::max<std::size_t>(position, 1));
-        target.isFree = target.isFree || (target.outer != nullptr && target.outer->isValue()) ||
-                        name == "parameter-type" || name == "component-descriptor-type";
+        target.isFree = target.isFree || (target.outer != nullptr && target.outer->isValue()) || isLeadingItem(name);
         target.isElement = attribute == nullptr;
         target.owner = attribute != nullptr ? target.owner : elements[std::max<std::size_t>(position, 1) - 1];
         target.attribute = attribute;
@@ -240,7 +260,20 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
     {
         target.attribute = target.owner->attributeNode("value");
     }
-    return true;
+    return target.isWhole() || leadsOn(target);
+}
+
+/// False, after a fault, when the path leads into another file.
+bool XmlEditor::leadsOn(Target const& target)
+{
+    std::string_view path = target.path;
+    for (std::size_t i = 0; i < target.found; ++i)
+    {
+        path.remove_prefix(path.find('/') + 1);
+    }
+    auto const [text, hint] = elsewhere(target.rw, target.names[target.found], path);
+    AxEnvValue const& place = target.attribute != nullptr ? *target.attribute : *target.owner;
+    return text.empty() || refuseAt(place, "no-path", text, hint);
 }
 
 bool XmlEditor::set(std::string const& path, std::string const& value)
@@ -251,14 +284,21 @@ bool XmlEditor::set(std::string const& path, std::string const& value)
            (target.isWhole() ? setValue(*document, target, value) : insert(*document, target, value));
 }
 
-bool XmlEditor::accepts(Target const& target, AxReaderWriter* rw, std::string const& value, std::string& plain)
+bool XmlEditor::accepts(Target const& target, AxReaderWriter* rw, AxReaderWriter const* outer, std::string const& value,
+                        std::string& plain)
 {
-    std::string const text = valueText(value, rw);
+    AxRwProperty* const property = rw != nullptr ? rw->property() : nullptr; // has its type in an attribute
+    std::string const type = property != nullptr ? property->type().string() + " " : std::string();
+    rw = property != nullptr ? property->rwValue() : rw;
+    bool const isTyped = !type.empty() && value.starts_with(type);
+    std::string const text = valueText(isTyped ? value.substr(type.size()) : value, rw, outer);
     if (text.empty())
     {
         return refuseAt(*target.owner, "no-value", "\"" + value + "\" is no value");
     }
-    plain = isText(rw) && text.starts_with('"') ? TextTree(text).root().value() : text;
+    TextTree const tree(text);
+    bool const isString = tree.root().isString() && !tree.root().next() && (rw == nullptr || isText(rw));
+    plain = isString && !holdsNamedValues(outer) ? tree.root().value() : text;
     if (rw == nullptr)
     {
         return true;
@@ -278,7 +318,7 @@ bool XmlEditor::setValue(Document& document, Target const& target, std::string c
 {
     if (target.rw == nullptr && !target.isFree && !force())
     {
-        return refuseUnknown(target);
+        return refuseUnknown(target, target.names.size() - 1, target.outer);
     }
     std::string plain;
     if (target.attribute == nullptr)
@@ -286,7 +326,7 @@ bool XmlEditor::setValue(Document& document, Target const& target, std::string c
         return refuseAt(*target.owner, "no-value",
                         "\"" + target.last() + "\" is not one value; name one that is in it");
     }
-    if (!accepts(target, target.rw, value, plain))
+    if (!accepts(target, target.rw, nullptr, value, plain))
     {
         return false;
     }
@@ -302,84 +342,149 @@ bool XmlEditor::setValue(Document& document, Target const& target, std::string c
     {
         return false;
     }
-    note(place.line(), place.column(), target.last() + " " + shownItem(old) + " -> " + shownItem(plain));
+    note({target.path, place.line(), place.column(), target.last(), shownItem(old), shownItem(plain)});
     return true;
 }
 
 bool XmlEditor::insert(Document& document, Target const& target, std::string const& value)
 {
+    AxEnvironmentPtr const scratch = boost::make_shared<AxEnvironment>();
+    AxEnvObjectPtr const sample = scratch->addObject("sample");
     std::string const& name = target.names[target.found];
-    bool const isVariable = target.isFree && target.owner->type() == AxString("variableBindings");
-    AxReaderWriter* const member = partOf(target.rw, name);
-    if (target.found + 1 != target.names.size() || (member == nullptr && !isVariable && !force()))
+    bool const isLast = target.found + 1 == target.names.size();
+    bool const isSet = isLast && target.owner->type() == AxString("variableBindings");
+    bool const isVariable = target.isFree && (isSet || (!isLast && name == theVariables && target.found == 0));
+    // The members that are not there yet, and what holds the value of the last.
+    AxReaderWriter* outermost = nullptr;
+    AxReaderWriter* member = target.rw;
+    AxReaderWriter* map = nullptr;
+    for (std::size_t i = target.found; i < target.names.size(); ++i)
     {
-        return refuseUnknown(target);
+        map = i + 1 == target.names.size() && holdsNamedValues(member) ? member : nullptr;
+        AxReaderWriter* const found = partOf(member, target.names[i]);
+        if (found == nullptr && map == nullptr && !isVariable && (!isLast || !force()))
+        {
+            return refuseUnknown(target, i, i == target.found ? target.rw : member);
+        }
+        outermost = outermost == nullptr ? found : outermost;
+        member = found;
     }
     if (member != nullptr && !isText(member) && holdsItems(*member))
     {
-        return refuseAt(*target.owner, "no-value", "\"" + name + "\" is not one value; name one that is in it");
+        return refuseAt(*target.owner, "no-value",
+                        "\"" + target.last() + "\" is not one value; name one that is in it");
     }
     std::string plain;
-    if (!accepts(target, member, value, plain))
+    if (!accepts(target, member, map, value, plain))
     {
         return false;
     }
-    AxEnvObjectPtr owner = target.owner;
-    // The library itself tells whether a member is an attribute or an element.
-    AxEnvironmentPtr const scratch = boost::make_shared<AxEnvironment>();
-    AxEnvObjectPtr const sample = scratch->addObject("sample");
-    bool const isParameter = owner->type() == AxString("componentSystem") && member != nullptr &&
+    bool const isParameter = isLast && target.owner->type() == AxString("componentSystem") && member != nullptr &&
                              member->description() == nullptr; // declared by the system's definition
+    AxEnvObjectPtr owner = target.owner;
+    AxEnvObjectPtr child;
     if (isVariable || isParameter)
     {
         std::vector<AxEnvObjectPtr> const sets = childrenOf(*owner, "variableBindings", {});
-        if (!isVariable && sets.empty())
-        {
-            return refuseAt(*owner, "no-element", "\"" + target.names[1] + "\" has no element variableBindings",
-                            "add one with the first variable by hand");
-        }
-        owner = isVariable ? owner : sets.front();
-        AxEnvObjectPtr const variable = scratch->addObject(AxString(name), "variable", sample);
-        variable->setAttribute("value", AxString(plain));
+        bool const isThere = isSet || (isParameter && !sets.empty());
+        AxEnvObjectPtr const set =
+            isThere ? sample : scratch->addObject(AxString(theVariables), "variableBindings", sample);
+        scratch->addObject(AxString(target.last()), "variable", set)->setAttribute("value", AxString(plain));
+        owner = isThere && !isSet ? sets.front() : owner;
     }
-    else if (member != nullptr)
+    else if (map != nullptr)
     {
-        member->putSelf(scratch, sample);
+        // The library itself tells what the element looks like.
+        std::string text;
+        map->putSelf(text, 0, false, AxFilename::nullFilename());
+        text = text.empty() ? "(" + map->name().string().string() + ")" : text;
+        text.insert(text.rfind(')'), " " + namedValueText(*map, target.last(), plain));
+        map->readText(text, AxFilename(file()), myContext.files, myContext.bindings);
+        (outermost != nullptr ? outermost : map)->putSelf(scratch, sample);
     }
-    std::size_t const tag = XmlText::offset(myText, owner->line(), owner->column());
-    std::size_t const end = XmlText::tagEnd(myText, tag);
-    bool const closesItself = myText[end - 2] == '/';
-    if (sample->children().empty())
+    else if (outermost != nullptr)
     {
-        std::size_t at = end - (closesItself ? 2 : 1);
-        at = myText.find_last_not_of(" \t\r\n", at - 1) + 1;
-        owner->appendAttribute(AxString(name), AxString(plain));
-        std::string const bytes = " " + name + "=\"" + XmlText::escaped(plain, '"') + "\"";
-        if (!apply(document, *owner, at, at, bytes))
-        {
-            return false;
-        }
-        note(owner->line(), owner->column(), "added" + bytes);
-        return true;
+        outermost->putSelf(scratch, sample);
     }
-    AxEnvObjectPtr const child = sample->children().front()->castToObject();
-    std::string const bytes = written(child);
-    std::vector<AxEnvObjectPtr> const others = childrenOf(*owner, {}, {});
-    if (others.empty() || bytes.find('\n') != std::string::npos)
+    if (!sample->children().empty())
     {
-        return refuseAt(*owner, "no-element", "\"" + name + "\" is an element, which is added beside others only");
+        child = sample->children().front()->castToObject();
+        std::vector<AxEnvObjectPtr> const values = childrenOf(*child, {}, target.last());
+        child = map == nullptr || outermost != nullptr ? child : values.empty() ? nullptr : values.front();
     }
-    AxEnvObject const& next = *others.front();
-    std::size_t const at = XmlText::offset(myText, next.line(), next.column());
-    auto const index = std::ranges::find(owner->children(), others.front()) - owner->children().begin();
-    owner->insert(static_cast<std::size_t>(index), child);
-    unsigned const line = next.line();
-    unsigned const column = next.column();
-    if (!apply(document, *owner, at, at, bytes + std::string(lineStart(myText, at))))
+    if (child != nullptr)
+    {
+        return insertElement(document, target, *owner, child);
+    }
+    std::size_t const end = XmlText::tagEnd(myText, XmlText::offset(myText, owner->line(), owner->column()));
+    std::size_t at = end - (myText[end - 2] == '/' ? 2 : 1);
+    at = myText.find_last_not_of(" \t\r\n", at - 1) + 1;
+    owner->appendAttribute(AxString(name), AxString(plain));
+    std::string const bytes = " " + name + "=\"" + XmlText::escaped(plain, '"') + "\"";
+    if (!apply(document, *owner, at, at, bytes))
     {
         return false;
     }
-    note(line, column, "added " + shownItem(bytes));
+    note({target.path, owner->line(), owner->column(), {}, {}, bytes.substr(1)});
+    return true;
+}
+
+/// Puts an element where the library would write it: behind the last of those that it writes before it.
+bool XmlEditor::insertElement(Document& document, Target const& target, AxEnvObject& owner, AxEnvObjectPtr const& child)
+{
+    std::size_t const tag = XmlText::offset(myText, owner.line(), owner.column());
+    std::size_t const tagEnd = XmlText::tagEnd(myText, tag);
+    std::vector<AxEnvObjectPtr> const others = childrenOf(owner, {}, {});
+    AxReaderWriterRegistry const* const members = membersIn(target.rw);
+    bool const isForAll = target.rw == nullptr && child->type() == AxString("variableBindings");
+    std::size_t const order = isForAll ? 0 : orderOf(members, elementName(*child).string());
+    AxEnvObjectPtr before;
+    for (AxEnvObjectPtr const& other : others)
+    {
+        bool const isBefore = orderOf(members, elementName(*other).string()) <= order;
+        before = isBefore ? other : before;
+    }
+    std::string const outer(lineStart(myText, tag));
+    std::string const start =
+        !others.empty()
+            ? std::string(lineStart(myText, XmlText::offset(myText, others.front()->line(), others.front()->column())))
+        : outer.empty() ? std::string()
+                        : outer + "  ";
+    std::string bytes = start;
+    for (char const byte : written(child))
+    {
+        bytes += byte == '\n' && !start.empty() ? start : std::string(1, byte);
+    }
+    std::size_t begin = tagEnd;
+    std::size_t end = tagEnd;
+    std::size_t index = 0;
+    if (before != nullptr)
+    {
+        begin = end = XmlText::elementEnd(myText, XmlText::offset(myText, before->line(), before->column()));
+        index = static_cast<std::size_t>(std::ranges::find(owner.children(), before) - owner.children().begin()) + 1;
+        // A comment on its line stays with it.
+        std::size_t const next = myText.find_first_not_of(" \t", end);
+        if (next != std::string::npos && myText.compare(next, 4, "<!--") == 0)
+        {
+            begin = end = myText.find("-->", next) + 3;
+            ++index;
+        }
+    }
+    else if (myText[tagEnd - 2] == '/')
+    {
+        begin = myText.find_last_not_of(" \t\r\n", tagEnd - 3) + 1;
+        bytes = ">" + bytes + outer + "</" + owner.type().string() + ">";
+    }
+    owner.insert(index, child);
+    if (!apply(document, owner, begin, end, bytes))
+    {
+        return false;
+    }
+    std::size_t const at = myText.find('<', begin);
+    auto const line =
+        static_cast<unsigned>(std::count(myText.begin(), myText.begin() + static_cast<long>(at), '\n') + 1);
+    unsigned const column = static_cast<unsigned>(at - (myText.rfind('\n', at) + 1) + 1);
+    note({target.path, line, column, {}, {}, shownItem(written(child))});
     return true;
 }
 
@@ -393,7 +498,7 @@ bool XmlEditor::unset(std::string const& path)
     }
     if (!target.isWhole())
     {
-        return refuseUnknown(target);
+        return refuseUnknown(target, target.found, target.rw);
     }
     AxEnvValue const& place = target.isElement ? static_cast<AxEnvValue&>(*target.owner) : *target.attribute;
     unsigned const line = place.line();
@@ -421,7 +526,7 @@ bool XmlEditor::unset(std::string const& path)
     {
         return false;
     }
-    note(line, column, "removed " + shownItem(old));
+    note({path, line, column, {}, shownItem(old), {}});
     return true;
 }
 
@@ -453,11 +558,10 @@ bool XmlEditor::refuseAt(AxEnvValue const& node, std::string code, std::string t
     return refuse(node.line(), node.column(), std::move(code), std::move(text), std::move(hint));
 }
 
-bool XmlEditor::refuseUnknown(Target const& target)
+bool XmlEditor::refuseUnknown(Target const& target, std::size_t place, AxReaderWriter const* rw)
 {
     bool const isThere = target.isWhole();
-    AxReaderWriter const* const rw = isThere ? target.outer : target.rw;
-    std::string const& name = isThere ? target.last() : target.names[target.found];
+    std::string const& name = target.names[place];
     std::string const owner = rw != nullptr ? rw->name().string().string() : target.owner->type().string();
     return refuseAt(*target.owner, "unknown-keyword",
                     "\"" + owner + "\" " + (isThere ? "knows" : "has") + " no \"" + name + "\"",

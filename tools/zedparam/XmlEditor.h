@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "AxEnvironment.h"
@@ -31,12 +32,16 @@ private:
     bool follow(Document& document, std::string const& path, Target& target);
     bool setValue(Document& document, Target const& target, std::string const& value);
     bool insert(Document& document, Target const& target, std::string const& value);
-    bool accepts(Target const& target, AxReaderWriter* rw, std::string const& value, std::string& plain);
+    bool insertElement(Document& document, Target const& target, AxEnvObject& owner, AxEnvObjectPtr const& child);
+    bool leadsOn(Target const& target);
+    /// `outer` holds the value under its name; null for a member of its own.
+    bool accepts(Target const& target, AxReaderWriter* rw, AxReaderWriter const* outer, std::string const& value,
+                 std::string& plain);
     /// Replaces bytes and makes sure that the text then reads as the tree of the document, which was changed alike.
     bool apply(Document const& document, AxEnvValue const& place, std::size_t begin, std::size_t end,
                std::string const& bytes);
     bool refuseAt(AxEnvValue const& node, std::string code, std::string text, std::string hint = {});
-    bool refuseUnknown(Target const& target);
+    bool refuseUnknown(Target const& target, std::size_t place, AxReaderWriter const* rw);
 
     std::string myObject;
     ReadContext const& myContext;
