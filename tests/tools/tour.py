@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Takes the README's tour: runs its commands in their order in a copy of the example, and holds what they print against
-what the README shows. With --update the README is written anew."""
+what the README shows, as it does with the answer of scripts/run at its top. With --update the README is written anew."""
 
 import os
 import pathlib
@@ -18,13 +18,20 @@ def taken(block, folder):
     for command in re.findall(r"^\$ (.*)$", block, re.M):
         result = subprocess.run(["bash", "-c", command], cwd=folder, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=subprocess.STDOUT, text=True, env=dict(os.environ, COLUMNS="100"))
-        printed = result.stdout.replace(f"{folder.parent}/", "../")
-        shown.append(f"$ {command}\n{printed}")
+        shown.append(f"$ {command}\n{result.stdout}")
     return "".join(shown)
 
 
+def first_answer():
+    """What scripts/run prints without arguments, once all is built."""
+    arguments = re.search(r"^\[\[ \$# -gt 0 \]\] \|\| set -- (.*)$", pathlib.Path("scripts/run").read_text(), re.M)[1]
+    return subprocess.run(f"zedparam {arguments}", shell=True, stdout=subprocess.PIPE, text=True, check=True).stdout
+
+
 def main():
-    text = README.read_text()
+    readme = README.read_text()
+    text = re.sub(r"(\$ scripts/run\n)(.*?)(```)", lambda block: block[1] + first_answer() + block[3], readme, count=1,
+                  flags=re.S)
     begin = text.index("## A tour")
     end = text.index("\n## ", begin)
     with tempfile.TemporaryDirectory() as scratch:
@@ -37,8 +44,8 @@ def main():
     print("pages: " + " ".join(pages))
     if "--update" in sys.argv:
         README.write_text(text[:begin] + tour + text[end:])
-    elif tour != text[begin:end]:
-        print("the tour went another way:\n" + tour)
+    elif text[:begin] + tour + text[end:] != readme:
+        print("the tour went another way:\n" + text[:begin].partition("## The command")[0] + tour)
         return 1
     print("as the README tells")
     return 0

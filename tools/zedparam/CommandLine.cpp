@@ -8,6 +8,7 @@
 
 #include "AxNearest.h"
 #include "Commands.h"
+#include "ShownPath.h"
 
 Command::Command(CLI::App& app, std::function<int()> run, int& exitCode) : myArguments(&app)
 {
@@ -116,7 +117,8 @@ CommandLine::CommandLine(char const* name, char const* help, char const* version
 {
     myApp->set_version_flag("--version", version);
     myApp->require_subcommand(1);
-    myApp->failure_message(CLI::FailureMessage::simple);
+    myApp->failure_message([](CLI::App const* app, CLI::Error const& error)
+                           { return "zedparam: " + CLI::FailureMessage::simple(app, error); });
     myApp->footer(footer);
 }
 
@@ -155,6 +157,7 @@ int CommandLine::run(int argc, char** argv)
     {
         return CouldNotRun;
     }
+    std::for_each(argv + 1, argv + argc, rememberGivenPath);
     try
     {
         myApp->parse(argc, argv);
