@@ -10,10 +10,12 @@
 #include "AxComponentDescriptorFactoryEntry.h"
 #include "AxComponentDescriptorList.h"
 #include "AxNumberText.h"
+#include "AxReaderWriterFile.h"
 #include "AxRwList.h"
 #include "Factories.h"
 #include "Findings.h"
 #include "Json.h"
+#include "PartTypes.h"
 #include "RangeText.h"
 
 namespace
@@ -55,6 +57,10 @@ std::string kindName(std::string name)
 
 std::string defaultOf(AxReaderWriter const& member)
 {
+    if (dynamic_cast<AxReaderWriterFile const*>(&member) != nullptr)
+    {
+        return "\"\""; // what it would write is the content of the file
+    }
     std::string text = member.writtenText(true);
     std::size_t const start = text.find(' ');
     std::size_t const end = text.rfind(')');
@@ -115,23 +121,27 @@ std::vector<TypeInfo> makeTypes()
     Factories& factories = installedFactories();
     std::vector<Sample> samples;
     TypeNames names;
-    auto const add = [&](AxString const& name, AxReaderWriter* made, bool isRecord)
+    auto const add = [&](std::string const& name, AxReaderWriter* made, TypeInfo::Kind kind)
     {
         if (made != nullptr)
         {
             std::string const its = className(typeid(*made));
-            samples.push_back({{name.string(), its, isRecord, {}}, std::unique_ptr<AxReaderWriter>(made)});
-            names.try_emplace(its, name.string());
+            samples.push_back({{name, its, kind, {}}, std::unique_ptr<AxReaderWriter>(made)});
+            names.try_emplace(its, name);
         }
     };
     for (AxString const& name : factories.records.typeNames())
     {
-        add(name, AxZedObjectParameters::createParameters(name.c_str()), true);
+        add(name.string(), AxZedObjectParameters::createParameters(name.c_str()), TypeInfo::Kind::Record);
     }
     for (AxListItem const* item = factories.components.first(); item != nullptr; item = item->next())
     {
         AxString const name = static_cast<AxComponentDescriptorFactoryEntry*>(item->data())->typeToCreate();
-        add(name, AxComponentDescriptor::createComponentDescriptor(name.c_str()), false);
+        add(name.string(), AxComponentDescriptor::createComponentDescriptor(name.c_str()), TypeInfo::Kind::Component);
+    }
+    for (PartType& part : newPartTypes())
+    {
+        add(part.name, part.made.release(), TypeInfo::Kind::Part);
     }
     std::vector<TypeInfo> types;
     for (Sample& sample : samples)
@@ -167,6 +177,11 @@ std::string KeywordInfo::valueText() const
         text.append(", ").append(rangeText(range));
     }
     return text;
+}
+
+char const* TypeInfo::kindName() const
+{
+    return kind == Kind::Record ? "record" : kind == Kind::Component ? "component" : "part";
 }
 
 std::size_t TypeInfo::ownKeywords() const

@@ -29,18 +29,27 @@ struct KeywordInfo
     std::string valueText() const;
 };
 
-/// One type of record or component with all its keywords in their order, those of nested records after their own.
+/// One type of record, component or other part with all its keywords in their order, those of nested records after
+/// their own.
 struct TypeInfo
 {
+    enum class Kind
+    {
+        Record,
+        Component,
+        Part ///< what stands inside of those, or in files of its own
+    };
+
     std::string name;
     std::string className;
-    bool isRecord = false;
+    Kind kind = Kind::Record;
     std::vector<KeywordInfo> keywords;
 
+    char const* kindName() const;
     std::size_t ownKeywords() const;
 };
 
-/// Every type that the factories know, records first.
+/// Every type there is: records, components, parts.
 std::vector<TypeInfo> const& knownTypes();
 
 /// A first element of a list, as the list itself makes it; null when it needs to be told a type, or for elements that

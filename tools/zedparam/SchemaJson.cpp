@@ -155,12 +155,12 @@ void writeMembers(JsonWriter& json, AxReaderWriter& rw, int depth)
 }
 
 /// "allOf": the object's definition by the type that its member `keyword` names.
-void writeDispatch(JsonWriter& json, char const* keyword, char const* where, bool records)
+void writeDispatch(JsonWriter& json, char const* keyword, char const* where, TypeInfo::Kind kind)
 {
     json.key("allOf").beginArray();
     for (TypeInfo const& type : knownTypes())
     {
-        if (type.isRecord == records)
+        if (type.kind == kind)
         {
             json.beginObject().key("if").beginObject().key("properties").beginObject().key(keyword);
             json.beginObject().member("const", type.name).endObject().endObject();
@@ -194,20 +194,24 @@ std::string jsonSchema()
     json.key("properties").beginObject().key("kind").beginObject().key("enum").beginArray();
     for (TypeInfo const& type : knownTypes())
     {
-        if (type.isRecord)
+        if (type.kind == TypeInfo::Kind::Record)
         {
             json.string(type.name);
         }
     }
     json.endArray().endObject().key("values").beginObject().member("type", "object").endObject().endObject();
-    writeDispatch(json, "kind", "values", true);
+    writeDispatch(json, "kind", "values", TypeInfo::Kind::Record);
     json.endObject().key("$defs").beginObject().key("component").beginObject().member("type", "object");
-    writeDispatch(json, "component-descriptor-type", "", false);
+    writeDispatch(json, "component-descriptor-type", "", TypeInfo::Kind::Component);
     json.endObject();
     for (TypeInfo const& type : knownTypes())
     {
         std::unique_ptr<AxReaderWriter> sample;
-        if (type.isRecord)
+        if (type.kind == TypeInfo::Kind::Part)
+        {
+            continue;
+        }
+        if (type.kind == TypeInfo::Kind::Record)
         {
             sample.reset(AxZedObjectParameters::createParameters(type.name.c_str()));
         }

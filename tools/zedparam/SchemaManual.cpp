@@ -58,10 +58,11 @@ std::vector<Section> sections()
 
 std::string markdownManual()
 {
-    std::string text = "# Keywords\n\n"
-                       "All types of records and components with their keywords. `a/b` is the keyword `b` inside of "
-                       "`a`, or inside of each\nelement of the list `a`.\n\n"
-                       "| type | class | keywords of |\n|---|---|---|\n";
+    std::string text =
+        "# Keywords\n\n"
+        "All types of records, components and other parts with their keywords. `a/b` is the keyword `b` inside of "
+        "`a`, or inside of each\nelement of the list `a`.\n\n"
+        "| type | class | keywords of |\n|---|---|---|\n";
     std::vector<Section> const all = sections();
     for (TypeInfo const& type : knownTypes())
     {

@@ -110,7 +110,8 @@ void addAttributes(Attributes& attributes, AxReaderWriter& sample)
     }
 }
 
-void appendElement(std::string& text, char const* tag, char const* typeKeyword, Attributes attributes, bool records)
+void appendElement(std::string& text, char const* tag, char const* typeKeyword, Attributes attributes,
+                   TypeInfo::Kind kind)
 {
     attributes.erase("name");
     attributes.erase(typeKeyword);
@@ -126,7 +127,7 @@ void appendElement(std::string& text, char const* tag, char const* typeKeyword, 
                 "base=\"xs:string\">\n");
     for (TypeInfo const& type : knownTypes())
     {
-        if (type.isRecord == records)
+        if (type.kind == kind)
         {
             text += "        <xs:enumeration value=\"" + type.name + "\"/>\n";
         }
@@ -148,19 +149,19 @@ std::string xmlSchema()
     Attributes components;
     for (TypeInfo const& type : knownTypes())
     {
-        if (type.isRecord)
+        if (type.kind == TypeInfo::Kind::Record)
         {
             addAttributes(records,
                           *std::unique_ptr<AxReaderWriter>(AxZedObjectParameters::createParameters(type.name.c_str())));
         }
-        else
+        else if (type.kind == TypeInfo::Kind::Component)
         {
             addAttributes(components, *std::unique_ptr<AxReaderWriter>(
                                           AxComponentDescriptor::createComponentDescriptor(type.name.c_str())));
         }
     }
     std::string text = theHead;
-    appendElement(text, "platform", "parameter-type", records, true);
-    appendElement(text, "componentDescriptor", "component-descriptor-type", components, false);
+    appendElement(text, "platform", "parameter-type", records, TypeInfo::Kind::Record);
+    appendElement(text, "componentDescriptor", "component-descriptor-type", components, TypeInfo::Kind::Component);
     return text + "</xs:schema>\n";
 }

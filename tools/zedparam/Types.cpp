@@ -49,24 +49,22 @@ TypeInfo const* typeNamed(std::string const& name)
 
 void printAll(std::vector<TypeInfo> const& types)
 {
-    for (bool const records : {true, false})
+    TypeInfo const* previous = nullptr;
+    for (TypeInfo const& type : types)
     {
-        std::printf("%s\n", records ? "records" : "\ncomponents");
-        for (TypeInfo const& type : types)
+        if (previous == nullptr || previous->kind != type.kind)
         {
-            if (type.isRecord == records)
-            {
-                std::printf("  %-54s  %2zu keywords, %2zu of its own\n", type.name.c_str(), topLevelKeywords(type),
-                            type.ownKeywords());
-            }
+            std::printf("%s%ss\n", previous == nullptr ? "" : "\n", type.kindName());
         }
+        previous = &type;
+        std::printf("  %-54s  %2zu keywords, %2zu of its own\n", type.name.c_str(), topLevelKeywords(type),
+                    type.ownKeywords());
     }
 }
 
 void printOne(TypeInfo const& type)
 {
-    std::printf("%s: %s, class %s\n", type.name.c_str(), type.isRecord ? "record" : "component",
-                type.className.c_str());
+    std::printf("%s: %s, class %s\n", type.name.c_str(), type.kindName(), type.className.c_str());
     std::size_t keywordWidth = 0;
     std::size_t valueWidth = 0;
     std::size_t defaultWidth = 0;
@@ -92,7 +90,7 @@ void printOne(TypeInfo const& type)
 
 void writeType(JsonWriter& json, TypeInfo const& type, bool withKeywords)
 {
-    json.beginObject().member("name", type.name).member("kind", type.isRecord ? "record" : "component");
+    json.beginObject().member("name", type.name).member("kind", type.kindName());
     json.member("class", type.className);
     if (!withKeywords)
     {
@@ -149,7 +147,7 @@ int listTypes(Options const& options)
 void addTypesCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
-    line.add("types", "The types of records and components, or the keywords of one.",
+    line.add("types", "The types of records, components and other parts, or the keywords of one.",
              [options] { return listTypes(*options); })
         .optional("NAME", options->name, "A type, such as turret-component-descriptor; none: all")
         .flag("--json", options->json, "Print JSON");
