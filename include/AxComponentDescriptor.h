@@ -67,6 +67,7 @@ public:
     void putData(std::string& out, int indent) override;
     /// Drops the first item, which tells the type; one with another head is reported.
     AxlObjPtr getData(AxlObjPtr const& items, AxFilenameList const& files, AxBindingsList const& bindings) override;
+    char const* readerWriterType() const override;
     char const* xmlType() const override;
 
     static AxComponentDescriptor* creator();

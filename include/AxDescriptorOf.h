@@ -38,6 +38,17 @@ public:
             return typeName.text;
         }
     }
+    char const* readerWriterType() const override
+    {
+        if constexpr (sizeof typeName.text == 1)
+        {
+            return Base::readerWriterType();
+        }
+        else
+        {
+            return typeName.text;
+        }
+    }
     AxComponentDescriptor* clone(AxReaderWriterRegistry* registry) const override
     {
         auto* made = new Derived(this->AxReaderWriter::name(), registry);

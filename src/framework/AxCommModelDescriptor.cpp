@@ -122,6 +122,11 @@ AxlObjPtr AxCommModelDescriptor::getData(AxlObjPtr const& items, AxFilenameList 
     return AxlObjPtr(items->cdr());
 }
 
+char const* AxCommModelDescriptor::readerWriterType() const
+{
+    return "comm-model-descriptor";
+}
+
 void AxCommModelDescriptor::addCreatorFcn(AxString const& type, CreatorFcn creator)
 {
     creators().insert_or_assign(type, creator);

@@ -208,6 +208,11 @@ AxlObjPtr AxComponentDescriptor::getData(AxlObjPtr const& items, AxFilenameList 
     return AxlObjPtr(items->cdr());
 }
 
+char const* AxComponentDescriptor::readerWriterType() const
+{
+    return "component-descriptor";
+}
+
 char const* AxComponentDescriptor::xmlType() const
 {
     return "componentDescriptor";
