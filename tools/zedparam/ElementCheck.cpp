@@ -10,13 +10,20 @@
 
 namespace
 {
-/// The type that an element is asked by; false for one that has none, or one that is not a row of plain numbers.
-bool typeOf(AxlObj const& element, AxEntityType& type)
+/// The keyword of what an element is asked by; empty for what is no element of a table.
+std::string_view keyOf(std::string_view element)
 {
-    AxlObj const* const entity = itemOf(element, "entity-type");
-    AxlObj const* const item = entity != nullptr ? entity : itemOf(element, "target-type");
+    return element == "entity-range"                                  ? "entity-type"
+           : element == "ammo-select" || element == "entity-priority" ? "target-type"
+           : element == "ammo-entry"                                  ? "ammo"
+                                                                      : "";
+}
+
+/// False for a type that is not a row of plain numbers.
+bool readType(AxlObj const* item, AxEntityType& type)
+{
     AxEntityType::Fields fields{};
-    AxlObj const* number = item != nullptr ? item->cdr() : AxlObj::nilCell();
+    AxlObj const* number = item->cdr();
     for (std::int32_t& field : fields)
     {
         if (!number->car()->isInteger())
@@ -73,16 +80,23 @@ void checkElements(AxlObj const& list, CellReport const& report)
     {
         AxlObj const& element = *rest->car();
         std::string_view const head = element.car()->text();
+        std::string_view const key = keyOf(head);
+        AxlObj const* const item = key.empty() ? nullptr : itemOf(element, key);
         AxEntityType type;
-        if ((head == "entity-range" || head == "ammo-select" || head == "entity-priority") && typeOf(element, type))
+        if (item == nullptr && !key.empty())
         {
-            byType.emplace_back(type, &element);
+            report("missing-key", element,
+                   "the element has no \"" + std::string(key) + "\" and answers for " +
+                       (key == "ammo" ? "every munition" : "no type"));
         }
-        AxlObj const* const munition = head == "ammo-entry" ? itemOf(element, "ammo") : nullptr;
-        if (munition != nullptr)
+        else if (key == "ammo")
         {
             byMunition.emplace_back(AxSimMunition(), &element);
-            byMunition.back().first.getSelf(AxlObjPtr(munition), {}, {});
+            byMunition.back().first.getSelf(AxlObjPtr(item), {}, {});
+        }
+        else if (item != nullptr && readType(item, type))
+        {
+            byType.emplace_back(type, &element);
         }
     }
     checkHidden(

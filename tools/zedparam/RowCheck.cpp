@@ -61,6 +61,32 @@ Row readRow(AxlObj const& range, AxlObj const* outcomes, CellReport const& repor
     return row;
 }
 
+/// The value of a constant that is no probability, "below 0" or "above 1" when all values of a polynomial are; empty
+/// for others. The coefficient of the highest power stands first.
+std::string extentOf(AxlObj const& coefficients)
+{
+    if (coefficients.cdr()->nil())
+    {
+        double const constant = coefficients.car()->flonum();
+        return isProbability(constant) ? std::string() : shown(constant);
+    }
+    bool isBelow = true;
+    bool isAbove = true;
+    forEachRange(
+        [&](double range)
+        {
+            double value = 0.0;
+            for (AxlObj const* number = &coefficients; number->isPair(); number = number->cdr())
+            {
+                value = value * range + number->car()->flonum();
+            }
+            isBelow = isBelow && value < 0.0;
+            isAbove = isAbove && value > 1.0;
+            return isBelow || isAbove;
+        });
+    return isBelow ? "below 0" : isAbove ? "above 1" : "";
+}
+
 void checkOrder(std::vector<Row> const& rows, CellReport const& report)
 {
     for (std::size_t i = 0; i < rows.size(); ++i)
@@ -146,14 +172,26 @@ void checkCoefficients(AxlObj const& list, CellReport const& report)
     }
     for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
     {
-        AxlObj const& constant = *rest->car()->cdr()->car();
-        bool const isAlone = constant.isNumber() && rest->car()->cdr()->cdr()->nil();
-        if (isAlone && !isProbability(constant.flonum()))
+        AxlObj const& first = *rest->car()->cdr()->car();
+        std::string const extent = first.isNumber() ? extentOf(*rest->car()->cdr()) : std::string();
+        if (!extent.empty())
         {
-            report("out-of-range", constant,
-                   "probability of \"" + std::string(rest->car()->car()->text()) + "\" is " + shown(constant.flonum()) +
+            report("out-of-range", first,
+                   "probability of \"" + std::string(rest->car()->car()->text()) + "\" is " + extent +
                        " at every range, expected 0 to 1");
         }
+    }
+}
+
+void forEachRange(std::function<bool(double range)> const& goOn)
+{
+    constexpr double closest = 0.1;
+    constexpr double farthest = 1e5;
+    constexpr double growth = 1.1;
+    double range = 0.0;
+    while (range < farthest && goOn(range))
+    {
+        range = std::max(closest, range * growth);
     }
 }
 
@@ -174,8 +212,13 @@ void checkRows(std::string const& file, CheckedFiles& files, Findings& findings)
         findings.add(std::move(finding));
     };
     AxSourceScope const scope{AxFilename(file)};
-    files.source(file).forEachList(
-        [&report](AxlObj const& list)
+    Source const& source = files.source(file);
+    auto const isDamageTable = [&](AxlObj const& list) {
+        return list.car()->text().ends_with("-damage-file") ||
+               (file.ends_with(".dmg") && &list == &source.expression());
+    };
+    source.forEachList(
+        [&](AxlObj const& list)
         {
             AxlObj const& first = *list.cdr()->car();
             bool const isDeterminant = list.car()->text() == "range-determinant";
@@ -190,6 +233,7 @@ void checkRows(std::string const& file, CheckedFiles& files, Findings& findings)
             else
             {
                 checkSurface(list, report);
+                checkSurfaces(list, isDamageTable(list), report);
                 checkElements(list, report);
             }
         });

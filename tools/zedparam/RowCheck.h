@@ -19,10 +19,15 @@ AxlObj const* itemOf(AxlObj const& list, std::string_view head);
 /// earlier one hides, outcomes of damage that add up to more than 1, elements that others hide. Once for each file.
 void checkRows(std::string const& file, CheckedFiles& files, Findings& findings);
 
+/// Shows `goOn` the target and, in steps that grow with the range, what is around it, as far as it answers true.
+void forEachRange(std::function<bool(double range)> const& goOn);
+
 /// Whether a list is a range list or the coefficients of a determinant, and what is odd in it.
 void checkRangeList(AxlObj const& list, CellReport const& report);
 void checkCoefficients(AxlObj const& list, CellReport const& report);
 /// What is odd in the angles of a list, if it is that of a surface.
 void checkSurface(AxlObj const& list, CellReport const& report);
-/// Which elements of a list never answer, if it is a table that is asked by type or munition.
+/// Which surfaces of a list are empty, if it is a damage table or looks like one.
+void checkSurfaces(AxlObj const& list, bool isTable, CellReport const& report);
+/// Which elements of a list never answer or answer all, if it is a table that is asked by type or munition.
 void checkElements(AxlObj const& list, CellReport const& report);

@@ -61,22 +61,21 @@ void checkSumOfPolynomials(AxlObj const& coefficients, CellReport const& report)
         polynomials.emplace_back("outcome", nullptr);
         polynomials.back().setCoefficients(static_cast<int>(numbers.size()), numbers.data());
     }
-    constexpr double closest = 0.1;
-    constexpr double farthest = 1e5;
-    constexpr double growth = 1.1;
-    for (double range = 0.0; range < farthest; range = std::max(closest, range * growth))
-    {
-        double sum = 0.0;
-        for (AxPrbProbabilityCoefficients const& polynomial : polynomials)
+    forEachRange(
+        [&](double range)
         {
-            sum += polynomial.probability(range);
-        }
-        if (sum > theLargestSum)
-        {
-            report("sum-above-one", coefficients, "the outcomes at " + shown(range) + " m add up to " + shownSum(sum));
-            return;
-        }
-    }
+            double sum = 0.0;
+            for (AxPrbProbabilityCoefficients const& polynomial : polynomials)
+            {
+                sum += polynomial.probability(range);
+            }
+            if (sum > theLargestSum)
+            {
+                report("sum-above-one", coefficients,
+                       "the outcomes at " + shown(range) + " m add up to " + shownSum(sum));
+            }
+            return sum <= theLargestSum;
+        });
 }
 
 void checkSums(AxlObj const& angle, CellReport const& report)
@@ -96,30 +95,55 @@ void checkSums(AxlObj const& angle, CellReport const& report)
 
 void checkSurface(AxlObj const& list, CellReport const& report)
 {
-    AxlObj const* largest = nullptr;
+    AxlObj const* last = nullptr;
+    double largest = 0.0;
     for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
     {
         AxlObj const& item = *rest->car();
-        AxlObj const* const given = item.car()->text() == "angle-of-incidence" ? itemOf(item, "angle") : nullptr;
-        AxlObj const* const angle = given != nullptr ? given->cdr()->car() : nullptr;
-        if (angle == nullptr || !angle->isNumber())
+        if (item.car()->text() != "angle-of-incidence")
         {
             continue;
         }
-        checkSums(item, report);
-        if (largest != nullptr && angle->flonum() <= largest->flonum())
+        AxlObj const* const given = itemOf(item, "angle");
+        AxlObj const& place = given != nullptr ? *given->cdr()->car() : item;
+        if (given != nullptr && !place.isNumber())
         {
-            report("out-of-order", *angle,
-                   "the angle " + shown(angle->flonum()) + " stands behind " + shown(largest->flonum()) +
-                       " and is never reached");
+            continue;
+        }
+        double const angle = given != nullptr ? place.flonum() : 0.0;
+        checkSums(item, report);
+        if (last != nullptr && angle <= largest)
+        {
+            report("out-of-order", place,
+                   "the angle " + shown(angle) + " stands behind " + shown(largest) + " and is never reached");
             continue;
         }
         largest = angle;
+        last = &place;
     }
-    if (largest != nullptr && largest->flonum() < theGrazingAngle)
+    if (last != nullptr && largest < theGrazingAngle)
     {
-        report("uncovered-angle", *largest,
-               '"' + std::string(list.car()->text()) + "\" has no answer for angles above " + shown(largest->flonum()) +
+        report("uncovered-angle", *last,
+               '"' + std::string(list.car()->text()) + "\" has no answer for angles above " + shown(largest) +
                    ", expected up to " + shown(theGrazingAngle));
+    }
+}
+
+void checkSurfaces(AxlObj const& list, bool isTable, CellReport const& report)
+{
+    std::vector<AxlObj const*> empty;
+    for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
+    {
+        AxlObj const& surface = *rest->car();
+        isTable = isTable || itemOf(surface, "angle-of-incidence") != nullptr;
+        if (surface.isPair() && surface.cdr()->nil())
+        {
+            empty.push_back(&surface);
+        }
+    }
+    for (AxlObj const* const surface : isTable ? empty : std::vector<AxlObj const*>())
+    {
+        report("empty-table", *surface,
+               "the surface \"" + std::string(surface->car()->text()) + "\" is empty and never answers");
     }
 }
