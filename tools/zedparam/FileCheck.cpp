@@ -19,6 +19,7 @@
 #include "CheckedFiles.h"
 #include "Database.h"
 #include "Findings.h"
+#include "ReadContext.h"
 #include "RecordCheck.h"
 #include "Tables.h"
 
@@ -89,12 +90,19 @@ public:
     }
 
 private:
+    /// The database that lists the file, if any, only tells what its variables may be.
     void checkRecords(bool isEntityFile)
     {
         std::unique_ptr<Database> const database = Database::listing(myFile);
+        if (isEntityFile)
+        {
+            database != nullptr ? checkObjects(*database, Variables::AllKnown)
+                                : checkObjects(*Database::openNone(), Variables::OwnKnown);
+            return;
+        }
         if (database == nullptr)
         {
-            isEntityFile ? checkObjects() : checkAlone();
+            checkAlone();
             return;
         }
         for (AxSxpParameterDbEntry* entry : database->entriesOf(myFile))
@@ -116,8 +124,9 @@ private:
         }
     }
 
-    void checkObjects()
+    void checkObjects(Database const& database, Variables variables)
     {
+        ReadContext const context(myFile, database);
         AxSourceScope const scope{AxFilename(myFile)};
         AxEnvironmentPtr const tree = AxZedXmlUtils::CreateZedXmlEnvironment(AxFilename(myFile), true);
         std::list<AxEnvValuePtr> elements;
@@ -128,10 +137,10 @@ private:
             AxZedXmlUtils::getMatchTypes(tree, element, types);
             AxZedXmlUtils::getObjectType(tree, element);
             std::unique_ptr<AxZedObjectParameters> const record(
-                AxZedXmlUtils::createParameters(tree, element, {AxFilename(myFile).directory()}, {}));
+                AxZedXmlUtils::createParameters(tree, element, context.files, context.bindings));
             if (record != nullptr)
             {
-                checkRecord(myFile, *record, Variables::OwnKnown, myFiles, myFindings);
+                checkRecord(myFile, *record, variables, myFiles, myFindings);
             }
         }
     }

@@ -1,10 +1,9 @@
 #include "ReadContext.h"
 
 #include <filesystem>
-#include <set>
+#include <utility>
 
 #include "Database.h"
-#include "Findings.h"
 
 namespace fs = std::filesystem;
 
@@ -30,28 +29,6 @@ std::unique_ptr<Database> databaseFor(std::string const& file, std::string const
     {
         return Database::open(named);
     }
-    Findings muted(Findings::Print::Never);
-    std::error_code ignored;
-    fs::path const path = fs::weakly_canonical(file, ignored);
-    fs::path const folder = path.parent_path();
-    for (fs::path const& place : {folder, folder.parent_path()})
-    {
-        std::set<fs::path> candidates;
-        for (fs::directory_entry const& entry : fs::directory_iterator(place, ignored))
-        {
-            if (entry.path().extension() == ".opd")
-            {
-                candidates.insert(entry.path());
-            }
-        }
-        for (fs::path const& candidate : candidates)
-        {
-            std::unique_ptr<Database> database = Database::open(candidate.string());
-            if (database != nullptr && !database->entriesOf(path).empty())
-            {
-                return database;
-            }
-        }
-    }
-    return Database::openNone();
+    std::unique_ptr<Database> listing = Database::listing(file);
+    return listing != nullptr ? std::move(listing) : Database::openNone();
 }
