@@ -2,13 +2,68 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <set>
+#include <utility>
 
+#include "AxDiagnostic.h"
 #include "AxZedObjectParameters.h"
 #include "Factories.h"
 #include "Findings.h"
 #include "Progress.h"
 #include "ShownPath.h"
+#include "Source.h"
+
+namespace
+{
+/// The first line that holds more than blanks and comments, without the blanks in front; `number` tells which it is.
+std::string firstLine(std::string const& file, unsigned& number)
+{
+    std::ifstream input(file);
+    std::string line;
+    for (number = 1; std::getline(input, line); ++number)
+    {
+        line.erase(0, line.find_first_not_of(" \t\r"));
+        if (!line.empty() && line.front() != ';')
+        {
+            return line;
+        }
+    }
+    return {};
+}
+
+/// False, after a finding, for a file that is plainly of another kind. What is wrong with a database its reader tells.
+bool mayBeDatabase(std::string const& file)
+{
+    AxDiagnostic finding;
+    std::string const line = firstLine(file, finding.line);
+    std::string found;
+    if (line.starts_with('<'))
+    {
+        found = "XML";
+        finding.column = 1;
+    }
+    else if (line.starts_with('(') && !line.starts_with("(parameter-database"))
+    {
+        Source const source(file);
+        if (source.expression().isPair() &&
+            source.find([](AxlObj const& list) { return list.car()->text() == "parameter-files"; }) == nullptr)
+        {
+            found = "(" + std::string(source.expression().car()->text()) + " ...)";
+            Source::setPlace(finding, &source.expression());
+        }
+    }
+    if (!found.empty())
+    {
+        finding.severity = AxSeverity::Error;
+        finding.code = "not-a-database";
+        finding.file = file;
+        finding.text = "expected (parameter-database ...), found " + found;
+        AxDiagnostics::report(std::move(finding));
+    }
+    return found.empty();
+}
+} // namespace
 
 std::unique_ptr<Database> Database::openNone()
 {
@@ -24,7 +79,7 @@ std::unique_ptr<Database> Database::open(std::string const& file, std::unique_pt
     {
         database->setReader(reader.release());
     }
-    if (database == nullptr || !database->load(AxFilename(file)))
+    if (database == nullptr || !mayBeDatabase(file) || !database->load(AxFilename(file)))
     {
         return nullptr;
     }
