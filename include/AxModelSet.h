@@ -75,7 +75,7 @@ public:
     // ---- Files. What is read is added by `addModel`. False after a report; what could be read is there. ----
     bool load(AxFilename const& file);
     bool save(AxFilename const& file);
-    /// The entity and group files of a directory, not of those below it.
+    /// The entity and group files of a directory, not of those below it; or such a file alone, as with the next two.
     bool loadFromDataFiles(AxFilename const& directory);
     /// An entry for each object element of the entity files (.entity), in the order of the files' names. Elements
     /// without an object type are told and left out.

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 #include <boost/filesystem/operations.hpp>
-#include <charconv>
+#include <boost/lexical_cast/try_lexical_convert.hpp>
 #include <cstring>
 #include <exception>
 
@@ -18,10 +18,19 @@ namespace
 {
 namespace fs = boost::filesystem;
 
-/// The regular files of that extension, sorted by name. False, after a report, for what is no readable directory.
+/// The regular files of that extension in a directory, sorted by name, or the one that is named itself. False, after a
+/// report, for what is neither.
 bool filesIn(AxFilename const& directory, char const* extension, std::vector<AxFilename>& files)
 {
     boost::system::error_code error;
+    if (fs::is_regular_file(directory.native(), error))
+    {
+        if (fs::path(directory.native()).extension() == extension)
+        {
+            files.push_back(directory);
+        }
+        return true;
+    }
     fs::directory_iterator walk(directory.native(), error);
     for (fs::directory_iterator const end; !error && walk != end; walk.increment(error))
     {
@@ -121,8 +130,7 @@ void AxModelSet::Loading::replace(AxString const& id, AxString const& other)
     std::string const& text = id.string();
     std::size_t const dash = text.rfind('-');
     int number = 0;
-    if (dash != std::string::npos &&
-        std::from_chars(text.data() + dash + 1, text.data() + text.size(), number).ptr == text.data() + text.size())
+    if (dash != std::string::npos && boost::conversion::try_lexical_convert(text.substr(dash + 1), number))
     {
         release(AxString(text.substr(0, dash)), number);
     }

@@ -91,7 +91,7 @@ bool AxSxpParameterDbReader::loadParameterDb(AxFilename const& file, AxSxpParame
         AxWarn("AxSxpParameterDbReader::loadParameterDb() : Can't load NULL parameter database\n");
         return false;
     }
-    AxInfo("Loading parameter database file %s . . .\n", file.c_str());
+    AxInfo("Loading parameter database file %s . . .\n", file.native().c_str());
     db->clearDependentParameterFileToCopyPairs();
     AxSourceScope const scope(file); // what the version step tells of a place is not told again
     int version = 0;
@@ -140,8 +140,9 @@ bool AxSxpParameterDbReader::load(AxFilename const& file, AxSxpParameterDbFileDa
     if (!stream)
     {
         char const* const reason = std::strerror(errno);
-        AxDiagnostics::reportStated(axFault("cannot-open", file, std::string("cannot open the file: ") + reason),
-                                    axFormat("Could not open parameter database file %s: %s\n", file.c_str(), reason));
+        AxDiagnostics::reportStated(
+            axFault("cannot-open", file, std::string("cannot open the file: ") + reason),
+            axFormat("Could not open parameter database file %s: %s\n", file.native().c_str(), reason));
         return false;
     }
     return readFileData(file, data, stream.get(), dataRoot);
@@ -155,7 +156,7 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
     if (!input.isValid())
     {
         AxDiagnostics::reportStated(axFault("unreadable-file", file, "the file cannot be read"),
-                                    axFormat("couldn't create lisp stream for %s\n", file.c_str()));
+                                    axFormat("couldn't create lisp stream for %s\n", file.native().c_str()));
         return false;
     }
     AxFilename const directory = axDirectoryOf(file);
@@ -187,6 +188,15 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
         if (!dataRoot.exists() && here.exists())
         {
             dataRoot = here;
+        }
+        boost::system::error_code missing;
+        boost::filesystem::directory_iterator(dataRoot.native(), missing);
+        if (missing)
+        {
+            AxDiagnostics::report(axFaultAt("unreadable-directory", data->dataRootLine(), data->dataRootColumn(),
+                                            "cannot read the directory " + dataRoot.native() + ": " + missing.message(),
+                                            AxSeverity::Warning));
+            return true;
         }
         addEntityFiles(dataRoot, *data);
     }
@@ -326,8 +336,9 @@ bool AxSxpParameterDbReader::load(AxFilename const& file, AxZedObjectParametersL
     if (!stream)
     {
         char const* const reason = std::strerror(errno);
-        AxDiagnostics::reportStated(axFault("cannot-open", file, std::string("cannot open the file: ") + reason),
-                                    axFormat("Could not open parameter database file %s: %s\n", file.c_str(), reason));
+        AxDiagnostics::reportStated(
+            axFault("cannot-open", file, std::string("cannot open the file: ") + reason),
+            axFormat("Could not open parameter database file %s: %s\n", file.native().c_str(), reason));
         return false;
     }
     AxSourceScope const scope(file);
@@ -335,7 +346,7 @@ bool AxSxpParameterDbReader::load(AxFilename const& file, AxZedObjectParametersL
     if (!input.isValid())
     {
         AxDiagnostics::reportStated(axFault("unreadable-file", file, "the file cannot be read"),
-                                    axFormat("couldn't create lisp stream for %s\n", file.c_str()));
+                                    axFormat("couldn't create lisp stream for %s\n", file.native().c_str()));
         return false;
     }
     try

@@ -29,8 +29,9 @@ struct Options
 bool load(std::string const& path, AxModelSet& models)
 {
     std::error_code error;
-    return std::filesystem::is_directory(path, error) ? models.loadFromDataFiles(AxFilename(path))
-                                                      : models.load(AxFilename(path));
+    bool const isData =
+        std::filesystem::is_directory(path, error) || path.ends_with(".entity") || path.ends_with(".sog");
+    return isData ? models.loadFromDataFiles(AxFilename(path)) : models.load(AxFilename(path));
 }
 
 /// The entry of the type, else the best pattern for it. A type of seven numbers is asked as an individual entity, too.
@@ -207,7 +208,7 @@ void addModelsCommand(CommandLine& line)
 {
     auto const options = std::make_shared<Options>();
     line.add("models", "What users may create: all models, or one of them.", [options] { return run(*options); })
-        .required("PATH", options->path, "A model set file, or a directory of .entity and .sog files")
+        .required("PATH", options->path, "A model set file, an .entity or .sog file, or a directory of those")
         .optional("--label", options->label, "The first model of this label")
         .optional("--type", options->type, "The model of this object type, else the best pattern for it")
         .excludes("--label")

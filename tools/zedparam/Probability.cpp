@@ -176,7 +176,7 @@ void printJson(TableFile const& table, TableAnswer& answer)
 
 int probability(Options const& options)
 {
-    Findings findings(Findings::Print::AtOnce);
+    Findings const findings(Findings::Print::AtOnce);
     TableQuestion question;
     if (!readQuestion(options, question))
     {
@@ -202,7 +202,7 @@ int probability(Options const& options)
     {
         std::fprintf(stderr, "zedparam: %s: %s\n", options.file.c_str(), answer.miss.c_str());
     }
-    return answer.miss.empty() && findings.empty() ? Fine : HasFindings;
+    return answer.miss.empty() ? Fine : HasFindings; // what is told of other elements does not count
 }
 } // namespace
 
