@@ -10,8 +10,8 @@ public:
     AxDefaultSystemMetaDataEntryFactory() = default;
     ~AxDefaultSystemMetaDataEntryFactory() override;
 
-    /// Enters every kind of the library in `factory`.
-    static void registerCreators(AxSystemMetaDataEntry::Factory& factory);
+    /// Enters every kind of the library in `factory`; null is ignored.
+    static void registerCreators(AxSystemMetaDataEntry::Factory* factory);
     using AxStringKeyFactoryWithParam::create;
     /// A new factory that knows every kind; the caller owns it.
     static AxDefaultSystemMetaDataEntryFactory* create();

@@ -7,17 +7,21 @@
 
 AxDefaultSystemMetaDataEntryFactory::~AxDefaultSystemMetaDataEntryFactory() = default;
 
-void AxDefaultSystemMetaDataEntryFactory::registerCreators(AxSystemMetaDataEntry::Factory& factory)
+void AxDefaultSystemMetaDataEntryFactory::registerCreators(AxSystemMetaDataEntry::Factory* factory)
 {
-    factory.addCreator("target-selection", &AxTargetSelectionMetaDataEntry::create);
-    factory.addCreator("detect-object-types-input", &AxDetectObjectTypesMetaDataEntry::create);
-    factory.addCreator("detected-objects-output", &AxDetectedObjectsMetaDataEntry::create);
-    factory.addCreator("soil-factors", &AxSoilFactorsMetaDataEntry::create);
+    if (factory == nullptr)
+    {
+        return;
+    }
+    factory->addCreator("target-selection", &AxTargetSelectionMetaDataEntry::create);
+    factory->addCreator("detect-object-types-input", &AxDetectObjectTypesMetaDataEntry::create);
+    factory->addCreator("detected-objects-output", &AxDetectedObjectsMetaDataEntry::create);
+    factory->addCreator("soil-factors", &AxSoilFactorsMetaDataEntry::create);
 }
 
 AxDefaultSystemMetaDataEntryFactory* AxDefaultSystemMetaDataEntryFactory::create()
 {
     auto* const made = new AxDefaultSystemMetaDataEntryFactory;
-    registerCreators(*made);
+    registerCreators(made);
     return made;
 }
