@@ -10,6 +10,7 @@ class ZEDOBJPARAM_API AxAmmoSelectEntry : public AxRecordOf<AxAmmoSelectEntry, "
 public:
     using AxRecordOf::AxRecordOf;
     AxAmmoSelectEntry();
+    AxAmmoSelectEntry(AxSymbolString name, AxAmmoSelectEntry const& other, AxReaderWriterRegistry* registry);
     AxAmmoSelectEntry(AxAmmoSelectEntry const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxAmmoSelectEntry() override;
     AxAmmoSelectEntry& operator=(AxAmmoSelectEntry const& other);

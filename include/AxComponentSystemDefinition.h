@@ -15,6 +15,8 @@ class ZEDOBJPARAM_API AxComponentSystemDefinition
 {
 public:
     using AxRecordOf::AxRecordOf;
+    AxComponentSystemDefinition(AxSymbolString name, AxComponentSystemDefinition const& other,
+                                AxReaderWriterRegistry* registry);
     AxComponentSystemDefinition(AxComponentSystemDefinition const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxComponentSystemDefinition() override;
     AxComponentSystemDefinition& operator=(AxComponentSystemDefinition const& other);

@@ -18,6 +18,8 @@ public:
     AxComponentSystemDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
     AxComponentSystemDescriptor(AxString const& name, AxReaderWriterRegistry* registry);
     AxComponentSystemDescriptor(char const* name, AxReaderWriterRegistry* registry);
+    AxComponentSystemDescriptor(AxSymbolString name, AxComponentSystemDescriptor const& other,
+                                AxReaderWriterRegistry* registry);
     AxComponentSystemDescriptor(AxComponentSystemDescriptor const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxComponentSystemDescriptor() override;
 

@@ -16,6 +16,8 @@ class ZEDOBJPARAM_API AxComponentSystemMetaData
 {
 public:
     using AxRecordOf::AxRecordOf;
+    AxComponentSystemMetaData(AxSymbolString name, AxComponentSystemMetaData const& other,
+                              AxReaderWriterRegistry* registry);
     AxComponentSystemMetaData(AxComponentSystemMetaData const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxComponentSystemMetaData() override;
     AxComponentSystemMetaData& operator=(AxComponentSystemMetaData const& other);

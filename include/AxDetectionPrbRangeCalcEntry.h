@@ -10,6 +10,8 @@ class ZEDOBJPARAM_API AxDetectionPrbRangeCalcEntry
 public:
     using AxRecordOf::AxRecordOf;
     AxDetectionPrbRangeCalcEntry();
+    AxDetectionPrbRangeCalcEntry(AxSymbolString name, AxDetectionPrbRangeCalcEntry const& other,
+                                 AxReaderWriterRegistry* registry);
     AxDetectionPrbRangeCalcEntry(AxDetectionPrbRangeCalcEntry const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxDetectionPrbRangeCalcEntry() override;
     AxDetectionPrbRangeCalcEntry& operator=(AxDetectionPrbRangeCalcEntry const& other);

@@ -10,6 +10,8 @@ class ZEDOBJPARAM_API AxDetectionPrbRangeLookupEntry
 public:
     using AxRecordOf::AxRecordOf;
     AxDetectionPrbRangeLookupEntry();
+    AxDetectionPrbRangeLookupEntry(AxSymbolString name, AxDetectionPrbRangeLookupEntry const& other,
+                                   AxReaderWriterRegistry* registry);
     AxDetectionPrbRangeLookupEntry(AxDetectionPrbRangeLookupEntry const& other,
                                    AxReaderWriterRegistry* registry = nullptr);
     ~AxDetectionPrbRangeLookupEntry() override;

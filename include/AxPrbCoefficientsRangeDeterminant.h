@@ -11,6 +11,8 @@ class ZEDOBJPARAM_API AxPrbCoefficientsRangeDeterminant
 public:
     AxPrbCoefficientsRangeDeterminant(AxSymbolString name, AxReaderWriterRegistry* registry);
     AxPrbCoefficientsRangeDeterminant(AxKeyword const& keyword, AxReaderWriterRegistry* registry);
+    AxPrbCoefficientsRangeDeterminant(AxSymbolString name, AxPrbCoefficientsRangeDeterminant const& other,
+                                      AxReaderWriterRegistry* registry);
     AxPrbCoefficientsRangeDeterminant(AxPrbCoefficientsRangeDeterminant const& other);
     ~AxPrbCoefficientsRangeDeterminant() override;
     AxPrbCoefficientsRangeDeterminant& operator=(AxPrbCoefficientsRangeDeterminant const& other);

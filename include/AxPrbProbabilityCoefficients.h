@@ -11,6 +11,8 @@ public:
     AxPrbProbabilityCoefficients(AxSymbolString name, AxReaderWriterRegistry* registry);
     AxPrbProbabilityCoefficients(AxString const& name, AxReaderWriterRegistry* registry);
     AxPrbProbabilityCoefficients(char const* name, AxReaderWriterRegistry* registry);
+    AxPrbProbabilityCoefficients(AxSymbolString name, AxPrbProbabilityCoefficients const& other,
+                                 AxReaderWriterRegistry* registry);
     AxPrbProbabilityCoefficients(AxPrbProbabilityCoefficients const& other);
     ~AxPrbProbabilityCoefficients() override;
 

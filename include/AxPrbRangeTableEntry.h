@@ -16,6 +16,7 @@ public:
     AxPrbRangeTableEntry(AxSymbolString name, AxReaderWriterRegistry* registry);
     AxPrbRangeTableEntry(AxString const& name, AxReaderWriterRegistry* registry);
     AxPrbRangeTableEntry(char const* name, AxReaderWriterRegistry* registry);
+    AxPrbRangeTableEntry(AxSymbolString name, AxPrbRangeTableEntry const& other, AxReaderWriterRegistry* registry);
     AxPrbRangeTableEntry(AxPrbRangeTableEntry const& other);
     ~AxPrbRangeTableEntry() override;
 

@@ -11,6 +11,8 @@ class ZEDOBJPARAM_API AxPrbTableRangeDeterminant
 public:
     AxPrbTableRangeDeterminant(AxSymbolString name, AxReaderWriterRegistry* registry);
     AxPrbTableRangeDeterminant(AxKeyword const& keyword, AxReaderWriterRegistry* registry);
+    AxPrbTableRangeDeterminant(AxSymbolString name, AxPrbTableRangeDeterminant const& other,
+                               AxReaderWriterRegistry* registry);
     AxPrbTableRangeDeterminant(AxPrbTableRangeDeterminant const& other);
     ~AxPrbTableRangeDeterminant() override;
     AxPrbTableRangeDeterminant& operator=(AxPrbTableRangeDeterminant const& other);

@@ -9,6 +9,8 @@ class ZEDOBJPARAM_API AxRwNavigationParameters : public AxRecordOf<AxRwNavigatio
 {
 public:
     using AxRecordOf::AxRecordOf;
+    AxRwNavigationParameters(AxSymbolString name, AxRwNavigationParameters const& other,
+                             AxReaderWriterRegistry* registry);
     AxRwNavigationParameters(AxRwNavigationParameters const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxRwNavigationParameters() override;
     AxRwNavigationParameters& operator=(AxRwNavigationParameters const& other);

@@ -13,6 +13,7 @@ class ZEDOBJPARAM_API AxSimSector : public AxRecordOf<AxSimSector, "AxSimSector"
 {
 public:
     using AxRecordOf::AxRecordOf;
+    AxSimSector(AxSymbolString name, AxSimSector const& other, AxReaderWriterRegistry* registry);
     AxSimSector(AxSimSector const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxSimSector() override;
     AxSimSector& operator=(AxSimSector const& other);

@@ -13,6 +13,8 @@ public:
     AxTargetAcquireCriteria(AxString const& name, AxReaderWriterRegistry* registry);
     AxTargetAcquireCriteria(char const* name, AxReaderWriterRegistry* registry);
     AxTargetAcquireCriteria(AxKeyword const& keyword, AxReaderWriterRegistry* registry);
+    AxTargetAcquireCriteria(AxSymbolString name, AxTargetAcquireCriteria const& other,
+                            AxReaderWriterRegistry* registry);
     AxTargetAcquireCriteria(AxTargetAcquireCriteria const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxTargetAcquireCriteria() override;
     AxTargetAcquireCriteria& operator=(AxTargetAcquireCriteria const& other);

@@ -10,6 +10,7 @@ class ZEDOBJPARAM_API AxTargetPriorityEntry : public AxRecordOf<AxTargetPriority
 public:
     using AxRecordOf::AxRecordOf;
     AxTargetPriorityEntry();
+    AxTargetPriorityEntry(AxSymbolString name, AxTargetPriorityEntry const& other, AxReaderWriterRegistry* registry);
     AxTargetPriorityEntry(AxTargetPriorityEntry const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxTargetPriorityEntry() override;
     AxTargetPriorityEntry& operator=(AxTargetPriorityEntry const& other);

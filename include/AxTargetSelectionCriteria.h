@@ -15,6 +15,8 @@ public:
     AxTargetSelectionCriteria(AxString const& name, AxReaderWriterRegistry* registry);
     AxTargetSelectionCriteria(char const* name, AxReaderWriterRegistry* registry);
     AxTargetSelectionCriteria(AxKeyword const& keyword, AxReaderWriterRegistry* registry);
+    AxTargetSelectionCriteria(AxSymbolString name, AxTargetSelectionCriteria const& other,
+                              AxReaderWriterRegistry* registry);
     AxTargetSelectionCriteria(AxTargetSelectionCriteria const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxTargetSelectionCriteria() override;
     AxTargetSelectionCriteria& operator=(AxTargetSelectionCriteria const& other);

@@ -1,10 +1,16 @@
 #include "AxRwNavigationParameters.h"
 
-AxRwNavigationParameters::AxRwNavigationParameters(AxRwNavigationParameters const& other,
+AxRwNavigationParameters::AxRwNavigationParameters(AxSymbolString name, AxRwNavigationParameters const& other,
                                                    AxReaderWriterRegistry* registry)
-    : AxRecordOf(other.AxReaderWriter::name(), registry)
+    : AxRwNavigationParameters(name, registry)
 {
     assign(other);
+}
+
+AxRwNavigationParameters::AxRwNavigationParameters(AxRwNavigationParameters const& other,
+                                                   AxReaderWriterRegistry* registry)
+    : AxRwNavigationParameters(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxRwNavigationParameters::~AxRwNavigationParameters() = default;

@@ -21,10 +21,15 @@ double normalised(double angle)
 }
 } // namespace
 
-AxSimSector::AxSimSector(AxSimSector const& other, AxReaderWriterRegistry* registry)
-    : AxRecordOf(other.AxReaderWriter::name(), registry)
+AxSimSector::AxSimSector(AxSymbolString name, AxSimSector const& other, AxReaderWriterRegistry* registry)
+    : AxSimSector(name, registry)
 {
     assign(other);
+}
+
+AxSimSector::AxSimSector(AxSimSector const& other, AxReaderWriterRegistry* registry)
+    : AxSimSector(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxSimSector::~AxSimSector() = default;

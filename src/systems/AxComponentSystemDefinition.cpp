@@ -4,11 +4,17 @@
 
 static AxTypeEntry<AxComponentSystemDefinition> const componentSystemDefinitionEntry;
 
-AxComponentSystemDefinition::AxComponentSystemDefinition(AxComponentSystemDefinition const& other,
+AxComponentSystemDefinition::AxComponentSystemDefinition(AxSymbolString name, AxComponentSystemDefinition const& other,
                                                          AxReaderWriterRegistry* registry)
-    : AxComponentSystemDefinition(other.AxReaderWriter::name(), registry)
+    : AxComponentSystemDefinition(name, registry)
 {
     assign(other);
+}
+
+AxComponentSystemDefinition::AxComponentSystemDefinition(AxComponentSystemDefinition const& other,
+                                                         AxReaderWriterRegistry* registry)
+    : AxComponentSystemDefinition(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxComponentSystemDefinition::~AxComponentSystemDefinition() = default;

@@ -38,11 +38,17 @@ AxComponentSystemDescriptor::AxComponentSystemDescriptor(char const* name, AxRea
 {
 }
 
-AxComponentSystemDescriptor::AxComponentSystemDescriptor(AxComponentSystemDescriptor const& other,
+AxComponentSystemDescriptor::AxComponentSystemDescriptor(AxSymbolString name, AxComponentSystemDescriptor const& other,
                                                          AxReaderWriterRegistry* registry)
-    : AxComponentSystemDescriptor(other.AxReaderWriter::name(), registry)
+    : AxComponentSystemDescriptor(name, registry)
 {
     *this = other;
+}
+
+AxComponentSystemDescriptor::AxComponentSystemDescriptor(AxComponentSystemDescriptor const& other,
+                                                         AxReaderWriterRegistry* registry)
+    : AxComponentSystemDescriptor(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxComponentSystemDescriptor::~AxComponentSystemDescriptor()

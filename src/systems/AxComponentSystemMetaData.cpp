@@ -1,10 +1,16 @@
 #include "AxComponentSystemMetaData.h"
 
-AxComponentSystemMetaData::AxComponentSystemMetaData(AxComponentSystemMetaData const& other,
+AxComponentSystemMetaData::AxComponentSystemMetaData(AxSymbolString name, AxComponentSystemMetaData const& other,
                                                      AxReaderWriterRegistry* registry)
-    : AxComponentSystemMetaData(other.AxReaderWriter::name(), registry)
+    : AxComponentSystemMetaData(name, registry)
 {
     assign(other);
+}
+
+AxComponentSystemMetaData::AxComponentSystemMetaData(AxComponentSystemMetaData const& other,
+                                                     AxReaderWriterRegistry* registry)
+    : AxComponentSystemMetaData(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxComponentSystemMetaData::~AxComponentSystemMetaData() = default;

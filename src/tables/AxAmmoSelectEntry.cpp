@@ -4,10 +4,16 @@
 
 AxAmmoSelectEntry::AxAmmoSelectEntry() : AxAmmoSelectEntry(AxAmmoSelectTable::elementWord(), nullptr) {}
 
-AxAmmoSelectEntry::AxAmmoSelectEntry(AxAmmoSelectEntry const& other, AxReaderWriterRegistry* registry)
-    : AxAmmoSelectEntry(other.AxReaderWriter::name(), registry)
+AxAmmoSelectEntry::AxAmmoSelectEntry(AxSymbolString name, AxAmmoSelectEntry const& other,
+                                     AxReaderWriterRegistry* registry)
+    : AxAmmoSelectEntry(name, registry)
 {
     assign(other);
+}
+
+AxAmmoSelectEntry::AxAmmoSelectEntry(AxAmmoSelectEntry const& other, AxReaderWriterRegistry* registry)
+    : AxAmmoSelectEntry(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxAmmoSelectEntry::~AxAmmoSelectEntry() = default;

@@ -4,11 +4,18 @@
 
 AxDetectionPrbRangeCalcEntry::AxDetectionPrbRangeCalcEntry() : AxDetectionPrbRangeCalcEntry(elementWord(), nullptr) {}
 
-AxDetectionPrbRangeCalcEntry::AxDetectionPrbRangeCalcEntry(AxDetectionPrbRangeCalcEntry const& other,
+AxDetectionPrbRangeCalcEntry::AxDetectionPrbRangeCalcEntry(AxSymbolString name,
+                                                           AxDetectionPrbRangeCalcEntry const& other,
                                                            AxReaderWriterRegistry* registry)
-    : AxDetectionPrbRangeCalcEntry(other.AxReaderWriter::name(), registry)
+    : AxDetectionPrbRangeCalcEntry(name, registry)
 {
     assign(other);
+}
+
+AxDetectionPrbRangeCalcEntry::AxDetectionPrbRangeCalcEntry(AxDetectionPrbRangeCalcEntry const& other,
+                                                           AxReaderWriterRegistry* registry)
+    : AxDetectionPrbRangeCalcEntry(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxDetectionPrbRangeCalcEntry::~AxDetectionPrbRangeCalcEntry() = default;

@@ -7,11 +7,18 @@ AxDetectionPrbRangeLookupEntry::AxDetectionPrbRangeLookupEntry()
 {
 }
 
-AxDetectionPrbRangeLookupEntry::AxDetectionPrbRangeLookupEntry(AxDetectionPrbRangeLookupEntry const& other,
+AxDetectionPrbRangeLookupEntry::AxDetectionPrbRangeLookupEntry(AxSymbolString name,
+                                                               AxDetectionPrbRangeLookupEntry const& other,
                                                                AxReaderWriterRegistry* registry)
-    : AxDetectionPrbRangeLookupEntry(other.AxReaderWriter::name(), registry)
+    : AxDetectionPrbRangeLookupEntry(name, registry)
 {
     assign(other);
+}
+
+AxDetectionPrbRangeLookupEntry::AxDetectionPrbRangeLookupEntry(AxDetectionPrbRangeLookupEntry const& other,
+                                                               AxReaderWriterRegistry* registry)
+    : AxDetectionPrbRangeLookupEntry(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxDetectionPrbRangeLookupEntry::~AxDetectionPrbRangeLookupEntry() = default;

@@ -15,10 +15,17 @@ AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxKeyword c
     myCoefficientList.setValueSpecified(true, true);
 }
 
-AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxPrbCoefficientsRangeDeterminant const& other)
-    : AxPrbCoefficientsRangeDeterminant(other.AxReaderWriter::name(), nullptr)
+AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxSymbolString name,
+                                                                     AxPrbCoefficientsRangeDeterminant const& other,
+                                                                     AxReaderWriterRegistry* registry)
+    : AxPrbCoefficientsRangeDeterminant(name, registry)
 {
     assign(other);
+}
+
+AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxPrbCoefficientsRangeDeterminant const& other)
+    : AxPrbCoefficientsRangeDeterminant(other.AxReaderWriter::name(), other, nullptr)
+{
 }
 
 AxPrbCoefficientsRangeDeterminant::~AxPrbCoefficientsRangeDeterminant() = default;

@@ -27,6 +27,14 @@ AxPrbProbabilityCoefficients::AxPrbProbabilityCoefficients(char const* name, AxR
 {
 }
 
+AxPrbProbabilityCoefficients::AxPrbProbabilityCoefficients(AxSymbolString name,
+                                                           AxPrbProbabilityCoefficients const& other,
+                                                           AxReaderWriterRegistry* registry)
+    : AxPrbProbabilityCoefficients(name, registry)
+{
+    *this = other;
+}
+
 AxPrbProbabilityCoefficients::AxPrbProbabilityCoefficients(AxPrbProbabilityCoefficients const& other)
     : AxReaderWriter(other), myCoefficients(other.myCoefficients)
 {

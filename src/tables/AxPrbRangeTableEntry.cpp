@@ -78,10 +78,16 @@ AxPrbRangeTableEntry::AxPrbRangeTableEntry(char const* name, AxReaderWriterRegis
 {
 }
 
-AxPrbRangeTableEntry::AxPrbRangeTableEntry(AxPrbRangeTableEntry const& other)
-    : AxPrbRangeTableEntry(other.AxReaderWriter::name(), nullptr)
+AxPrbRangeTableEntry::AxPrbRangeTableEntry(AxSymbolString name, AxPrbRangeTableEntry const& other,
+                                           AxReaderWriterRegistry* registry)
+    : AxPrbRangeTableEntry(name, registry)
 {
     *this = other;
+}
+
+AxPrbRangeTableEntry::AxPrbRangeTableEntry(AxPrbRangeTableEntry const& other)
+    : AxPrbRangeTableEntry(other.AxReaderWriter::name(), other, nullptr)
+{
 }
 
 AxPrbRangeTableEntry::~AxPrbRangeTableEntry()

@@ -13,10 +13,16 @@ AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxKeyword const& keyword,
     myRangeList.setValueSpecified(true, true);
 }
 
-AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxPrbTableRangeDeterminant const& other)
-    : AxPrbTableRangeDeterminant(other.AxReaderWriter::name(), nullptr)
+AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxSymbolString name, AxPrbTableRangeDeterminant const& other,
+                                                       AxReaderWriterRegistry* registry)
+    : AxPrbTableRangeDeterminant(name, registry)
 {
     assign(other);
+}
+
+AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxPrbTableRangeDeterminant const& other)
+    : AxPrbTableRangeDeterminant(other.AxReaderWriter::name(), other, nullptr)
+{
 }
 
 AxPrbTableRangeDeterminant::~AxPrbTableRangeDeterminant() = default;

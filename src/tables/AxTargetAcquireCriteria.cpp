@@ -22,10 +22,16 @@ AxTargetAcquireCriteria::AxTargetAcquireCriteria(AxKeyword const& keyword, AxRea
     markDefaults();
 }
 
-AxTargetAcquireCriteria::AxTargetAcquireCriteria(AxTargetAcquireCriteria const& other, AxReaderWriterRegistry* registry)
-    : AxTargetAcquireCriteria(other.AxReaderWriter::name(), registry)
+AxTargetAcquireCriteria::AxTargetAcquireCriteria(AxSymbolString name, AxTargetAcquireCriteria const& other,
+                                                 AxReaderWriterRegistry* registry)
+    : AxTargetAcquireCriteria(name, registry)
 {
     assign(other);
+}
+
+AxTargetAcquireCriteria::AxTargetAcquireCriteria(AxTargetAcquireCriteria const& other, AxReaderWriterRegistry* registry)
+    : AxTargetAcquireCriteria(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxTargetAcquireCriteria::~AxTargetAcquireCriteria() = default;

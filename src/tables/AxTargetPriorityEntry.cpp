@@ -4,10 +4,16 @@
 
 AxTargetPriorityEntry::AxTargetPriorityEntry() : AxTargetPriorityEntry(AxTargetPriorityList::elementWord(), nullptr) {}
 
-AxTargetPriorityEntry::AxTargetPriorityEntry(AxTargetPriorityEntry const& other, AxReaderWriterRegistry* registry)
-    : AxTargetPriorityEntry(other.AxReaderWriter::name(), registry)
+AxTargetPriorityEntry::AxTargetPriorityEntry(AxSymbolString name, AxTargetPriorityEntry const& other,
+                                             AxReaderWriterRegistry* registry)
+    : AxTargetPriorityEntry(name, registry)
 {
     assign(other);
+}
+
+AxTargetPriorityEntry::AxTargetPriorityEntry(AxTargetPriorityEntry const& other, AxReaderWriterRegistry* registry)
+    : AxTargetPriorityEntry(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxTargetPriorityEntry::~AxTargetPriorityEntry() = default;

@@ -22,11 +22,17 @@ AxTargetSelectionCriteria::AxTargetSelectionCriteria(AxKeyword const& keyword, A
     markDefaults();
 }
 
-AxTargetSelectionCriteria::AxTargetSelectionCriteria(AxTargetSelectionCriteria const& other,
+AxTargetSelectionCriteria::AxTargetSelectionCriteria(AxSymbolString name, AxTargetSelectionCriteria const& other,
                                                      AxReaderWriterRegistry* registry)
-    : AxTargetSelectionCriteria(other.AxReaderWriter::name(), registry)
+    : AxTargetSelectionCriteria(name, registry)
 {
     assign(other);
+}
+
+AxTargetSelectionCriteria::AxTargetSelectionCriteria(AxTargetSelectionCriteria const& other,
+                                                     AxReaderWriterRegistry* registry)
+    : AxTargetSelectionCriteria(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxTargetSelectionCriteria::~AxTargetSelectionCriteria() = default;

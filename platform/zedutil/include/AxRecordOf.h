@@ -17,8 +17,8 @@ struct AxFixedText
 ///
 /// A class derives as `class AxLoadPoint : public AxRecordOf<AxLoadPoint, "AxLoadPoint">`, says
 /// `using AxRecordOf::AxRecordOf;`, and binds its members by in-class initialisers. Classes that are copied by value
-/// add `AxLoadPoint(AxLoadPoint const& other, AxReaderWriterRegistry* registry = nullptr)` and `operator=`, each
-/// calling `assign(other)`.
+/// add `AxLoadPoint(AxSymbolString name, AxLoadPoint const& other, AxReaderWriterRegistry* registry)`, one without the
+/// name, and `operator=`. They cannot be inherited: the members to assign to are there only after this base.
 template <class Derived, AxFixedText typeName, class Base = AxRecord>
 class AxRecordOf : public Base
 {

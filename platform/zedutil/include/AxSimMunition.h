@@ -11,6 +11,7 @@ class ZEDOBJPARAM_API AxSimMunition : public AxRecordOf<AxSimMunition, "AxSimMun
 public:
     using AxRecordOf::AxRecordOf;
     AxSimMunition();
+    AxSimMunition(AxSymbolString name, AxSimMunition const& other, AxReaderWriterRegistry* registry);
     AxSimMunition(AxSimMunition const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxSimMunition() override;
     AxSimMunition& operator=(AxSimMunition const& other);

@@ -2,10 +2,15 @@
 
 AxSimMunition::AxSimMunition() : AxRecordOf("munition", nullptr) {}
 
-AxSimMunition::AxSimMunition(AxSimMunition const& other, AxReaderWriterRegistry* registry)
-    : AxRecordOf(other.AxReaderWriter::name(), registry)
+AxSimMunition::AxSimMunition(AxSymbolString name, AxSimMunition const& other, AxReaderWriterRegistry* registry)
+    : AxSimMunition(name, registry)
 {
     assign(other);
+}
+
+AxSimMunition::AxSimMunition(AxSimMunition const& other, AxReaderWriterRegistry* registry)
+    : AxSimMunition(other.AxReaderWriter::name(), other, registry)
+{
 }
 
 AxSimMunition::~AxSimMunition() = default;
