@@ -33,7 +33,6 @@ public:
     using AxReaderWriter::putData;
     void putData(std::string& out, int indent) override;
     AxlObjPtr getData(AxlObjPtr const& items, AxFilenameList const& files, AxBindingsList const& bindings) override;
-    char const* readerWriterType() const override;
 
     static AxCommModelDescriptor* creator();
     /// Adds or replaces the creator of a type; this class is known from the start.

@@ -122,11 +122,6 @@ AxlObjPtr AxCommModelDescriptor::getData(AxlObjPtr const& items, AxFilenameList 
     return AxlObjPtr(items->cdr());
 }
 
-char const* AxCommModelDescriptor::readerWriterType() const
-{
-    return "comm-model-descriptor";
-}
-
 void AxCommModelDescriptor::addCreatorFcn(AxString const& type, CreatorFcn creator)
 {
     creators().insert_or_assign(type, creator);

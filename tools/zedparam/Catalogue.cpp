@@ -12,6 +12,7 @@
 #include "AxNumberText.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwList.h"
+#include "AxZedStateRepositoryUserExtension.h"
 #include "Factories.h"
 #include "Findings.h"
 #include "Json.h"
@@ -132,7 +133,12 @@ std::vector<TypeInfo> makeTypes()
     };
     for (AxString const& name : factories.records.typeNames())
     {
-        add(name.string(), AxZedObjectParameters::createParameters(name.c_str()), TypeInfo::Kind::Record);
+        AxZedObjectParameters* const record = AxZedObjectParameters::createParameters(name.c_str());
+        if (record != nullptr)
+        {
+            record->setStateRepositoryUserExtension(new AxZedStateRepositoryUserExtension("user-extension", nullptr));
+        }
+        add(name.string(), record, TypeInfo::Kind::Record);
     }
     for (AxListItem const* item = factories.components.first(); item != nullptr; item = item->next())
     {

@@ -13,10 +13,10 @@ namespace
 /// The keyword of what an element is asked by; empty for what is no element of a table.
 std::string_view keyOf(std::string_view element)
 {
-    return element == "entity-range"                                  ? "entity-type"
-           : element == "ammo-select" || element == "entity-priority" ? "target-type"
-           : element == "ammo-entry"                                  ? "ammo"
-                                                                      : "";
+    return element == "entity-range" || element == "entity-priority" ? "entity-type"
+           : element == "ammo-select"                                ? "target-type"
+           : element == "ammo-entry"                                 ? "ammo"
+                                                                     : "";
 }
 
 /// False for a type that is not a row of plain numbers.
@@ -82,14 +82,15 @@ void checkElements(AxlObj const& list, CellReport const& report)
         std::string_view const head = element.car()->text();
         std::string_view const key = keyOf(head);
         AxlObj const* const item = key.empty() ? nullptr : itemOf(element, key);
+        bool const isMunition = key == "ammo";
         AxEntityType type;
         if (item == nullptr && !key.empty())
         {
             report("missing-key", element,
                    "the element has no \"" + std::string(key) + "\" and answers for " +
-                       (key == "ammo" ? "every munition" : "no type"));
+                       (isMunition ? "every munition" : "no type"));
         }
-        else if (key == "ammo")
+        else if (isMunition)
         {
             byMunition.emplace_back(AxSimMunition(), &element);
             byMunition.back().first.getSelf(AxlObjPtr(item), {}, {});

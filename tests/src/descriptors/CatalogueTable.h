@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-/// Every type of component and of object record, as "type : type it extends", and below it the keywords that it adds,
+/// Every type of component, of object record and of record that the reader/writer factory makes, as "type : type it extends", and below it the keywords that it adds,
 /// in their order, each with the class of its member. A type in brackets has no name of its own in a text; "-" is a
 /// member without a keyword. The lists that a record gains when it is initialised are left out.
 inline constexpr std::string_view theCatalogue = R"(
@@ -395,4 +395,31 @@ global-environment-param : zed-object-param
     send-repository-update-when-time-changed-by-seconds AxRwReal
 aggregate-object-param : moving-object-param
     can-have-subordinates AxRwBoolean
+AxTargetPriorityEntry : -
+    entity-type AxRwEntityType; priority AxRwInt
+(resource) : -
+    resource-name AxRwString
+integer-resource : (resource)
+    amount AxRwInt; capacity AxRwInt
+real-resource : (resource)
+    amount AxRwReal; capacity AxRwReal
+munition-resource : integer-resource
+    munition AxSimMunition
+AxLoadPoint : -
+    load-point-name AxRwString; offset AxRwOffsetVector; heading AxRwReal; radius AxRwReal
+AxEmbarkationSlotEntry : -
+    slot-name AxRwString; offset AxRwOffsetVector; orientation AxRwTaitBryan; object-types AxRwObjectTypeList;
+    load-points AxRwNLengthStringVector; slot-exclusions AxRwTemplatedListPtr<AxSlotExclusion, 1>
+AxZedSubObjectParameterEntry : -
+    object-type AxRwObjectType; offset AxRwOffsetVector; orientation AxRwTaitBryan; attached-part AxRwString;
+    parameter-data AxRwProperties
+AxFormationTableEntry : -
+    formation-type AxRwString; formation-file AxReaderWriterFile; formation AxFormation
+AxSlotExclusion : -
+    slot-name AxRwString
+target-selection-criteria : -
+    target-priorities AxTargetPriorityList; max-targets AxRwInt; target-region AxRwSpatialFilterContainer;
+    fire-with-spot-report-only AxRwBoolean
+AxAggregatedMovementDescriptor_MobilityEntry : -
+    terrain-type AxRwString; speed-factor AxRwReal
 )";

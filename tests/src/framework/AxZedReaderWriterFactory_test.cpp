@@ -1,6 +1,7 @@
 #include "AxZedReaderWriterFactory.h"
 
 #include "AxReaderWriter.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -77,14 +78,31 @@ TEST(AxZedReaderWriterFactory, IsTheLibrarysFactoryFromTheStart)
     EXPECT_NE(dynamic_cast<AxZedReaderWriterFactory*>(AxReaderWriter::factory()), nullptr);
 }
 
-TEST(AxZedReaderWriterFactory, ReadsAListOfAnyReaderWriters)
+TEST(AxZedReaderWriterFactory, ListsSurviveReadCloneAndWriteWithWhatTheyDoNotKnow)
 {
-    std::unique_ptr<AxReaderWriter> const list(AxReaderWriter::factory()->createItem("readerWriters", "x", nullptr));
-    char const* text = "(x\n  (AxRwReal 1.5)\n  (AxRwInt 2))\n";
-    list->readText(text, AxFilename("test.ope"), AxReaderWriter::nullFilenames(),
-                   AxReaderWriter::nullVariableReference());
-    EXPECT_EQ(list->writtenText(), text);
-    std::unique_ptr<AxReaderWriter> const clone(
-        AxReaderWriter::factory()->cloneReaderWriter("readerWriters", list.get(), nullptr));
-    EXPECT_EQ(clone->writtenText(), text);
+    std::pair<char const*, char const*> const elements[] = {
+        {"AxTargetPriorityList", "(entity-priority\n    (priority 3)\n    (hue 1))"},
+        {"AxRwResourceManagerType", "(real-resource\n    (resource-name \"fuel\")\n    (hue 1)\n    (amount 9.0))"},
+        {"loadPoints", "(gate\n    (load-point-name \"rear\")\n    (hue 1)\n    (radius 2.5))"},
+        {"embarkationSlots", "(bay\n    (slot-name \"left\")\n    (hue 1))"},
+        {"AxDmgMunitionTable", "(ammo-entry\n    (hue 1)\n    (suppression-lof-range 5.0))"},
+        {"AxZedSubObjectParameterList", "(mine\n    (attached-part \"turret\")\n    (hue 1))"},
+        {"AxFormationTable", "(line\n    (formation-type \"line\")\n    (hue 1))"},
+        {"slotExclusions", "(left\n    (slot-name \"right\")\n    (hue 1))"},
+        {"readerWriters", "(AxRwReal 1.5)\n  (AxRwInt 2)"},
+        {"AxAggregatedMovementDescriptor_MobilityEntrys",
+         "(mobility-entry\n    (terrain-type \"road\")\n    (hue 1)\n    (speed-factor 0.5))"},
+    };
+    ReportedFindings const quiet;
+    for (auto const& [type, element] : elements)
+    {
+        SCOPED_TRACE(type);
+        std::unique_ptr<AxReaderWriter> const list(AxReaderWriter::factory()->createItem(type, "x", nullptr));
+        std::string const text = std::string("(x\n  ") + element + ")\n";
+        readFrom(*list, text);
+        EXPECT_EQ(list->writtenText(), text);
+        std::unique_ptr<AxReaderWriter> const clone(
+            AxReaderWriter::factory()->cloneReaderWriter(type, list.get(), nullptr));
+        EXPECT_EQ(clone->writtenText(), text);
+    }
 }
