@@ -84,7 +84,7 @@ void AxRwProperty::putData(std::string& out, int indent)
         return;
     }
     std::string value;
-    myValue->putSelf(value, indent, true, AxFilename::nullFilename());
+    myValue->putSelf(value, indent, myValue->isValue(), AxFilename::nullFilename());
     std::string head = "(";
     axAppendName(head, myValue->name());
     axAppendName(out, AxSymbolString(myType));
