@@ -34,6 +34,27 @@ AxObjectType typeOf(AxEnvObjectPtr const& element, bool reports)
     return type;
 }
 
+/// What an element of types or variables says that nobody knows; null when that is nothing.
+AxEnvObjectPtr restOf(AxEnvObject const& part, bool reports)
+{
+    return part.type() == AxSystemElement::theVariablesTag  ? AxSystemElement::restOfVariables(part, reports)
+           : part.type() == AxObjectElement::thePlatformTag ? AxEnvObjectPtr()
+                                                            : AxXmlFragment::restOf(part, nullptr, reports);
+}
+
+/// Whether the element in what was kept is the rest of one that is written.
+bool isRest(AxEnvObject const& child)
+{
+    bool const isPart =
+        std::any_of(theParts.begin(), theParts.end(), [&child](char const* tag) { return child.type() == tag; });
+    bool hasValue = child.attribute("value") != nullptr;
+    for (AxEnvValuePtr const& node : child.children())
+    {
+        AxEnvObjectPtr const object = node->castToObject();
+        hasValue = hasValue || (object && object->type() == "variable" && object->attribute("value"));
+    }
+    return isPart && !hasValue && !(child.type() == AxObjectElement::thePlatformTag);
+}
 } // namespace
 
 AxObjectType AxObjectElement::objectTypeOf(AxEnvValuePtr const& element, bool reports)
@@ -62,6 +83,17 @@ std::vector<AxObjectType> AxObjectElement::matchTypesOf(AxEnvValuePtr const& ele
                            }
                        });
     return types;
+}
+
+void AxObjectElement::reportRests(AxEnvValuePtr const& element)
+{
+    for (char const* const tag : theParts)
+    {
+        if (AxEnvObjectPtr const part = AxElement::first(element, tag))
+        {
+            restOf(*part, true);
+        }
+    }
 }
 
 AxEnvObjectPtr AxObjectElement::othersOf(AxEnvValuePtr const& element)
@@ -95,6 +127,10 @@ AxEnvObjectPtr AxObjectElement::othersOf(AxEnvValuePtr const& element)
         if (!isPart)
         {
             others->add(AxXmlFragment::copyOf(*node));
+        }
+        else if (part != theParts.end())
+        {
+            others->add(restOf(*child, false));
         }
     }
     return isEmpty(*others) ? AxEnvObjectPtr() : others;
@@ -139,6 +175,14 @@ void AxObjectElement::addOthers(AxEnvObject& element, AxEnvObject& others)
     for (AxEnvValuePtr const& node : children)
     {
         AxEnvObjectPtr const child = node->castToObject();
+        AxEnvObjectPtr const whole = child && isRest(*child)
+                                         ? AxElement::first(element.shared_from_this(), child->type().c_str())
+                                         : AxEnvObjectPtr();
+        if (whole)
+        {
+            AxXmlFragment::addRest(*whole, *child);
+            continue;
+        }
         auto const platform = std::find_if(element.children().begin(), element.children().end(),
                                            [](AxEnvValuePtr const& one)
                                            {

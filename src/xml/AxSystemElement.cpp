@@ -30,8 +30,8 @@ AxEnvObjectPtr textNode(std::string text, AxEnvValue const& place)
     return item;
 }
 
-/// The values of a variable as parameter text; empty, after a report, for what is none.
-std::string valuesOf(AxEnvObject const& variable)
+/// The values of a variable as parameter text; empty, after a report if `reports`, for what is none.
+std::string valuesOf(AxEnvObject const& variable, bool reports)
 {
     AxString const* const value = variable.attribute("value");
     AxString const* const type = variable.attribute("type");
@@ -47,11 +47,14 @@ std::string valuesOf(AxEnvObject const& variable)
     }
     catch (AxlSyntaxError const& error)
     {
-        AxElement::report(variable, AxSeverity::Error, "unreadable-variable",
-                          "the value \"" + value->string() + "\" cannot be read: " + error.diagnostic().text);
+        if (reports)
+        {
+            AxElement::report(variable, AxSeverity::Error, "unreadable-variable",
+                              "the value \"" + value->string() + "\" cannot be read: " + error.diagnostic().text);
+        }
         return {};
     }
-    if (text.empty())
+    if (text.empty() && reports)
     {
         AxElement::report(variable, AxSeverity::Error, "incomplete-variable", "a variable has a name and a value");
     }
@@ -66,7 +69,7 @@ AxEnvObjectPtr itemOf(AxEnvObject const& variable)
         AxElement::report(variable, AxSeverity::Error, "incomplete-variable", "a variable has a name and a value");
         return {};
     }
-    std::string const values = valuesOf(variable);
+    std::string const values = valuesOf(variable, true);
     if (values.empty())
     {
         return {};
@@ -98,11 +101,13 @@ void addVariableItems(AxEnvValuePtr const& element, AxEnvObject& record, Keep co
             record.add(item);
             continue;
         }
-        if (!isVariable && !(child && child->isReserved()))
+        if (!child && AxTreeCells::isBlank(node->value().string()))
         {
-            AxElement::report(*node, AxSeverity::Warning, "unknown-element",
-                              child ? "unknown element \"" + child->type().string() + '"'
-                                    : "unexpected text \"" + node->value().string() + '"');
+            continue;
+        }
+        if (!isVariable)
+        {
+            AxXmlFragment::reportUnknown(*node);
         }
         record.add(textNode(AxTreeCells::xmlItem(AxXmlFragment::ofNode(*keep(node))), *node));
     }
@@ -114,6 +119,15 @@ AxEnvValuePtr inOwnElement(AxEnvValuePtr const& node)
     auto const variables = boost::make_shared<AxEnvObject>("variable-bindings", AxSystemElement::theVariablesTag);
     variables->add(AxXmlFragment::copyOf(*node));
     return variables;
+}
+
+/// What an element says besides what becomes of it, kept by the record that is made.
+void addRest(AxEnvObjectPtr const& rest, AxEnvObject& record)
+{
+    if (rest)
+    {
+        record.add(textNode(AxTreeCells::xmlItem(AxXmlFragment::ofNode(*rest)), *rest));
+    }
 }
 
 /// Items that were not understood stand behind their neighbours, which are about to move: says which these are.
@@ -143,17 +157,31 @@ AxEnvObjectPtr AxSystemElement::recordOf(AxEnvObjectPtr const& system)
     {
         AxEnvValuePtr const value = record->setAttribute(theDefinition, AxElement::attribute(name, "value"));
         value->setPlace(name->line(), name->column());
+        addRest(AxXmlFragment::restOf(*name, nullptr, true), *record);
     }
     for (AxEnvObject::Attribute const& attribute : system->attributes())
     {
         AxEnvValuePtr const copy = record->setAttribute(attribute.name, attribute.value->value());
         copy->setPlace(attribute.value->line(), attribute.value->column());
     }
+    // What the definition declares is read after it.
+    auto const isDefinition = [](AxEnvObjectPtr const& child) { return child && child->name() == theDefinition; };
+    for (AxEnvValuePtr const& node : system->children())
+    {
+        if (isDefinition(node->castToObject()))
+        {
+            record->add(AxXmlFragment::copyOf(*node));
+        }
+    }
     addVariableItems(system, *record, inOwnElement);
+    if (AxEnvObjectPtr const variables = AxElement::first(system, theVariablesTag))
+    {
+        addRest(restOfVariables(*variables, true), *record);
+    }
     for (AxEnvValuePtr const& node : system->children())
     {
         AxEnvObjectPtr const child = node->castToObject();
-        if (!child || (!(child->type() == theNameTag) && !(child->type() == theVariablesTag)))
+        if (!child || (!(child->type() == theNameTag) && !(child->type() == theVariablesTag) && !isDefinition(child)))
         {
             record->add(AxXmlFragment::copyOf(*node));
         }
@@ -188,13 +216,10 @@ void AxSystemElement::fromRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr con
     }
     while (AxEnvObjectPtr const kept = AxElement::first(record, theVariablesTag))
     {
-        while (kept->count() != 0)
-        {
-            variables->add(kept->children().front());
-        }
+        AxXmlFragment::addRest(*variables, *kept);
         record->remove(kept);
     }
-    if (variables->count() != 0)
+    if (variables->count() != 0 || !variables->attributes().empty())
     {
         record->insert(0, variables);
     }
@@ -202,6 +227,11 @@ void AxSystemElement::fromRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr con
     {
         auto const name = boost::make_shared<AxEnvObject>(theNameTag, theNameTag);
         name->setAttribute("value", *file);
+        if (AxEnvObjectPtr const rest = AxElement::first(record, theNameTag))
+        {
+            AxXmlFragment::addRest(*name, *rest);
+            record->remove(rest);
+        }
         record->removeAttribute(theDefinition);
         record->insert(0, name);
     }
@@ -220,6 +250,29 @@ AxEnvObjectPtr AxSystemElement::variableSetOf(AxEnvValuePtr const& element)
     set->setName("variable-bindings");
     addVariableItems(element, *set, [](AxEnvValuePtr const& node) { return node; });
     return set;
+}
+
+AxEnvObjectPtr AxSystemElement::restOfVariables(AxEnvObject const& variables, bool reports)
+{
+    auto const rest = newObject(theVariablesTag, variables);
+    rest->setName("variable-bindings");
+    for (AxEnvObject::Attribute const& attribute : variables.attributes())
+    {
+        reports ? AxXmlFragment::reportUnknown(variables, attribute) : void();
+        rest->setAttribute(attribute.name, attribute.value->value());
+    }
+    for (AxEnvValuePtr const& node : variables.children())
+    {
+        AxEnvObjectPtr const child = node->castToObject();
+        // One that cannot be read is kept as a whole.
+        bool const isRead =
+            child && child->type() == theVariable && !child->name().isNull() && !valuesOf(*child, false).empty();
+        if (AxEnvObjectPtr const part = isRead ? AxXmlFragment::restOf(*child, nullptr, reports) : AxEnvObjectPtr())
+        {
+            rest->add(part);
+        }
+    }
+    return rest->attributes().empty() && rest->count() == 0 ? AxEnvObjectPtr() : rest;
 }
 
 void AxSystemElement::addVariable(AxEnvironmentPtr const& env, AxEnvObjectPtr const& variables, AxString const& name,

@@ -20,6 +20,8 @@ void fromRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr const& record,
 
 /// The variables of an element as the record's form of a set; null when it has none.
 AxEnvObjectPtr variableSetOf(AxEnvValuePtr const& element);
+/// What the element of a set of variables and those in it say besides the values; null when that is nothing.
+AxEnvObjectPtr restOfVariables(AxEnvObject const& variables, bool reports);
 /// Adds the variable `(name value...)`.
 void addVariable(AxEnvironmentPtr const& env, AxEnvObjectPtr const& variables, AxString const& name,
                  AxlObj const* values);

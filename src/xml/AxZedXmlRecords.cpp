@@ -166,6 +166,7 @@ AxZedObjectParameters* AxZedXmlUtils::createParameters(AxEnvironmentPtr const& e
         {
             return nullptr;
         }
+        AxObjectElement::reportRests(element);
         AxRwVariableBindings variables;
         readVariableBindings(env, element, variables);
         AxBindingsList known = bindings;

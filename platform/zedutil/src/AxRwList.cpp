@@ -4,6 +4,7 @@
 #include "AxReadFrame.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRegistryShape.h"
+#include "AxTreeCells.h"
 #include "AxlObj.h"
 #include "AxlPrint.h"
 
@@ -278,6 +279,10 @@ void AxRwList::readElement(AxlObj const* item, AxReadFrame& frame, AxFilenameLis
     if (isOwn)
     {
         readItem(item, frame, files, bindings);
+    }
+    else if (head->text() == AxTreeCells::theXmlHead)
+    {
+        keepElement(item); // that was told when the tree it comes from was read
     }
     else if (item->tag() == AxlObj::Tag::Pair)
     {

@@ -13,6 +13,7 @@
 #include "AxRwString.h"
 #include "AxRwUnsigned.h"
 #include "AxRwVector.h"
+#include "AxTreeCells.h"
 #include "AxXmlReader.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
@@ -267,7 +268,7 @@ std::string_view AxTextReader::peekHead()
     }
     char const* const head = pastBlanks(myAt + 1);
     std::string_view const word(head, static_cast<std::size_t>(endOfWord(head) - head));
-    return isPlainName(word) ? word : std::string_view();
+    return isPlainName(word) && word != AxTreeCells::theXmlHead ? word : std::string_view();
 }
 
 std::string_view AxTextReader::peekType(std::string_view wanted)

@@ -91,11 +91,6 @@ void appendParsed(Cells& items, std::string_view text, Place place)
     }
 }
 
-bool isBlank(std::string_view text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
-}
-
 std::string_view trimmed(std::string_view text)
 {
     std::size_t const first = text.find_first_not_of(" \t\r\n");
@@ -117,7 +112,8 @@ bool isProperty(AxEnvObject const& object, AxReaderWriter const* guide)
 bool isNullType(AxEnvObject const& object)
 {
     AxString const* const value = object.attribute("value");
-    return (object.type() == "objectType" || object.type() == "entityType") && value && isBlank(value->string());
+    return (object.type() == "objectType" || object.type() == "entityType") && value &&
+           AxTreeCells::isBlank(value->string());
 }
 
 std::unique_ptr<AxReaderWriter> modelFor(AxEnvObject const& object)
@@ -191,10 +187,20 @@ void appendValue(Cells& items, AxEnvObject const& object)
     }
 }
 
+/// Whether attributes that no member takes are items; those of lists and values are not.
+bool hasItemAttributes(AxEnvObject const& object, AxReaderWriter const* guide)
+{
+    std::string const& tag = object.type().string();
+    return guide ? !guide->isValue()
+                 : tag != AxTreeCells::theAnyListTag && tag != AxTreeCells::theAttributesTag &&
+                       tag != AxTreeCells::theObjectTypesTag && tag != "objectType" && tag != "entityType";
+}
+
 Cells itemsOf(AxEnvObject const& object, AxReaderWriter const* guide)
 {
     using namespace AxTreeCells;
     ItemList list;
+    guide = inlined(object, const_cast<AxReaderWriter*>(guide));
     std::unique_ptr<AxReaderWriter> model;
     if (isProperty(object, guide))
     {
@@ -216,6 +222,8 @@ Cells itemsOf(AxEnvObject const& object, AxReaderWriter const* guide)
         }
     }
     list.endLeading();
+    bool const takesAttributes = hasItemAttributes(object, guide);
+    bool const isList = dynamic_cast<AxRwList const*>(guide) != nullptr;
     // What a data hook takes comes before the members.
     for (bool const isLeading : {true, false})
     {
@@ -223,7 +231,8 @@ Cells itemsOf(AxEnvObject const& object, AxReaderWriter const* guide)
         {
             AxReaderWriter const* const member = memberFor(guide, attribute.name);
             bool const leads = !member && (guide || attribute.name.string().ends_with("-type"));
-            if (leads == isLeading && !isOfForm(object, attribute.name, guide) && !(guide && guide->isValue()))
+            if (takesAttributes && leads == isLeading && (member || !isList) &&
+                !isOfForm(object, attribute.name, guide))
             {
                 list.add(attributeItem(object, attribute, member));
             }
@@ -334,7 +343,8 @@ bool AxTreeCells::isOfForm(AxEnvObject const& object, AxString const& attribute,
     std::string const& text = object.attribute(attribute)->string();
     if (attribute == "type")
     {
-        return object.type() == theAnyTag || isProperty(object, guide) || object.type() == "property";
+        return object.type() == theAnyTag || isProperty(object, guide) || object.type() == "property" ||
+               object.type() == "variable";
     }
     if (memberFor(guide, attribute))
     {
@@ -382,6 +392,34 @@ AxSymbolString AxTreeCells::elementHead(AxString const& tag, AxString const* nam
     return isByType ? AxSymbolString(*type) : name ? AxSymbolString(*name) : AxSymbolString();
 }
 
+bool AxTreeCells::isPartOfValue(std::string_view parent, std::string_view tag)
+{
+    return (parent == theAttributesTag && tag == "attribute") || (parent == theObjectTypesTag && tag == "objectType");
+}
+
+bool AxTreeCells::isElement(AxReaderWriter const& list, std::string_view tag, bool isNamed)
+{
+    std::string_view const plural = list.xmlType();
+    if (tag == theAnyTag || plural == theAnyListTag || !plural.ends_with('s'))
+    {
+        return isNamed || tag == theAnyTag || plural != theAnyListTag;
+    }
+    return plural == "properties" ? tag == "property" : tag == plural.substr(0, plural.size() - 1);
+}
+
+AxReaderWriter* AxTreeCells::inlined(AxEnvObject const& object, AxReaderWriter* guide)
+{
+    auto const* const file = dynamic_cast<AxReaderWriterFile const*>(guide);
+    bool const isNamed = !file || object.type() == file->xmlType() || object.attribute("value") ||
+                         object.attribute("variable") || object.type() == theTextTag;
+    return isNamed || !file->content() ? guide : file->content();
+}
+
+bool AxTreeCells::isBlank(std::string_view text)
+{
+    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 bool AxTreeCells::hasItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide)
 {
     AxEnvObject const* const object = child.isObject() ? static_cast<AxEnvObject const*>(&child) : nullptr;
@@ -389,12 +427,12 @@ bool AxTreeCells::hasItem(AxEnvValue const& child, AxEnvObject const& parent, Ax
     {
         return false;
     }
-    if (object->type() == theTextTag)
+    std::string const& tag = object->type().string();
+    if (tag == theTextTag)
     {
         return !textItem(*object).nil();
     }
-    if ((parent.type() == theAttributesTag && object->type() == "attribute") ||
-        (parent.type() == theObjectTypesTag && object->type() == "objectType"))
+    if (isPartOfValue(parent.type().string(), tag))
     {
         return true;
     }
@@ -402,44 +440,47 @@ bool AxTreeCells::hasItem(AxEnvValue const& child, AxEnvObject const& parent, Ax
     {
         return !isNullType(*object);
     }
-    bool const isNamed = !guide || dynamic_cast<AxRwList const*>(guide) || !object->name().isNull();
-    return isNamed && !(guide && guide->isValue());
+    if (dynamic_cast<AxRwList const*>(guide))
+    {
+        return isElement(*guide, tag, object->hasName());
+    }
+    if (guide || object->hasName())
+    {
+        return !(guide && guide->isValue()) && !object->name().isNull();
+    }
+    return !headFor(*object).isNull() || parent.type() == tag + 's';
 }
 
 AxlObjPtr AxTreeCells::childItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide)
 {
-    AxEnvObject const* const object = child.isObject() ? static_cast<AxEnvObject const*>(&child) : nullptr;
-    if (!object || object->isReserved())
+    if (!hasItem(child, parent, guide))
     {
         return {};
     }
-    if (object->type() == theTextTag)
+    auto const& object = static_cast<AxEnvObject const&>(child);
+    if (object.type() == theTextTag)
     {
-        return textItem(*object);
+        return textItem(object);
     }
-    if (parent.type() == theAttributesTag && object->type() == "attribute")
+    if (isPartOfValue(parent.type().string(), object.type().string()))
     {
-        AxString const* const value = object->attribute("value");
-        return listOf({textCell(object->name().string(), placeOf(child)),
+        if (parent.type() == theObjectTypesTag)
+        {
+            Cells const items = itemsOf(object, nullptr);
+            return items.size() == 1 ? items.front() : listOf(items, placeOf(child));
+        }
+        AxString const* const value = object.attribute("value");
+        return listOf({textCell(object.name().string(), placeOf(child)),
                        attributeCell(value ? std::string_view(value->string()) : std::string_view(), child, nullptr)},
                       placeOf(child));
     }
-    if (parent.type() == theObjectTypesTag && object->type() == "objectType")
+    if (AxReaderWriter const* const member = memberFor(guide, object))
     {
-        Cells const items = itemsOf(*object, nullptr);
-        return items.size() == 1 ? items.front() : listOf(items, placeOf(child));
-    }
-    if (AxReaderWriter const* const member = memberFor(guide, *object))
-    {
-        AxSymbolString const keyword(object->hasName() ? object->name() : object->type());
-        return isNullType(*object)
-                   ? AxlObjPtr()
-                   : itemWith(nameCell(keyword, placeOf(child)), itemsOf(*object, member), placeOf(child));
+        AxSymbolString const keyword(object.hasName() ? object.name() : object.type());
+        return itemWith(nameCell(keyword, placeOf(child)), itemsOf(object, member), placeOf(child));
     }
     bool const isList = !guide || dynamic_cast<AxRwList const*>(guide);
-    AxSymbolString const head = isList ? headFor(*object) : AxSymbolString(object->name());
-    bool const isNameless = !isList && head.isNull();
-    return isNameless || (guide && guide->isValue()) ? AxlObjPtr() : expression(*object, head, modelFor(*object).get());
+    return expression(object, isList ? headFor(object) : AxSymbolString(object.name()), modelFor(object).get());
 }
 
 AxlObjPtr AxTreeCells::expression(AxEnvObject const& object, AxSymbolString name, AxReaderWriter const* guide)

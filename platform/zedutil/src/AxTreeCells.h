@@ -24,7 +24,7 @@ AxlObjPtr attributeItem(AxEnvObject const& object, AxEnvObject::Attribute const&
                         AxReaderWriter const* member);
 AxlObjPtr attributeItem(AxSymbolString name, std::string_view text, AxlCellPool::Place place,
                         AxReaderWriter const* member);
-/// The item of a child of `parent`; nil for one that has none: text, comments, nameless unknown elements.
+/// The item of a child of `parent`; nil for one that has none: text, comments, unknown elements that no word names.
 AxlObjPtr childItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide);
 /// Whether that child has an item, which is told without making it.
 bool hasItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide);
@@ -33,6 +33,14 @@ AxReaderWriter* memberFor(AxReaderWriter const* record, AxString const& keyword)
 AxReaderWriter* memberFor(AxReaderWriter const* record, AxEnvObject const& child);
 /// Whether the attribute belongs to the form of the element rather than to what it holds.
 bool isOfForm(AxEnvObject const& object, AxString const& attribute, AxReaderWriter const* guide);
+/// Whether children with that tag are the parts that the value of an element with the tag `parent` consists of.
+bool isPartOfValue(std::string_view parent, std::string_view tag);
+/// Whether children with that tag may be elements of the list. `isNamed`: they have a name or a type.
+bool isElement(AxReaderWriter const& list, std::string_view tag, bool isNamed);
+/// What the element stands for: the content of a member that names a file, if it is given in place; else `guide`.
+AxReaderWriter* inlined(AxEnvObject const& object, AxReaderWriter* guide);
+/// Whether a text is but the space between elements.
+bool isBlank(std::string_view text);
 
 /// An attribute's text as the cell of a value.
 AxlObjPtr attributeCell(std::string_view text, AxEnvValue const& place, AxReaderWriter const* member);
@@ -60,4 +68,14 @@ std::string ofNode(AxEnvValue const& node);
 std::string ofAttribute(AxEnvObject::Attribute const& attribute);
 /// Adds what the text says to `node`; false, and a report, when it is no XML.
 bool addTo(AxString const& text, AxEnvObject& node);
+/// Tells of what nobody knows; of comments and instructions nothing.
+void reportUnknown(AxEnvObject const& object, AxEnvObject::Attribute const& attribute);
+void reportUnknown(AxEnvValue const& node);
+/// An element that holds what the text says; null, and a report, when it is no XML.
+AxEnvObjectPtr parsed(AxString const& text);
+/// What the element of a value says besides it: the element without the value. Null when that is nothing. What is told
+/// of it is told if `reports`.
+AxEnvObjectPtr restOf(AxEnvObject const& object, AxReaderWriter const* value, bool reports);
+/// Gives `element` what the rest of it says. The rest of a part that is gone goes with it.
+void addRest(AxEnvObject& element, AxEnvObject const& rest);
 } // namespace AxXmlFragment

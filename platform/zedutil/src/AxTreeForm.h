@@ -60,12 +60,18 @@ private:
         AxlObjPtr cell;
         AxReaderWriter* member = nullptr;
         AxSymbolString after{}; ///< the member that a kept item stands behind
+        AxEnvObjectPtr rest{};  ///< of the element of a value, which a kept item holds
     };
     static std::vector<Item> sortedItems(AxReaderWriter const& rw);
     static void writeMembers(AxReaderWriter const& rw, AxEnvironmentPtr const& env, AxEnvValuePtr const& node);
     static void writeContent(AxReaderWriter const& rw, AxEnvironmentPtr const& env, AxEnvValuePtr const& node);
-    static void writeElement(AxRwList const& list, AxReaderWriter const& element, AxSymbolString head,
-                             AxEnvironmentPtr const& env, AxEnvValuePtr const& node);
+    static void writeElement(AxReaderWriter const& rw, AxString const& head, AxEnvironmentPtr const& env,
+                             AxEnvValuePtr const& parent);
+    /// Answers what was written, if it is a value.
+    static AxEnvObjectPtr writeElement(AxRwList const& list, AxReaderWriter const& element, AxSymbolString head,
+                                       AxEnvironmentPtr const& env, AxEnvValuePtr const& node);
+    /// The content that a member which names files has in place of a name; null when it has none.
+    static AxReaderWriter const* inlineContent(AxReaderWriter const& rw, AxlObj const* written);
     static void writeValue(AxReaderWriter const& rw, AxlObj const* items, AxEnvironmentPtr const& env,
                            AxEnvValuePtr const& node);
     static void writeProperty(AxReaderWriter const& rw, AxEnvironmentPtr const& env, AxEnvValuePtr const& node);
@@ -78,6 +84,12 @@ private:
                              AxFilenameList const& files, AxBindingsList const& bindings);
     static void finishList(AxRwList& list, AxEnvironmentPtr const& env, AxEnvObjectPtr const& node,
                            AxFilenameList const& files, AxBindingsList const& bindings);
+    static void finishMember(AxReaderWriter& record, AxReaderWriter& member, AxEnvironmentPtr const& env,
+                             AxEnvObjectPtr const& node, AxFilenameList const& files, AxBindingsList const& bindings);
+    /// False when the element was none of the list's.
+    static bool finishElement(AxRwList& list, AxListItem* item, int position, AxEnvironmentPtr const& env,
+                              AxEnvObjectPtr const& node, AxFilenameList const& files, AxBindingsList const& bindings);
+    static void keepInList(AxRwList& list, std::string const& xml, int position);
     static void keepXml(AxReaderWriter& record, std::string const& text, std::string const& xml, AxSymbolString after);
 
     static void reportFailure(char const* code, AxEnvValue const* place, std::string const& text);

@@ -1,5 +1,6 @@
 #include "AxDiagnostic.h"
 #include "AxRegistryShape.h"
+#include "AxRwProperty.h"
 #include "AxTreeCells.h"
 #include "AxTreeForm.h"
 #include "AxXmlReader.h"
@@ -68,6 +69,10 @@ void AxTreeForm::read(AxReaderWriter& rw, AxEnvironmentPtr const& env, AxEnvValu
     if (!reader.readObject(rw, files, bindings))
     {
         rw.getSelf(AxTreeCells::expression(*object, AxSymbolString(object->name()), &rw), files, bindings);
+        if (rw.flag(AxReaderWriter::Value))
+        {
+            AxXmlFragment::restOf(*object, &rw, true); // nobody holds it
+        }
         finish(rw, env, object, files, bindings);
     }
     else if (reader.isOdd() || (rw.flag(AxReaderWriter::List) && !reader.oddChildren().empty()))
@@ -81,7 +86,7 @@ void AxTreeForm::read(AxReaderWriter& rw, AxEnvironmentPtr const& env, AxEnvValu
             AxEnvObjectPtr const child = object->children()[position]->castToObject();
             if (AxReaderWriter* const member = AxTreeCells::memberFor(&rw, *child))
             {
-                finish(*member, env, child, files, bindings);
+                finishMember(rw, *member, env, child, files, bindings);
             }
         }
     }
@@ -106,17 +111,54 @@ bool AxTreeForm::readReference(AxReaderWriter& rw, AxEnvValuePtr const& node)
 void AxTreeForm::finish(AxReaderWriter& rw, AxEnvironmentPtr const& env, AxEnvObjectPtr const& node,
                         AxFilenameList const& files, AxBindingsList const& bindings)
 {
-    if (rw.flag(AxReaderWriter::Value) || rw.property())
+    if (AxReaderWriter* const content = AxTreeCells::inlined(*node, &rw); content != &rw)
     {
-        return;
+        finish(*content, env, node, files, bindings);
     }
-    if (rw.flag(AxReaderWriter::List))
+    else if (AxRwProperty* const property = rw.property())
+    {
+        if (property->rwValue())
+        {
+            finish(*property->rwValue(), env, node, files, bindings);
+        }
+    }
+    else if (rw.flag(AxReaderWriter::List))
     {
         finishList(static_cast<AxRwList&>(rw), env, node, files, bindings);
+    }
+    else if (!rw.flag(AxReaderWriter::Value))
+    {
+        rw.getData(env, node, files, bindings);
+        finishRecord(rw, env, node, files, bindings);
+    }
+}
+
+void AxTreeForm::finishMember(AxReaderWriter& record, AxReaderWriter& member, AxEnvironmentPtr const& env,
+                              AxEnvObjectPtr const& node, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    if (!member.flag(AxReaderWriter::Value) || AxTreeCells::inlined(*node, &member) != &member)
+    {
+        finish(member, env, node, files, bindings);
         return;
     }
-    rw.getData(env, node, files, bindings);
-    finishRecord(rw, env, node, files, bindings);
+    AxSymbolString const keyword = member.AxReaderWriter::name();
+    std::vector<AxKeptItem> none;
+    auto& kept = record.flag(AxReaderWriter::KeepsItems) ? record.rare().kept : none;
+    auto const refused = std::find_if(kept.begin(), kept.end(),
+                                      [&](AxKeptItem const& item)
+                                      {
+                                          return item.replaces && item.after == keyword && record.standsFor(item) &&
+                                                 !item.text.starts_with(std::string("(") + AxTreeCells::theXmlHead);
+                                      });
+    AxEnvObjectPtr const rest = AxXmlFragment::restOf(*node, &member, refused == kept.end());
+    if (rest && refused != kept.end())
+    {
+        refused->text = AxTreeCells::xmlItem(AxXmlFragment::ofNode(*node));
+    }
+    else if (rest)
+    {
+        record.keepItem(keyword, AxTreeCells::xmlItem(AxXmlFragment::ofNode(*rest)));
+    }
 }
 
 void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, AxEnvObjectPtr const& node,
@@ -144,7 +186,7 @@ void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, A
             last = member->name();
             if (!isText)
             {
-                finish(*member, env, object, files, bindings);
+                finishMember(rw, *member, env, object, files, bindings);
             }
             continue;
         }
@@ -157,13 +199,11 @@ void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, A
             }
             continue;
         }
-        if (!object || !object->isReserved())
+        if (object || !AxTreeCells::isBlank(child->value().string()))
         {
-            AxDiagnostics::report(findingAt(child.get(), AxSeverity::Warning, "unknown-element",
-                                            object ? "unknown element \"" + object->type().string() + '"'
-                                                   : "unexpected text \"" + child->value().string() + '"'));
+            AxXmlFragment::reportUnknown(*child);
+            rw.keepItem(last, AxTreeCells::xmlItem(AxXmlFragment::ofNode(*child)));
         }
-        rw.keepItem(last, AxTreeCells::xmlItem(AxXmlFragment::ofNode(*child)));
     }
 }
 
@@ -187,21 +227,30 @@ void AxTreeForm::finishList(AxRwList& list, AxEnvironmentPtr const& env, AxEnvOb
     {
         kept.push_back(text);
     }
+    for (AxEnvObject::Attribute const& attribute : node->attributes())
+    {
+        if (!AxTreeCells::memberFor(&list, attribute.name) && !AxTreeCells::isOfForm(*node, attribute.name, &list))
+        {
+            AxXmlFragment::reportUnknown(*node, attribute);
+            keepInList(list, AxXmlFragment::ofAttribute(attribute), 0);
+        }
+    }
+    // What nobody knows stands behind the element in front of it.
     std::vector<AxEnvObjectPtr> elements;
+    std::vector<std::pair<AxEnvValuePtr, std::size_t>> unknown;
     for (AxEnvValuePtr const& child : node->children())
     {
         AxEnvObjectPtr const object = child->castToObject();
         if (AxReaderWriter* const member = object ? AxTreeCells::memberFor(&list, *object) : nullptr)
         {
-            finish(*member, env, object, files, bindings);
+            finishMember(list, *member, env, object, files, bindings);
             continue;
         }
         if (!AxTreeCells::hasItem(*child, *node, &list))
         {
-            if (!object)
+            if (object || !AxTreeCells::isBlank(child->value().string()))
             {
-                AxDiagnostics::report(findingAt(child.get(), AxSeverity::Warning, "unexpected-text",
-                                                "unexpected text \"" + child->value().string() + "\" is dropped"));
+                unknown.emplace_back(child, elements.size());
             }
             continue;
         }
@@ -218,23 +267,69 @@ void AxTreeForm::finishList(AxRwList& list, AxEnvironmentPtr const& env, AxEnvOb
             elements.push_back(object);
         }
     }
-    if (static_cast<std::size_t>(list.count()) != elements.size())
+    // Where each of them is now, and the end.
+    std::vector<int> places(elements.size() + 1, list.count());
+    if (static_cast<std::size_t>(list.count()) == elements.size()) // else the list took some for parts of others
     {
-        return; // the list took some of them for parts of others
+        AxListItem* item = list.first();
+        int place = 0;
+        for (std::size_t i = 0; i < elements.size(); ++i)
+        {
+            AxListItem* const next = item->next();
+            places[i] = place;
+            place += finishElement(list, item, place, env, elements[i], files, bindings) ? 1 : 0;
+            item = next;
+        }
+        places.back() = place;
     }
-    AxListItem* item = list.first();
-    for (AxEnvObjectPtr const& object : elements)
+    for (auto const& [child, position] : unknown)
     {
-        AxReaderWriter* const element = AxRwList::element(item);
-        bool const isNamedByType = object->type() == AxTreeCells::theAnyTag && object->attribute("type");
-        if (isNamedByType && object->hasName() && !(element->name() == object->name()))
-        {
-            element->setName(object->name());
-        }
-        if (object->type() != AxString(AxTreeCells::theTextTag))
-        {
-            finish(*element, env, object, files, bindings);
-        }
-        item = item->next();
+        AxXmlFragment::reportUnknown(*child);
+        keepInList(list, AxXmlFragment::ofNode(*child), places[position]);
     }
+}
+
+bool AxTreeForm::finishElement(AxRwList& list, AxListItem* item, int position, AxEnvironmentPtr const& env,
+                               AxEnvObjectPtr const& node, AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    AxReaderWriter* const element = AxRwList::element(item);
+    AxString const& tag = node->type();
+    if (tag == AxTreeCells::theTextTag)
+    {
+        return true;
+    }
+    if (!(tag == AxTreeCells::theAnyTag) && !(tag == element->xmlType()) &&
+        !(AxTreeCells::theAnyListTag == AxString(list.xmlType())))
+    {
+        AxXmlFragment::reportUnknown(*node);
+        keepInList(list, AxXmlFragment::ofNode(*node), position);
+        list.AxRwList::remove(element, item);
+        delete element;
+        return false;
+    }
+    if (node->type() == AxTreeCells::theAnyTag && node->attribute("type") && node->hasName() &&
+        !(element->name() == node->name()))
+    {
+        element->setName(node->name());
+    }
+    AxReaderWriter const* const value = element->property() ? element->property()->rwValue() : element;
+    if (value && value->isValue())
+    {
+        if (AxEnvObjectPtr const rest = AxXmlFragment::restOf(*node, element, true))
+        {
+            keepInList(list, AxXmlFragment::ofNode(*rest), position + 1);
+        }
+        return true;
+    }
+    finish(*element, env, node, files, bindings);
+    return true;
+}
+
+void AxTreeForm::keepInList(AxRwList& list, std::string const& xml, int position)
+{
+    AxKeptItem item;
+    item.text = AxTreeCells::xmlItem(xml);
+    item.element = position;
+    list.rare().kept.push_back(std::move(item));
+    list.setFlag(AxReaderWriter::KeepsItems, true);
 }

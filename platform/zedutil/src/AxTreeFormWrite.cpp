@@ -1,5 +1,6 @@
 #include "AxNLengthRealVector.h"
 #include "AxReaderWriterFactory.h"
+#include "AxReaderWriterFile.h"
 #include "AxRegistryShape.h"
 #include "AxRwAttributeList.h"
 #include "AxRwElement.h"
@@ -92,15 +93,45 @@ void writeAsText(AxlObj const* item, AxSymbolString const* after, AxEnvironmentP
     env->addValue(AxString(AxTreeCells::printed(item)), child);
 }
 
-void writeKept(AxlObj const* item, AxSymbolString const* after, AxEnvironmentPtr const& env, AxEnvValuePtr const& node)
+/// The XML that an item holds; null when it holds none.
+AxlObj const* xmlIn(AxlObj const* item)
 {
     AxlObj const* const xml = item->cdr()->car();
-    AxEnvObjectPtr const object = node->castToObject();
     bool const isXml = item->car()->text() == AxTreeCells::theXmlHead && xml->isString() && item->cdr()->cdr()->nil();
-    if (!isXml || !object || !AxXmlFragment::addTo(AxString(xml->text()), *object))
+    return isXml ? xml : nullptr;
+}
+
+void writeKept(AxlObj const* item, AxSymbolString const* after, AxEnvironmentPtr const& env, AxEnvValuePtr const& node)
+{
+    AxlObj const* const xml = xmlIn(item);
+    AxEnvObjectPtr const object = node->castToObject();
+    if (!xml || !object || !AxXmlFragment::addTo(AxString(xml->text()), *object))
     {
         writeAsText(item, after, env, node);
     }
+}
+
+/// The only element in the XML that an item holds, which may be the rest of one that is written; else null.
+AxEnvObjectPtr restIn(AxlObj const* item)
+{
+    AxlObj const* const xml = xmlIn(item);
+    AxEnvObjectPtr const root =
+        xml && xml->text().starts_with('<') ? AxXmlFragment::parsed(AxString(xml->text())) : AxEnvObjectPtr();
+    return root && root->count() == 1 ? root->children().front()->castToObject() : AxEnvObjectPtr();
+}
+
+/// The element of that name among the children.
+AxEnvObjectPtr elementNamed(AxString const& name, AxEnvObject const& node)
+{
+    for (AxEnvValuePtr const& child : node.children())
+    {
+        AxEnvObjectPtr const object = child->castToObject();
+        if (object && object->hasName() && object->name() == name && !(object->type() == AxTreeCells::theTextTag))
+        {
+            return object;
+        }
+    }
+    return {};
 }
 
 void writeHookItem(AxlObj const* item, AxEnvironmentPtr const& env, AxEnvValuePtr const& node)
@@ -188,10 +219,24 @@ std::vector<AxTreeForm::Item> AxTreeForm::sortedItems(AxReaderWriter const& rw)
     return items;
 }
 
+AxReaderWriter const* AxTreeForm::inlineContent(AxReaderWriter const& rw, AxlObj const* written)
+{
+    auto const* const file = dynamic_cast<AxReaderWriterFile const*>(&rw);
+    AxlObj const* const items = written->cdr();
+    bool const isInPlace = file && !rw.flag(AxReaderWriter::VariableReference) && file->filename().isNull() &&
+                           (items->nil() || items->car()->isPair());
+    return isInPlace ? file->content() : nullptr;
+}
+
 void AxTreeForm::write(AxReaderWriter const& rw, AxEnvironmentPtr const& env, AxEnvValuePtr const& parent)
 {
     AxlObjPtr const text = AxTreeCells::parsed(rw.writtenText());
     AxlObj const* const written = text->car();
+    if (AxReaderWriter const* const content = inlineContent(rw, written))
+    {
+        writeContent(*content, env, env->addObject(rw.name().string(), AxString(content->xmlType()), parent));
+        return;
+    }
     if (rw.flag(AxReaderWriter::Scalar) && parent && parent->isObject())
     {
         if (rw.flag(AxReaderWriter::VariableReference))
@@ -212,7 +257,12 @@ void AxTreeForm::write(AxReaderWriter const& rw, AxEnvironmentPtr const& env, Ax
             return;
         }
     }
-    AxString const head(written->car()->text());
+    writeElement(rw, AxString(written->car()->text()), env, parent);
+}
+
+void AxTreeForm::writeElement(AxReaderWriter const& rw, AxString const& head, AxEnvironmentPtr const& env,
+                              AxEnvValuePtr const& parent)
+{
     AxString const tag(rw.xmlType());
     AxEnvObjectPtr const node = head.isNull() ? env->addUnnamedObject(tag, parent) : env->addObject(head, tag, parent);
     if (node)
@@ -253,7 +303,19 @@ void AxTreeForm::writeMembers(AxReaderWriter const& rw, AxEnvironmentPtr const& 
     {
         return;
     }
-    std::vector<Item> const items = sortedItems(rw);
+    std::vector<Item> items = sortedItems(rw);
+    for (Item& item : items)
+    {
+        AxEnvObjectPtr const rest = item.kind == Item::Kind::Kept ? restIn(item.cell.get()) : AxEnvObjectPtr();
+        AxReaderWriter const* const value = rest ? AxTreeCells::memberFor(&rw, *rest) : nullptr;
+        item.rest = value && value->isValue() ? rest : AxEnvObjectPtr();
+    }
+    auto const hasRest = [&items](AxReaderWriter const& member)
+    {
+        return std::any_of(items.begin(), items.end(),
+                           [&](Item const& item)
+                           { return item.rest && item.rest->name() == member.AxReaderWriter::name().string(); });
+    };
     // Attributes are read before all children, whatever the order of the text.
     AxSymbolString lastAttribute;
     AxSymbolString lastChild;
@@ -261,7 +323,14 @@ void AxTreeForm::writeMembers(AxReaderWriter const& rw, AxEnvironmentPtr const& 
     {
         if (item.kind == Item::Kind::Member && item.member->flag(AxReaderWriter::Scalar))
         {
-            item.member->putSelf(env, node);
+            if (hasRest(*item.member) && item.member->isDue())
+            {
+                writeElement(*item.member, AxString(item.cell->car()->text()), env, node);
+            }
+            else
+            {
+                item.member->putSelf(env, node);
+            }
             bool const isAttribute = env->getAttribute(item.member->name().string(), node) != nullptr;
             (isAttribute ? lastAttribute : lastChild) = item.member->name();
         }
@@ -279,6 +348,12 @@ void AxTreeForm::writeMembers(AxReaderWriter const& rw, AxEnvironmentPtr const& 
         }
         else if (item.kind == Item::Kind::Kept && !rw.flag(AxReaderWriter::List))
         {
+            AxEnvObjectPtr const object = item.rest ? node->castToObject() : AxEnvObjectPtr();
+            if (AxEnvObjectPtr const value = object ? elementNamed(item.rest->name(), *object) : AxEnvObjectPtr())
+            {
+                AxXmlFragment::addRest(*value, *item.rest);
+                continue;
+            }
             writeKept(item.cell.get(), item.member || item.after == place ? nullptr : &item.after, env, node);
             place = item.member ? item.member->name() : place;
         }
@@ -378,8 +453,16 @@ void AxTreeForm::writeReference(AxReaderWriter const& rw, AxEnvironmentPtr const
 
 void AxTreeForm::writeElements(AxRwList const& list, AxEnvironmentPtr const& env, AxEnvValuePtr const& node)
 {
+    AxEnvObjectPtr value; // what was written last, if it is one
     for (Item const& item : sortedItems(list))
     {
+        AxEnvObjectPtr const rest = value && item.kind == Item::Kind::Kept ? restIn(item.cell.get()) : AxEnvObjectPtr();
+        if (rest && rest->type() == value->type() && rest->name() == value->name())
+        {
+            AxXmlFragment::addRest(*value, *rest);
+            continue;
+        }
+        value.reset();
         switch (item.kind)
         {
         case Item::Kind::Bare:
@@ -389,7 +472,7 @@ void AxTreeForm::writeElements(AxRwList const& list, AxEnvironmentPtr const& env
             writeHookItem(item.cell.get(), env, node);
             break;
         case Item::Kind::Element:
-            writeElement(list, *item.member, AxSymbolString(item.cell->car()->text()), env, node);
+            value = writeElement(list, *item.member, AxSymbolString(item.cell->car()->text()), env, node);
             break;
         case Item::Kind::Kept:
             writeKept(item.cell.get(), nullptr, env, node);
@@ -400,8 +483,8 @@ void AxTreeForm::writeElements(AxRwList const& list, AxEnvironmentPtr const& env
     }
 }
 
-void AxTreeForm::writeElement(AxRwList const& list, AxReaderWriter const& element, AxSymbolString head,
-                              AxEnvironmentPtr const& env, AxEnvValuePtr const& node)
+AxEnvObjectPtr AxTreeForm::writeElement(AxRwList const& list, AxReaderWriter const& element, AxSymbolString head,
+                                        AxEnvironmentPtr const& env, AxEnvValuePtr const& node)
 {
     AxEnvListPtr const elements = node->castToList();
     std::size_t const before = elements ? elements->count() : 0;
@@ -417,11 +500,17 @@ void AxTreeForm::writeElement(AxRwList const& list, AxReaderWriter const& elemen
         element.putSelf(env, node);
     }
     bool const isOfManyTypes = AxString(list.xmlType()) == AxTreeCells::theAnyListTag;
-    if (!isOfManyTypes || !elements || elements->count() != before + 1)
+    if (!elements || elements->count() != before + 1)
     {
-        return;
+        return {};
     }
     AxEnvObjectPtr const child = elements->children().back()->castToObject();
+    AxReaderWriter const* const value = element.property() ? element.property()->rwValue() : &element;
+    AxEnvObjectPtr const written = value && value->isValue() ? child : AxEnvObjectPtr();
+    if (!isOfManyTypes)
+    {
+        return written;
+    }
     bool const isType = AxReaderWriter::factory()->knowsType(head.string());
     child->setType(AxTreeCells::theAnyTag);
     child->setAttribute("type", isType ? head.string() : AxString(element.readerWriterType()));
@@ -429,4 +518,5 @@ void AxTreeForm::writeElement(AxRwList const& list, AxReaderWriter const& elemen
     {
         child->clearName();
     }
+    return written;
 }

@@ -40,6 +40,16 @@ std::size_t placeOf(AxRegistryTable const& table, std::string_view keyword)
     return symbol.isNull() ? AxRegistryTable::none : table.find(symbol);
 }
 
+/// Whether the attribute belongs to the form of elements, as far as that is told without what reads them.
+bool isForm(Document const& document, std::uint32_t node, Document::Attribute const& attribute)
+{
+    std::string_view const keyword = document.name(attribute);
+    std::string_view const tag = document.tag(node);
+    return keyword == theName || keyword == theValue ||
+           (keyword == theVariable && document.rawValue(attribute).starts_with('$')) ||
+           (keyword == theType && (tag == AxTreeCells::theAnyTag || tag == "property"));
+}
+
 AxlCellPool::Place cellPlace(Document::Place place)
 {
     return {place.line, place.column};
@@ -140,6 +150,11 @@ bool AxXmlReader::readObject(AxReaderWriter& rw, AxFilenameList const& files, Ax
 void AxXmlReader::readListElement(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings)
 {
     Element const& element = *myElement;
+    std::string_view const tag = myDocument->tag(element.node);
+    if (tag != AxTreeCells::theAnyTag && tag != rw.xmlType())
+    {
+        noteOdd(element);
+    }
     if (!readElement(rw, element, files, bindings))
     {
         rw.getSelf(elementCells(), files, bindings);
@@ -214,7 +229,16 @@ bool AxXmlReader::isOdd(AxReaderWriter const& rw, std::uint32_t node) const
     Document const& document = *myDocument;
     if (rw.isValue() || rw.property())
     {
-        return false;
+        return hasRest(node);
+    }
+    bool const isList = rw.flag(AxReaderWriter::List);
+    if (isList && std::any_of(document.attributesBegin(node), document.attributesEnd(node),
+                              [&](Attribute const& one) {
+                                  return !isForm(document, node, one) &&
+                                         !AxTreeCells::memberFor(&rw, AxString(document.name(one)));
+                              }))
+    {
+        return true;
     }
     if (rw.flag(AxReaderWriter::KeepsItems) || AxReaderWriterFactory::typeInfo(rw).readsTrees)
     {
@@ -224,7 +248,7 @@ bool AxXmlReader::isOdd(AxReaderWriter const& rw, std::uint32_t node) const
     for (std::uint32_t child = node + 1; child < next; child = document.node(child).next)
     {
         Attribute const* const name = document.node(child).kind == Kind::Element ? document.nameOf(child) : nullptr;
-        if (!name || name->isCoded || name->valueSize == 0 || rw.flag(AxReaderWriter::List))
+        if (!name || name->isCoded || name->valueSize == 0 || isList)
         {
             return true;
         }
@@ -235,6 +259,28 @@ bool AxXmlReader::isOdd(AxReaderWriter const& rw, std::uint32_t node) const
         }
     }
     return false;
+}
+
+/// Whether an element may say more than a value.
+bool AxXmlReader::hasRest(std::uint32_t node) const
+{
+    Document const& document = *myDocument;
+    auto const isPlain = [&document](std::uint32_t one)
+    {
+        return std::all_of(document.attributesBegin(one), document.attributesEnd(one),
+                           [&](Attribute const& attribute) { return isForm(document, one, attribute); });
+    };
+    std::uint32_t const next = document.node(node).next;
+    for (std::uint32_t child = node + 1; child < next; child = document.node(child).next)
+    {
+        bool const isPart = document.node(child).kind == Kind::Element &&
+                            AxTreeCells::isPartOfValue(document.tag(node), document.tag(child));
+        if (!isPart || document.node(child).next != child + 1 || !isPlain(child))
+        {
+            return true;
+        }
+    }
+    return !isPlain(node);
 }
 
 void AxXmlReader::noteOdd(Element const& element)
@@ -397,6 +443,7 @@ void AxXmlReader::readElements(AxRwList& list, Element const& element, AxFilenam
 {
     Document const& document = *myDocument;
     AxTypeOps const& ops = *AxReaderWriterFactory::typeInfo(list).ops;
+    AxReaderWriter const& guide = element.guide ? *element.guide : list;
     list.removeAndDeleteAll();
     AxReadFrame frame(list);
     std::uint32_t const next = document.node(element.node).next;
@@ -407,7 +454,8 @@ void AxXmlReader::readElements(AxRwList& list, Element const& element, AxFilenam
         {
             continue;
         }
-        if (document.node(node).kind == Kind::Text)
+        if (document.node(node).kind == Kind::Text ||
+            !AxTreeCells::isElement(guide, document.tag(node), document.nameOf(node) != nullptr))
         {
             noteOdd(element);
             continue;

@@ -70,6 +70,7 @@ private:
 
     AxlObjPtr cellOf(Element const& parent, std::uint32_t node) const;
     bool isOdd(AxReaderWriter const& rw, std::uint32_t node) const;
+    bool hasRest(std::uint32_t node) const;
     AxReaderWriter const* modelOf(std::uint32_t node);
     AxString const* attributeText(std::uint32_t node, std::string_view name, AxString& text) const;
     void noteOdd(Element const& element);
