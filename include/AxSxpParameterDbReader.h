@@ -46,6 +46,7 @@ protected:
 private:
     bool loadData(AxFilename const& file, int version, AxSxpParameterDbFileData& data, AxSxpParameterDb& db);
     void addEntityFiles(AxFilename const& dataRoot, AxSxpParameterDbFileData& data);
+    struct Adding;
 
     // The file being loaded, and its directory.
     boost::shared_ptr<AxFilename const> myDatabaseFile;

@@ -80,6 +80,8 @@ public:
         bool exact = false;
     };
     Match entryForLookup(AxObjectType const& type) const;
+    /// Makes room for so many entries that will be added, at once instead of bit by bit.
+    void expectEntries(std::size_t count);
 
 private:
     friend class AxZedParameterDbEntry;

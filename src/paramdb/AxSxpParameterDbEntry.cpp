@@ -287,12 +287,14 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readEntityFile(AxFilename const& f
             searched.push_back(directory);
         }
     }
-    if (!openFile(file, searched))
+    FilePtr open = openFile(file, searched);
+    if (!open)
     {
         return nullptr;
     }
     AxSourceScope const scope(myReading->file);
-    AxEnvironmentPtr const env = AxEntityFiles::tree(myReading->file);
+    AxEnvironmentPtr const env = AxEntityFiles::tree(open.get(), myReading->file);
+    open.reset(); // a record may name many files in turn
     if (!env)
     {
         return nullptr;

@@ -77,6 +77,47 @@ void readData(AxlInputStream& stream, AxSxpParameterDbFileData& data, AxFilename
 }
 } // namespace
 
+/// Adds entries with what those of one file have in common.
+struct AxSxpParameterDbReader::Adding
+{
+    AxSxpParameterDb& db;
+    AxFilename const& basePath;
+    boost::shared_ptr<AxRwVariableBindings> const& variables;
+    boost::shared_ptr<AxFilename const> const& databaseFile;
+    AxFilename const& databaseDirectory;
+    AxSxpParameterDbEntry::OriginPtr origin;
+
+    AxSxpParameterDbEntry* add(AxObjectType const& type, AxFilename const& file, bool typeIsMatchType, unsigned line,
+                               unsigned column)
+    {
+        AxSxpParameterDbEntry* const entry = db.add(type, file, typeIsMatchType, nullptr);
+        if (!entry)
+        {
+            return nullptr;
+        }
+        // A derived entry may look at what it is given; others share it.
+        bool const isPlain = typeid(*entry) == typeid(AxSxpParameterDbEntry);
+        if (isPlain && origin)
+        {
+            entry->setOrigin(origin);
+        }
+        else
+        {
+            entry->setVersion(db.versionNumber());
+            entry->setPath(basePath);
+            entry->setVariableBindings(variables);
+            entry->setSearchPaths(db.searchPaths());
+            entry->setDatabaseDirectory(databaseDirectory);
+        }
+        entry->setPlace(databaseFile, line, column);
+        if (isPlain && !origin)
+        {
+            origin = entry->origin();
+        }
+        return entry;
+    }
+};
+
 AxSxpParameterDbReader::~AxSxpParameterDbReader() = default;
 
 AxSxpParameterDbFileData* AxSxpParameterDbReader::createParameterDbFileData()
@@ -116,6 +157,10 @@ bool AxSxpParameterDbReader::loadData(AxFilename const& file, int version, AxSxp
     AxFilename dataRoot;
     myDatabaseFile = boost::make_shared<AxFilename const>(file);
     myDatabaseDirectory = axDirectoryOf(file);
+    if (typeid(*this) == typeid(AxSxpParameterDbReader)) // a derived one may look at the entries
+    {
+        data.entryList().takePlainEntries();
+    }
     if (!load(file, &data, dataRoot))
     {
         return false;
@@ -256,33 +301,27 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
     auto const shared = boost::make_shared<AxRwVariableBindings>(AxSymbolString("variable-bindings"));
     shared->addAllFrom(data.variableBindings());
     db->addVariableBindings(shared);
-    AxSxpParameterDbEntry::OriginPtr origin;
+    Adding adding{*db, basePath, shared, myDatabaseFile, myDatabaseDirectory, nullptr};
+    std::vector<AxSxpParameterDbFileEntryList::Plain> const& plainEntries = data.entryList().plainEntries();
+    auto plain = plainEntries.begin();
+    db->expectEntries(plainEntries.size() + static_cast<std::size_t>(data.entryList().count()));
+    int count = 0;
+    auto const addPlainUpTo = [&](int numBefore)
+    {
+        for (; plain != plainEntries.end() && plain->numBefore <= numBefore; ++plain)
+        {
+            adding.add(plain->type, AxFilename(plain->filename), false, plain->line, plain->column);
+        }
+    };
     for (AxSxpParameterDbFileEntry* fileEntry : data.entryList())
     {
+        addPlainUpTo(count++);
         AxSxpParameterDbEntry* const entry =
-            db->add(fileEntry->objectType(), fileEntry->filename(), fileEntry->typeIsMatchType(), nullptr);
+            adding.add(fileEntry->objectType(), fileEntry->filename(), fileEntry->typeIsMatchType(), fileEntry->line(),
+                       fileEntry->column());
         if (!entry)
         {
             continue;
-        }
-        // A derived entry may look at what it is given; others share it.
-        bool const isPlain = typeid(*entry) == typeid(AxSxpParameterDbEntry);
-        if (isPlain && origin)
-        {
-            entry->setOrigin(origin);
-        }
-        else
-        {
-            entry->setVersion(db->versionNumber());
-            entry->setPath(basePath);
-            entry->setVariableBindings(shared);
-            entry->setSearchPaths(db->searchPaths());
-            entry->setDatabaseDirectory(myDatabaseDirectory);
-        }
-        entry->setPlace(myDatabaseFile, fileEntry->line(), fileEntry->column());
-        if (isPlain)
-        {
-            origin = entry->origin();
         }
         if (fileEntry->hasMoreThanItsValues())
         {
@@ -290,6 +329,7 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
         }
         entryAddedFor(fileEntry, entry);
     }
+    addPlainUpTo(count);
     db->keepUnreadItems(data);
     AxRemoteConfigurationList const* const read = data.remoteConfigurationList();
     if (read && db->remoteConfigurationList())

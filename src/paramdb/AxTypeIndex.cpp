@@ -41,6 +41,24 @@ bool hasNegativeField(AxObjectType const& type)
     }
     return all < 0;
 }
+/// a < b, two fields at a time.
+inline bool isBelow(AxObjectType const& a, AxObjectType const& b)
+{
+    for (std::size_t i = 0; i < AxObjectType::theNumFields; i += 2)
+    {
+        auto const pair = [i](AxObjectType const& type)
+        {
+            constexpr std::uint32_t lowest = 0x80000000U;
+            auto const ordered = [](std::int32_t field) { return static_cast<std::uint32_t>(field) ^ lowest; };
+            return std::uint64_t{ordered(type.fields()[i])} << 32 | ordered(type.fields()[i + 1]);
+        };
+        if (pair(a) != pair(b))
+        {
+            return pair(a) < pair(b);
+        }
+    }
+    return false;
+}
 } // namespace
 
 AxTypeIndex::Found AxTypeIndex::bestMatch(AxObjectType const& type)
@@ -56,9 +74,9 @@ AxTypeIndex::Found AxTypeIndex::bestMatch(AxObjectType const& type)
         return bestOfUnusual(type);
     }
     AxTypeHash hash(type);
-    if (AxTypeTable::Slot const* const slot = myExact.find(type, hash.mixed()))
+    if (AxTypeTable::Slot* const slot = myExact.find(type, hash.mixed()))
     {
-        return slot->first;
+        return answer(slot->first);
     }
     for (unsigned const shape : myShapes)
     {
@@ -66,9 +84,9 @@ AxTypeIndex::Found AxTypeIndex::bestMatch(AxObjectType const& type)
         std::uint64_t const mixed = hash.mixed();
         if (myPatterns.mayHold(mixed))
         {
-            if (AxTypeTable::Slot const* const slot = myPatterns.find(masked(type, shape), mixed))
+            if (AxTypeTable::Slot* const slot = myPatterns.find(masked(type, shape), mixed))
             {
-                return slot->last;
+                return answer(slot->last);
             }
         }
     }
@@ -77,9 +95,9 @@ AxTypeIndex::Found AxTypeIndex::bestMatch(AxObjectType const& type)
 
 AxTypeIndex::Found AxTypeIndex::bestOfUnusual(AxObjectType const& type)
 {
-    if (AxTypeTable::Slot const* const slot = tableFor(shapeOf(type)).find(type))
+    if (AxTypeTable::Slot* const slot = tableFor(shapeOf(type)).find(type))
     {
-        return slot->first;
+        return answer(slot->first);
     }
     // A field below -1 lets patterns stand above the type that fits them; they come first.
     buildOrder();
@@ -105,10 +123,10 @@ AxTypeIndex::Found AxTypeIndex::greatestBelow(AxObjectType const& type)
             return;
         }
         AxObjectType const key = masked(type, shape);
-        AxTypeTable::Slot const* const slot = key < type ? tableFor(shape).find(key) : nullptr;
+        AxTypeTable::Slot* const slot = key < type ? tableFor(shape).find(key) : nullptr;
         if (slot != nullptr && (best.item == nullptr || typeOf(best.item) < key))
         {
-            best = slot->last;
+            best = answer(slot->last);
         }
     };
     consider(0);
@@ -158,8 +176,8 @@ AxTypeIndex::Found AxTypeIndex::firstOf(AxObjectType const& type)
         return {};
     }
     buildTables();
-    AxTypeTable::Slot const* const slot = tableFor(shapeOf(type)).find(type);
-    return slot != nullptr ? slot->first : Found();
+    AxTypeTable::Slot* const slot = tableFor(shapeOf(type)).find(type);
+    return slot != nullptr ? answer(slot->first) : Found();
 }
 
 AxListItem* AxTypeIndex::insert(void* data, AxObjectType const& type)
@@ -180,48 +198,73 @@ AxListItem* AxTypeIndex::insert(void* data, AxObjectType const& type)
         }
         place = above->second;
     }
-    AxListItem* const item = myList.insertBefore(place, data);
+    AxListItem* const item = makeItem(place, data);
     enter(item, type);
     return item;
 }
 
-AxListItem* AxTypeIndex::insertLater(void* data, AxObjectType const& type)
+bool AxTypeIndex::insertLater(void* data, AxObjectType const& type)
 {
     bool const isInPlace = myUnplaced.empty() && (myList.isEmpty() || greatest() < type);
     if (!isSorted() || isInPlace || myHasOrder)
     {
-        return insert(data, type);
+        return insert(data, type) != nullptr;
     }
     if (greatest() == type)
     {
-        return nullptr;
+        return false;
     }
+    buildTables();
+    enterInTables({nullptr, data}, type);
     myGreatest = std::max(greatest(), type);
-    AxListItem* const item = myList.add(data);
-    myUnplaced.push_back({type, item});
-    enter(item, type);
+    myUnplaced.push_back({type, data});
+    return true;
+}
+
+void AxTypeIndex::expect(std::size_t count)
+{
+    if (isSorted())
+    {
+        buildTables();
+        myExact.reserve(myExact.count() + count);
+    }
+}
+
+AxListItem* AxTypeIndex::makeItem(AxListItem* before, void* data)
+{
+    AxListItem* const item = myList.insertBefore(before, data);
+    if (myItemOf != nullptr)
+    {
+        myItemOf(data) = item;
+    }
     return item;
+}
+
+/// What was entered before it had its item.
+AxTypeIndex::Found const& AxTypeIndex::answer(Found& found) const
+{
+    if (found.item == nullptr)
+    {
+        found.item = myItemOf(found.data);
+    }
+    return found;
 }
 
 void AxTypeIndex::placeAll()
 {
     std::vector<Unplaced> unplaced = std::exchange(myUnplaced, {});
     std::stable_sort(unplaced.begin(), unplaced.end(),
-                     [](Unplaced const& a, Unplaced const& b) { return a.type < b.type; });
-    std::size_t placed = static_cast<std::size_t>(myList.count()) - unplaced.size();
-    bool const areFew = unplaced.size() < placed / 8;
-    // Each item in turn goes to the end, so that the first is always the next of those that had their places.
+                     [](Unplaced const& a, Unplaced const& b) { return isBelow(a.type, b.type); });
+    bool const areFew = unplaced.size() < static_cast<std::size_t>(myList.count()) / 8;
+    // The items are made in their order, so that a walk over them goes through memory in order, too.
+    AxListItem* above = myList.first();
     for (Unplaced const& next : unplaced)
     {
-        for (; placed != 0 && !(next.type < typeOf(myList.first())); --placed)
+        while (above != nullptr && !isBelow(next.type, typeOf(above)))
         {
-            myList.moveTo(myList, myList.first());
+            above = above->next();
         }
-        myList.moveTo(myList, next.item);
-    }
-    for (; placed != 0; --placed)
-    {
-        myList.moveTo(myList, myList.first());
+        makeItem(above, next.data);
     }
     myChangeCount = myList.changeCount();
     if (areFew)
@@ -240,17 +283,22 @@ void AxTypeIndex::enter(AxListItem* item, AxObjectType const& type)
     }
     if (myHasTables)
     {
-        unsigned const shape = shapeOf(type);
-        AxTypeTable& table = tableFor(shape);
-        std::uint64_t const hash = AxTypeHash(type).mixed();
-        if (AxTypeTable::Slot* const slot = table.find(type, hash))
-        {
-            slot->last = found(item); // it stands behind those of equal type
-            return;
-        }
-        table.add(type, found(item), hash);
-        countShape(shape, 1);
+        enterInTables(found(item), type);
     }
+}
+
+void AxTypeIndex::enterInTables(Found const& found, AxObjectType const& type)
+{
+    unsigned const shape = shapeOf(type);
+    AxTypeTable& table = tableFor(shape);
+    std::uint64_t const hash = AxTypeHash(type).mixed();
+    if (AxTypeTable::Slot* const slot = table.find(type, hash))
+    {
+        slot->last = found; // it stands behind those of equal type
+        return;
+    }
+    table.add(type, found, hash);
+    countShape(shape, 1);
 }
 
 AxListItem* AxTypeIndex::insertByWalk(void* data, AxObjectType const& type)
@@ -273,7 +321,7 @@ AxListItem* AxTypeIndex::insertByWalk(void* data, AxObjectType const& type)
         }
     }
     invalidate();
-    return myList.insertBefore(place, data);
+    return makeItem(place, data);
 }
 
 void AxTypeIndex::remove(AxListItem* item)
@@ -331,10 +379,9 @@ bool AxTypeIndex::leave(AxListItem const* item)
     return true;
 }
 
-void AxTypeIndex::removeAll()
+void AxTypeIndex::start()
 {
     myUnplaced.clear();
-    myList.removeAll();
     forget();
     myChangeCount = myList.changeCount();
     myIsKnown = myIsSorted = true;

@@ -18,8 +18,13 @@ class AxTypeIndex
 public:
     /// The type of an item's data; null when it has none.
     using TypeOf = AxObjectType const* (*)(void const* data);
+    /// Where data keep a note of their item, null when there is none yet.
+    using ItemOf = AxListItem*& (*)(void* data);
 
-    AxTypeIndex(AxList& list, TypeOf ofData) : myList(list), myTypeOf(ofData) {}
+    /// Without `itemOf` nothing can be inserted later.
+    AxTypeIndex(AxList& list, TypeOf ofData, ItemOf itemOf = nullptr) : myList(list), myTypeOf(ofData), myItemOf(itemOf)
+    {
+    }
 
     using Found = AxTypeTable::Found;
     Found bestMatch(AxObjectType const& type);
@@ -30,9 +35,11 @@ public:
     /// Puts `data` in front of the first item above its type, or at the end when the last item is below it. Null when
     /// neither is to be had, because an item of equal type is the last.
     AxListItem* insert(void* data, AxObjectType const& type);
-    /// The same for many in a row: the item comes to its place when the order is asked for, by `arrange` or by any
-    /// other operation but this and `firstOf`.
-    AxListItem* insertLater(void* data, AxObjectType const& type);
+    /// The same for many in a row, false instead of null: there is an item, in its place, when the order is asked for,
+    /// by `arrange` or by any other operation but this, `count` and `firstOf`, which may tell of data without an item.
+    bool insertLater(void* data, AxObjectType const& type);
+    void expect(std::size_t count);
+    std::size_t count() const { return static_cast<std::size_t>(myList.count()) + myUnplaced.size(); }
     void arrange()
     {
         if (!myUnplaced.empty())
@@ -41,7 +48,21 @@ public:
         }
     }
     void remove(AxListItem* item);
-    void removeAll();
+    /// Gives the data of each item to `take`, in no order.
+    template <class Take>
+    void removeAll(Take const& take)
+    {
+        for (Unplaced const& unplaced : myUnplaced)
+        {
+            take(unplaced.data);
+        }
+        while (AxListItem* const item = myList.first())
+        {
+            take(item->data());
+            myList.remove(item);
+        }
+        start();
+    }
     /// A type was changed behind the index.
     void invalidate()
     {
@@ -56,7 +77,7 @@ private:
     struct Unplaced
     {
         AxObjectType type;
-        AxListItem* item;
+        void* data;
     };
 
     static Found found(AxListItem* item) { return {item, item != nullptr ? item->data() : nullptr}; }
@@ -65,12 +86,16 @@ private:
     void placeAll();
     bool isSorted();
     bool scanIsSorted() const;
+    void start();
     void forget();
     void buildTables();
     void buildOrder();
     AxTypeTable& tableFor(unsigned shape) { return shape == 0 ? myExact : myPatterns; }
     void countShape(unsigned shape, int change);
+    AxListItem* makeItem(AxListItem* before, void* data);
+    Found const& answer(Found& found) const;
     void enter(AxListItem* item, AxObjectType const& type);
+    void enterInTables(Found const& found, AxObjectType const& type);
     bool leave(AxListItem const* item);
     Found bestOfUnusual(AxObjectType const& type);
     Found greatestBelow(AxObjectType const& type);
@@ -79,12 +104,13 @@ private:
 
     AxList& myList;
     TypeOf myTypeOf;
+    ItemOf myItemOf;
     AxTypeTable myExact;
     AxTypeTable myPatterns;
     std::vector<std::uint8_t> myShapes; // of the patterns, ascending
     std::array<std::uint32_t, 256> myShapeCounts{};
     std::map<AxObjectType, AxListItem*> myOrder; // the first item of each type
-    std::vector<Unplaced> myUnplaced;            // the last items of the list, as they came
+    std::vector<Unplaced> myUnplaced;            // in the tables only, as they came
     AxObjectType myGreatest;                     // while there are such
     std::uint32_t myChangeCount = 0;             // of the list as the index knows it
     bool myIsKnown = true;

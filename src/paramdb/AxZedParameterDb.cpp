@@ -30,7 +30,12 @@ struct AxZedParameterDb::Parked
     std::map<AxObjectType, AxZedParameterDbEntry*> entries;
 };
 
-AxZedParameterDb::AxZedParameterDb() : myIndex(std::make_unique<AxTypeIndex>(myList, &typeOfEntry)) {}
+AxZedParameterDb::AxZedParameterDb()
+{
+    auto const itemOfEntry = [](void* entry) -> AxListItem*&
+    { return static_cast<AxZedParameterDbEntry*>(entry)->myItem; };
+    myIndex = std::make_unique<AxTypeIndex>(myList, typeOfEntry, itemOfEntry);
+}
 
 AxZedParameterDb::~AxZedParameterDb()
 {
@@ -78,11 +83,9 @@ void AxZedParameterDb::remove(AxObjectType const& type)
 void AxZedParameterDb::removeAll()
 {
     std::vector<AxZedParameterDbEntry*> entries;
-    entries.reserve(static_cast<std::size_t>(myList.count()));
-    for (AxListItem const* item = myList.first(); item != nullptr; item = item->next())
-    {
-        entries.push_back(entryOf(item));
-    }
+    entries.reserve(myIndex->count());
+    myAnswer = {};
+    myIndex->removeAll([&](void* entry) { entries.push_back(static_cast<AxZedParameterDbEntry*>(entry)); });
     if (myParked != nullptr)
     {
         for (auto const& [type, entry] : myParked->entries)
@@ -90,8 +93,6 @@ void AxZedParameterDb::removeAll()
             entries.push_back(entry);
         }
     }
-    myAnswer = {};
-    myIndex->removeAll();
     myParked.reset();
     for (AxZedParameterDbEntry* const entry : entries)
     {
@@ -159,7 +160,7 @@ AxZedParameterDbEntry* AxZedParameterDb::lookupParameterDbEntry(AxObjectType con
 
 int AxZedParameterDb::numParameterEntries() const
 {
-    return myList.count();
+    return static_cast<int>(myIndex->count());
 }
 
 std::list<AxString>* AxZedParameterDb::getSysDefExtensionList()
@@ -192,6 +193,7 @@ void AxZedParameterDb::addParameterDbEntry(AxZedParameterDbEntry* entry)
     myInsertedType = &type;
     AxZedParameterDbEntry const* const old = entryOf(lookupParameters(type));
     myInsertedType = nullptr;
+    myAnswer = {}; // may be of an entry that has no item yet
     bool const isReplaced =
         old != nullptr && old->objectType() == type && (old->typeIsMatchType() || !entry->typeIsMatchType());
     if (isReplaced)
@@ -199,8 +201,7 @@ void AxZedParameterDb::addParameterDbEntry(AxZedParameterDbEntry* entry)
         removeParameters(type);
     }
     entry->myHolder = this;
-    entry->myItem = myIndex->insertLater(entry, type);
-    if (entry->myItem == nullptr)
+    if (!myIndex->insertLater(entry, type))
     {
         park(entry);
     }
@@ -233,6 +234,7 @@ void AxZedParameterDb::release(AxZedParameterDbEntry& entry)
 {
     myAnswer = {};
     entry.myHolder = nullptr;
+    myIndex->arrange(); // gives every entry of the list its item
     if (entry.myItem != nullptr)
     {
         myIndex->remove(entry.myItem);
@@ -247,6 +249,11 @@ void AxZedParameterDb::release(AxZedParameterDbEntry& entry)
             return;
         }
     }
+}
+
+void AxZedParameterDb::expectEntries(std::size_t count)
+{
+    myIndex->expect(count);
 }
 
 void AxZedParameterDb::typeChanges()

@@ -15,7 +15,7 @@ AxZedParameterDbEntry::~AxZedParameterDbEntry()
 
 void AxZedParameterDbEntry::setObjectType(AxObjectType const& type)
 {
-    if (!(myObjectType == type) && myHolder != nullptr)
+    if (myHolder != nullptr && !(myObjectType == type))
     {
         myHolder->typeChanges();
     }

@@ -1,6 +1,6 @@
 #include "AxEntityFiles.h"
 
-#include "AxZedXmlUtils.h"
+#include "AxEnvXMLReader.h"
 
 #include <boost/weak_ptr.hpp>
 #include <map>
@@ -19,23 +19,24 @@ struct Parsed
     boost::weak_ptr<AxEnvironment> tree;
 };
 
-Version versionOf(AxFilename const& file)
+Version versionOf(std::FILE* file)
 {
     struct stat status
     {
     };
-    stat(file.native().c_str(), &status);
+    fstat(fileno(file), &status);
     return {status.st_size, status.st_ino, status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
 }
 } // namespace
 
-AxEnvironmentPtr AxEntityFiles::tree(AxFilename const& file)
+AxEnvironmentPtr AxEntityFiles::tree(std::FILE* file, AxFilename const& name)
 {
     static std::map<std::string, Parsed> parsed;
     static std::size_t most = 0; // entries that are not worth looking through again
 
     Version const version = versionOf(file);
-    auto const known = parsed.find(file.native());
+    std::string const path = name.native();
+    auto const known = parsed.find(path);
     if (known != parsed.end() && known->second.version == version)
     {
         if (AxEnvironmentPtr const shared = known->second.tree.lock())
@@ -48,10 +49,10 @@ AxEnvironmentPtr AxEntityFiles::tree(AxFilename const& file)
         std::erase_if(parsed, [](auto const& entry) { return entry.second.tree.expired(); });
         most = 2 * parsed.size() + 16;
     }
-    AxEnvironmentPtr const tree = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
+    AxEnvironmentPtr const tree = AxEnvXMLReader::readOpenFile(file, name);
     if (tree)
     {
-        parsed[file.native()] = {version, tree};
+        parsed[path] = {version, tree};
     }
     return tree;
 }

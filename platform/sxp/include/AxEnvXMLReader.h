@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdio>
 #include <string_view>
 
 #include "AxEnvironment.h"
@@ -19,6 +20,8 @@ class ZEDOBJPARAM_API AxEnvXMLReader
 {
 public:
     static AxEnvironmentPtr readFile(AxFilename const& file, bool* ok = nullptr, bool reports = true);
+    /// The same of a file that was opened by this name, and not read yet; it stays the caller's.
+    static AxEnvironmentPtr readOpenFile(std::FILE* file, AxFilename const& name, bool reports = true);
     /// `name` stands for the file in reports.
     static AxEnvironmentPtr readText(std::string_view text, AxFilename const& name, bool* ok = nullptr,
                                      bool reports = true);

@@ -12,6 +12,7 @@
 #include <expat.h>
 
 #include "AxDiagnostic.h"
+#include "AxFileBytes.h"
 #include "AxLimits.h"
 #include "AxReadWholeFile.h"
 #include "AxWindows1252.h"
@@ -491,6 +492,13 @@ AxEnvironmentPtr AxEnvXMLReader::readText(std::string_view text, AxFilename cons
         *ok = environment != nullptr;
     }
     return environment;
+}
+
+AxEnvironmentPtr AxEnvXMLReader::readOpenFile(std::FILE* file, AxFilename const& name, bool reports)
+{
+    std::string text;
+    // That reading failed says nothing of the reason.
+    return axReadRest(file, text) ? guardedRead(std::move(text), name, reports) : readFile(name, nullptr, reports);
 }
 
 AxEnvironmentPtr AxEnvXMLReader::readFile(AxFilename const& file, bool* ok, bool reports)

@@ -26,6 +26,8 @@ public:
 
     /// Where reading goes on, for `cellsSince`.
     char const* place() const { return myAt; }
+    /// Goes on there, behind what the caller has read himself.
+    void moveTo(char const* place) { myAt = place; }
     /// Line and column of a place that was read, from 1. Places that are asked for in their order cost one pass.
     void locate(char const* place, std::uint32_t& line, std::uint32_t& column);
     /// What was read since `place`, one list, as cells that know no file place of their own.
