@@ -66,11 +66,13 @@ struct LookupSet
         {
             db.enter(type);
         }
+        std::vector<AxObjectType> const entered = sorted;
         std::sort(sorted.begin(), sorted.end());
-        for (AxObjectType const& type : sorted)
+        for (AxObjectType const& type : entered) // as the database was, so that no order favours either
         {
-            map.emplace(type, &type);
-            flat.emplace(type, &type);
+            AxObjectType const* const place = &*std::lower_bound(sorted.begin(), sorted.end(), type);
+            map.emplace(type, place);
+            flat.emplace(type, place);
         }
 
         std::mt19937 source(11);

@@ -327,6 +327,42 @@ TEST_F(AxSxpParameterDbTest, ASecondFileIsAddedToTheFirst)
     EXPECT_TRUE(db.dependentParameterFileToCopyPairs().empty());
 }
 
+/// Most entries are read without an object of their own; others may stand between them.
+TEST_F(AxSxpParameterDbTest, EntriesOfAnyShapeAreReadInTheirOrder)
+{
+    struct Case
+    {
+        char const* type;
+        char const* odd;
+        char const* filename;
+    };
+    for (Case const& each : {
+             Case{theTank, "(parameter-entry ; the newest\n (object-type 1 1 1 225 1 1 3 0) (filename \"odd\"))",
+                  "odd"},
+             Case{theTank, "(parameter-entry (filename \"first\") (object-type 1 1 1 225 1 1 3 0))", "first"},
+             Case{theTank, "(parameter-entry(object-type 1 1 1 225 1 1 3 0)(filename\"near\"))", "near"},
+             Case{theTank, "(parameter-entry (object-type 1 1 1 225 1 1 3 0) (filename \"a\\\"b\"))", "a\"b"},
+             Case{theTank, "(parameter-entry (object-type 1 1 1 225 1 1 3 0) (filename \"x\") (note 1))", "x"},
+             Case{theTank, "(parameter-entry (object-type 1 1 1 225 1 1 3 0))", ""},
+             Case{"0 1 1 225 1 1 3 0", "(parameter-entry (object-type 1 1 225 1 1 3 0) (filename \"seven\"))", "seven"},
+             Case{theTank, "(parameter-entry (object-type 1 1 1 225 1 1 3) (filename \"moved\"))", "before"},
+             Case{theTank, "(parameter-entry (object-type 1 1 1 225 1 1 3 x) (filename \"unread\"))", "before"},
+         })
+    {
+        AxSxpParameterDb any;
+        any.init();
+        std::string const entries = entry(theTank, "older") + entry(each.type, "before") + each.odd + '\n';
+        any.load(put("any.opd", database(entries + entry(theTanks, "behind"))));
+        AxObjectType type;
+        ASSERT_TRUE(AxObjectType::fromString(each.type, type));
+        EXPECT_EQ(entryOf(any, type)->filename().string(), each.filename) << each.odd;
+        EXPECT_EQ(entryOf(any, tanks)->filename().string(), "behind") << each.odd;
+        any.load(put("any.opd", database(each.odd + entry(each.type, "last"))));
+        EXPECT_EQ(entryOf(any, type)->filename().string(), "last") << each.odd;
+    }
+    warned();
+}
+
 TEST_F(AxSxpParameterDbTest, ASavedDatabaseReadsBackEqual)
 {
     put("m1.ope", record("(mass 62000.0) (display-name \"a (b) \\\"c\\\"\") (max-speed 0.1)", "moving-object-param"));

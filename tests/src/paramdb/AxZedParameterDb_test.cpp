@@ -100,6 +100,7 @@ TEST_F(AxZedParameterDbTest, IndexAnswersAsTheWalkDoes)
             {
                 AxObjectType const asked = types.type(lowest);
                 ASSERT_EQ(random.found(asked), walk.found(asked)) << "seed " << seed << ", " << asked.string();
+                ASSERT_EQ(random.lookupParameterDbEntry(asked, nullptr), walk.found(asked)) << "seed " << seed;
             }
         }
     }
