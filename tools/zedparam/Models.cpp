@@ -182,6 +182,11 @@ int run(Options const& options)
         return CouldNotRun;
     }
     int exitCode = Fine;
+    if (models.isEmpty())
+    {
+        std::fprintf(stderr, "zedparam: \"%s\" holds no models\n", options.path.c_str());
+        exitCode = HasFindings;
+    }
     if (!options.label.empty() || !options.type.empty())
     {
         exitCode = printFound(models, options, type);

@@ -1,9 +1,13 @@
 #include "RecordCheck.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <memory>
 #include <set>
 #include <typeindex>
+#include <typeinfo>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -15,19 +19,15 @@
 #include "AxPrbCoefficientList.h"
 #include "AxPrbRangeList.h"
 #include "AxReaderWriterFile.h"
-#include "AxRwBoolean.h"
-#include "AxRwInt.h"
 #include "AxRwProperty.h"
-#include "AxRwReal.h"
-#include "AxRwString.h"
 #include "AxRwVariableBindings.h"
-#include "AxRwVector.h"
 #include "AxZedObjectParameters.h"
 #include "CheckedFiles.h"
 #include "FindingPlaces.h"
 #include "Findings.h"
 #include "NameScan.h"
 #include "RangeText.h"
+#include "RecordValue.h"
 #include "RowCheck.h"
 #include "Supplies.h"
 #include "Wiring.h"
@@ -45,13 +45,53 @@ std::string placeOf(AxReaderWriter const& rw)
     return place;
 }
 
-/// The file member that a member is, if it is one; most are plain values, for which a look at the class is enough.
+/// What a class is. Each is asked once, for the casts would cost more than all other work on a record.
+struct Traits
+{
+    bool isFile;
+    bool isList;
+    bool isProperty;
+    bool isTable;
+    bool isComponent;
+    bool hasRows;
+    bool isNumber;
+    bool tellsSupplies;
+
+    bool isPlain() const { return !isFile && !isList && !isProperty && !isTable; }
+};
+
+Traits const& traitsOf(AxReaderWriter const& rw)
+{
+    static std::unordered_map<std::type_info const*, Traits> known;
+    // The few classes that come up all the time are found without a look into the map.
+    static std::array<std::pair<std::type_info const*, Traits>, 256> recent;
+    std::type_info const* const type = &typeid(rw);
+    auto& slot = recent[(std::bit_cast<std::uintptr_t>(type) >> 4) % recent.size()];
+    if (slot.first == type)
+    {
+        return slot.second;
+    }
+    auto const [entry, isNew] = known.try_emplace(type);
+    if (isNew)
+    {
+        double ignored = 0.0;
+        entry->second = {dynamic_cast<AxReaderWriterFile const*>(&rw) != nullptr,
+                         dynamic_cast<AxRwList const*>(&rw) != nullptr,
+                         dynamic_cast<AxRwProperty const*>(&rw) != nullptr,
+                         dynamic_cast<Ax1DRegularTableFn const*>(&rw) != nullptr,
+                         dynamic_cast<AxComponentDescriptor const*>(&rw) != nullptr,
+                         dynamic_cast<AxPrbRangeList const*>(&rw) != nullptr ||
+                             dynamic_cast<AxPrbCoefficientList const*>(&rw) != nullptr,
+                         numberIn(rw, ignored),
+                         rw.isValue() || Supplies::areToldBy(rw)};
+    }
+    slot = {type, entry->second};
+    return slot.second;
+}
+
 AxReaderWriterFile const* fileIn(AxReaderWriter const& rw)
 {
-    std::type_info const& type = typeid(rw);
-    bool const isPlain = type == typeid(AxRwReal) || type == typeid(AxRwBoolean) || type == typeid(AxRwString) ||
-                         type == typeid(AxRwInt) || type == typeid(AxRwVector);
-    return isPlain || !rw.isValue() ? nullptr : dynamic_cast<AxReaderWriterFile const*>(&rw);
+    return traitsOf(rw).isFile ? dynamic_cast<AxReaderWriterFile const*>(&rw) : nullptr;
 }
 
 /// Whether a component is of the class that its type name stands for, so that it is read back as it is.
@@ -111,7 +151,10 @@ private:
     {
         myPath.push_back({keyword, &rw, occurrence});
         rw.isValue() ? checkRange(rw) : checkType(rw);
-        mySupplies.note(rw, myFile, myPath);
+        if (traitsOf(rw).tellsSupplies)
+        {
+            mySupplies.note(rw, myFile, myPath);
+        }
         visitBelow(rw);
         myPath.pop_back();
     }
@@ -122,9 +165,14 @@ private:
         {
             visitMembers(*registry);
         }
-        if (auto const* list = dynamic_cast<AxRwList const*>(&rw))
+        Traits const& traits = traitsOf(rw);
+        if (traits.isPlain())
         {
-            visitElements(*list);
+            return;
+        }
+        if (traits.isList)
+        {
+            visitElements(dynamic_cast<AxRwList const&>(rw));
         }
         else if (auto const* property = dynamic_cast<AxRwProperty const*>(&rw))
         {
@@ -145,8 +193,7 @@ private:
 
     void visitElements(AxRwList const& list)
     {
-        if (dynamic_cast<AxPrbRangeList const*>(&list) != nullptr ||
-            dynamic_cast<AxPrbCoefficientList const*>(&list) != nullptr)
+        if (traitsOf(list).hasRows)
         {
             myFilesWithRows.insert(myFile);
         }
@@ -161,30 +208,32 @@ private:
     void visitMembers(AxReaderWriterRegistry const& registry)
     {
         std::vector<AxReaderWriter const*> contents;
-        for (std::size_t i = 0; i < registry.size(); ++i)
+        std::size_t const first = myMembers.size();
+        for (std::size_t i = 0, count = registry.size(); i < count; ++i)
         {
-            AxReaderWriterFile const* const file = fileIn(*registry.entry(i).member);
+            AxRegistryEntry const entry = registry.entry(i);
+            AxReaderWriter const& member = *entry.member;
+            AxReaderWriterFile const* const file = fileIn(member);
+            // A value or record that was not read holds its defaults.
+            if (!entry.content && (member.valueSpecified() || !member.isValue() || file != nullptr))
+            {
+                myMembers.push_back(entry);
+            }
             if (file != nullptr && file->contentKind() == Kind::Member && !file->foundFilename().isNull())
             {
                 contents.push_back(file->content());
                 visitContent(*file);
             }
         }
-        for (std::size_t i = 0; i < registry.size(); ++i)
+        for (std::size_t i = first; i < myMembers.size(); ++i)
         {
-            AxRegistryEntry const entry = registry.entry(i);
-            bool const isOfFile = std::ranges::find(contents, entry.member) != contents.end();
-            if (!entry.content && !isOfFile && mayHoldValues(*entry.member))
+            AxRegistryEntry const entry = myMembers[i]; // what is below moves them
+            if (std::ranges::find(contents, entry.member) == contents.end())
             {
                 visit(entry.keyword, *entry.member);
             }
         }
-    }
-
-    /// A value or record that was not read holds its defaults.
-    static bool mayHoldValues(AxReaderWriter const& rw)
-    {
-        return rw.valueSpecified() || !rw.isValue() || fileIn(rw) != nullptr;
+        myMembers.resize(first);
     }
 
     void visitFile(AxReaderWriterFile const& file)
@@ -257,7 +306,7 @@ private:
 
     void checkType(AxReaderWriter const& rw)
     {
-        auto const* component = dynamic_cast<AxComponentDescriptor const*>(&rw);
+        auto const* component = traitsOf(rw).isComponent ? dynamic_cast<AxComponentDescriptor const*>(&rw) : nullptr;
         if (component != nullptr && !keepsType(*component))
         {
             myFindings.add(
@@ -268,7 +317,8 @@ private:
 
     void checkRange(AxReaderWriter const& rw)
     {
-        if (std::string const fault = rw.valueSpecified() ? rangeFault(rw) : std::string(); !fault.empty())
+        bool const isGivenNumber = traitsOf(rw).isNumber && rw.valueSpecified();
+        if (std::string const fault = isGivenNumber ? rangeFault(rw) : std::string(); !fault.empty())
         {
             myFindings.add(myPlaces.atValue("out-of-range", myFile, myPath, placeOf(rw) + " is " + fault));
         }
@@ -322,7 +372,8 @@ private:
     Supplies mySupplies;
     std::size_t myFile = 0; // the one that is walked
     std::set<std::size_t> myFilesWithRows;
-    std::vector<SourceStep> myPath; // from its first expression inwards
+    std::vector<AxRegistryEntry> myMembers; // still to be visited, of all that the walk stands in
+    std::vector<SourceStep> myPath;         // from its first expression inwards
 };
 
 void reportUnbound(AxZedObjectParameters const& record, FindingPlaces const& places, Findings& findings)

@@ -27,6 +27,12 @@ bool namesMunition(AxSymbolString keyword)
 }
 } // namespace
 
+bool Supplies::areToldBy(AxReaderWriter const& record)
+{
+    return dynamic_cast<AxSimResource const*>(&record) != nullptr ||
+           dynamic_cast<AxComponentSystemDescriptor const*>(&record) != nullptr;
+}
+
 void Supplies::note(AxReaderWriter const& rw, std::size_t file, std::vector<SourceStep> const& path)
 {
     AxSymbolString const keyword = path.back().keyword;

@@ -14,7 +14,10 @@ class FindingPlaces;
 class Supplies
 {
 public:
-    /// To be shown every reader/writer of the record, with the file and the place where it stands.
+    /// Whether it is a supply, or brings some.
+    static bool areToldBy(AxReaderWriter const& record);
+    /// To be shown every value of the record, and each record that tells of supplies, with the file and the place where
+    /// it stands.
     void note(AxReaderWriter const& rw, std::size_t file, std::vector<SourceStep> const& path);
     /// Reports each use of a supply that nothing has. Nothing is reported when a system could not be read.
     void check(FindingPlaces const& places, Findings& findings) const;

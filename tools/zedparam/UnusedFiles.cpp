@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <set>
 #include <system_error>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "AxDiagnostic.h"
@@ -21,6 +23,26 @@ fs::path wholePath(fs::path const& file)
     return fs::weakly_canonical(file, ignored);
 }
 
+/// The same for many files of few directories.
+class WholePaths
+{
+public:
+    fs::path operator()(fs::path const& file)
+    {
+        std::error_code ignored;
+        if (fs::is_symlink(fs::symlink_status(file, ignored)))
+        {
+            return wholePath(file);
+        }
+        auto const [directory, isNew] = myDirectories.try_emplace(file.parent_path().native());
+        directory->second = isNew ? wholePath(file.parent_path()) : std::move(directory->second);
+        return directory->second / file.filename();
+    }
+
+private:
+    std::unordered_map<std::string, fs::path> myDirectories;
+};
+
 bool hasExtension(fs::path const& file, AxString const& extension)
 {
     return file.extension().string() == extension.string();
@@ -32,7 +54,8 @@ public:
     UnusedFiles(fs::path const& databaseFile, CheckedFiles const& files)
         : myDirectory(wholePath(fs::absolute(databaseFile).parent_path()))
     {
-        files.forEachNamed([this](std::string const& file) { myUsed.insert(wholePath(file)); });
+        WholePaths whole;
+        files.forEachNamed([&](std::string const& file) { myUsed.insert(whole(file).native()); });
         addRecords(myDirectory / databaseFile.stem());
     }
 
@@ -47,17 +70,23 @@ public:
     /// What stands beside a file that is used and ends as it does, below the database's directory.
     void addNeighbours()
     {
-        std::set<std::pair<fs::path, fs::path>> kinds;
-        for (fs::path const& file : myUsed)
+        std::set<std::pair<std::string, std::string>> kinds;
+        for (std::string const& file : myUsed)
         {
-            fs::path const below = file.lexically_relative(myDirectory);
-            if (!below.empty() && *below.begin() != ".." && file.has_extension())
+            std::size_t const name = file.rfind('/') + 1;
+            std::size_t const dot = file.rfind('.');
+            if (name != 0 && dot != std::string::npos && dot > name)
             {
-                kinds.emplace(file.parent_path(), file.extension());
+                kinds.emplace(file.substr(0, name), file.substr(dot));
             }
         }
         for (auto const& [directory, extension] : kinds)
         {
+            fs::path const below = fs::path(directory).lexically_relative(myDirectory);
+            if (below.empty() || *below.begin() == "..")
+            {
+                continue;
+            }
             std::error_code ignored;
             for (fs::directory_entry const& file : fs::directory_iterator(directory, ignored))
             {
@@ -99,14 +128,14 @@ private:
 
     void add(fs::path const& file)
     {
-        if (!myUsed.contains(file))
+        if (!myUsed.contains(file.native()))
         {
             myUnused.insert(file);
         }
     }
 
     fs::path myDirectory;
-    std::set<fs::path> myUsed;
+    std::unordered_set<std::string> myUsed;
     std::set<fs::path> myUnused;
 };
 } // namespace
