@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Prints a run of the benchmarks as a table: job, ours, each peer, ratio, target, met or not.
 
-    report.py RUN.json [--json]
+    report.py RUN.json... [--json]
 
 Figures are medians of processor time over the repetitions of one run, so that ratios hold where the machine's speed and
 load do not. A target ">= 8" is met when the peer's figure is at least eight times ours, "<= 1.2" when ours is at most
@@ -10,6 +10,7 @@ figure allowed. --json: the same, a list of objects, for machines. Exit code 1 w
 """
 
 import json
+import pathlib
 import re
 import statistics
 import sys
@@ -17,10 +18,10 @@ import sys
 TO_NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
 
-def figures(path):
+def figures(paths):
     runs = {}
-    with open(path, encoding="utf-8") as stream:
-        for run in json.load(stream)["benchmarks"]:
+    for path in paths:
+        for run in json.loads(pathlib.Path(path).read_text(encoding="utf-8"))["benchmarks"]:
             if run["run_type"] != "iteration":
                 continue
             name = "/".join(run["name"].split("/")[:2])
@@ -92,6 +93,9 @@ def jobs(found):
     yield "load one of 10000 record files", "record-files/ours", "record-files/protobuf", least(5)
     yield "load one of 10000 record files", "record-files/ours", "record-files/json", least(1.3)
     yield "load one of 10000 record files", "record-files/ours", "record-files/open-read-close", most(6)
+    for command, reading in (("check", "read"), ("find", "read"), ("diff", "read-both")):
+        yield f"zedparam {command}, per record file", f"tool-{command}/ours", f"tool-{reading}/ours", most(2)
+        yield f"zedparam {command}, memory", f"memory-tool-{command}/all", f"memory-tool-{reading}/all", most(2)
 
 
 def rows(found):
@@ -121,7 +125,7 @@ def shown(value, unit):
 
 
 def main():
-    table = list(rows(figures(sys.argv[1])))
+    table = list(rows(figures([word for word in sys.argv[1:] if not word.startswith("--")])))
     missed = sum(not row.get("met", True) for row in table)
     if "--json" in sys.argv[2:]:
         print(json.dumps(table, indent=2))
