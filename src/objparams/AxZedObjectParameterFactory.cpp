@@ -79,10 +79,20 @@ AxZedObjectParameters* AxZedObjectParameterFactory::createParameters(AxString co
     auto const* const entry = static_cast<AxZedObjectParameterFactoryEntry const*>(lookup(AxStringHashKey(name)));
     if (entry && entry->creatorFcn())
     {
-        AxZedObjectParameters* const made = entry->creatorFcn()(env, node);
-        if (made)
+        AxlObj const* const cell = AxTypeItem::Scope::cell();
+        bool isThrown = true;
+        AxZedObjectParameters* const made = AxTypeItem::made(
+            cell, name,
+            [&]
+            {
+                AxZedObjectParameters* const answered = entry->creatorFcn()(env, node);
+                isThrown = false;
+                return answered;
+            },
+            [&](AxZedObjectParameters& record) { record.setParameterType(name); });
+        if (!made && !isThrown)
         {
-            made->setParameterType(name);
+            AxTypeItem::reportCreationFailed(cell, name.string(), "no record was made");
         }
         return made;
     }

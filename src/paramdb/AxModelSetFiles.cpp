@@ -1,3 +1,4 @@
+#include "AxGuarded.h"
 #include "AxModelSetLoading.h"
 #include "AxParameterDbFiles.h"
 #include "AxReadWholeFile.h"
@@ -147,21 +148,26 @@ void AxModelSet::Loading::release(AxString const& base, int number)
 
 bool AxModelSet::load(AxFilename const& file)
 {
-    std::string text;
-    int error = 0;
-    if (!axReadWholeFile(file, text, error))
-    {
-        std::string const why = std::strerror(error);
-        AxDiagnostics::reportStated(axFault("unreadable-file", file, "cannot be read: " + why),
-                                    axFormat("AxModelSet::load() :          error opening %s for reading: %s\n",
-                                             file.native().c_str(), why.c_str()));
-        return false;
-    }
-    AxModelSet read(AxReaderWriter::name(), nullptr);
-    read.myKeepsAll = true;
-    bool const isRead = parse(read, text, file);
-    takeIn(read);
-    return isRead;
+    return axGuarded("read-failed", file, false,
+                     [&]() -> decltype(false)
+                     {
+                         std::string text;
+                         int error = 0;
+                         if (!axReadWholeFile(file, text, error))
+                         {
+                             std::string const why = std::strerror(error);
+                             AxDiagnostics::reportStated(
+                                 axFault("unreadable-file", file, "cannot be read: " + why),
+                                 axFormat("AxModelSet::load() :          error opening %s for reading: %s\n",
+                                          file.native().c_str(), why.c_str()));
+                             return false;
+                         }
+                         AxModelSet read(AxReaderWriter::name(), nullptr);
+                         read.myKeepsAll = true;
+                         bool const isRead = parse(read, text, file);
+                         takeIn(read);
+                         return isRead;
+                     });
 }
 
 void AxModelSet::takeIn(AxModelSet& read)
@@ -193,29 +199,39 @@ void AxModelSet::takeIn(AxModelSet& read)
 
 bool AxModelSet::save(AxFilename const& file)
 {
-    AxSymbolString const head = AxReaderWriter::name().isNull() ? AxSymbolString("model-set") : AxReaderWriter::name();
-    std::string text;
-    writeAs(head, text, 0, false, file);
-    text += '\n';
-    int error = 0;
-    if (axReplaceFile(file, text, error))
-    {
-        return true;
-    }
-    AxDiagnostics::report(axFault("unwritable-file", file, std::string("cannot be written: ") + std::strerror(error)));
-    return false;
+    return axGuarded("save-failed", file, false,
+                     [&]() -> decltype(false)
+                     {
+                         AxSymbolString const head =
+                             AxReaderWriter::name().isNull() ? AxSymbolString("model-set") : AxReaderWriter::name();
+                         std::string text;
+                         writeAs(head, text, 0, false, file);
+                         text += '\n';
+                         int error = 0;
+                         if (axReplaceFile(file, text, error))
+                         {
+                             return true;
+                         }
+                         AxDiagnostics::report(axFault("unwritable-file", file,
+                                                       std::string("cannot be written: ") + std::strerror(error)));
+                         return false;
+                     });
 }
 
 bool AxModelSet::loadFromDataFiles(AxFilename const& directory)
 {
-    std::vector<AxFilename> entities;
-    std::vector<AxFilename> groups;
-    if (!filesIn(directory, ".entity", entities) || !filesIn(directory, ".sog", groups))
-    {
-        return false;
-    }
-    bool const areEntitiesRead = addEntities(entities);
-    return addGroups(groups) && areEntitiesRead;
+    return axGuarded("read-failed", directory, false,
+                     [&]() -> decltype(false)
+                     {
+                         std::vector<AxFilename> entities;
+                         std::vector<AxFilename> groups;
+                         if (!filesIn(directory, ".entity", entities) || !filesIn(directory, ".sog", groups))
+                         {
+                             return false;
+                         }
+                         bool const areEntitiesRead = addEntities(entities);
+                         return addGroups(groups) && areEntitiesRead;
+                     });
 }
 
 bool AxModelSet::loadEntityFiles(AxFilename const& directory)

@@ -1,5 +1,6 @@
 #include "AxSxpParameterDb.h"
 
+#include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
 #include "AxReaderWriterFile.h"
 #include "AxRecursiveReaderWriterIterator.h"
@@ -13,7 +14,6 @@
 #include "AxZedObjectParameters.h"
 
 #include <boost/filesystem/operations.hpp>
-#include <exception>
 
 namespace fs = boost::filesystem;
 
@@ -121,11 +121,10 @@ AxZedParameterDbEntry* AxSxpParameterDb::createParameterEntry() const
 AxSxpParameterDbEntry* AxSxpParameterDb::add(AxObjectType const& type, AxFilename const& file, bool typeIsMatchType,
                                              AxZedObjectParameters* params)
 {
-    AxZedParameterDbEntry* const made = createParameterEntry();
-    auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(made);
+    std::unique_ptr<AxZedParameterDbEntry> made(createParameterEntry());
+    auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(made.get());
     if (!entry)
     {
-        delete made;
         return nullptr;
     }
     entry->setObjectType(type);
@@ -133,6 +132,7 @@ AxSxpParameterDbEntry* AxSxpParameterDb::add(AxObjectType const& type, AxFilenam
     entry->setFilename(file);
     entry->setTypeIsMatchType(typeIsMatchType);
     addParameterDbEntry(entry);
+    static_cast<void>(made.release());
     return entry;
 }
 
@@ -202,7 +202,7 @@ bool AxSxpParameterDb::load(AxFilename const& file)
         AxWarn("AxZedParameterDb::load() - Can't load %s.  Parameter DB reader is NULL\n", file.c_str());
         return false;
     }
-    return myReader->loadParameterDb(file, this);
+    return axGuarded("read-failed", file, false, [&] { return myReader->loadParameterDb(file, this); });
 }
 
 bool AxSxpParameterDb::loadAll(AxFilename const& file)
@@ -249,14 +249,8 @@ bool AxSxpParameterDb::save(AxFilename const& file)
     }
     else
     {
-        try
-        {
-            isWritten = myWriter->write(this, file, AxFilename(".\\" + base.string().string()));
-        }
-        catch (std::exception const& error)
-        {
-            AxDiagnostics::report(axFault("save-failed", file, error.what()));
-        }
+        isWritten = axGuarded("save-failed", file, false,
+                              [&] { return myWriter->write(this, file, AxFilename(".\\" + base.string().string())); });
     }
     if (!isWritten)
     {

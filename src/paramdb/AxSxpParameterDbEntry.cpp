@@ -2,6 +2,7 @@
 
 #include "AxEntityFiles.h"
 #include "AxExtFileInputStream.h"
+#include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
 #include "AxReaderWriterFactory.h"
 #include "AxReaderWriterFile.h"
@@ -246,17 +247,15 @@ AxZedObjectParameters* AxSxpParameterDbEntry::loadFromFile(AxFilename const& fil
         AxDiagnostics::report(axFault("record-loading", file, "the record was asked for while it is being read"));
         return nullptr;
     }
-    Reading reading(myReading);
-    try
-    {
-        AxZedObjectParameters* const record = file.extension() == "entity" ? readEntityFile(file) : readTextFile(file);
-        return record != nullptr ? hold(record) : nullptr;
-    }
-    catch (std::exception const& error)
-    {
-        AxDiagnostics::report(axFault("read-failed", file, error.what()));
-        return nullptr;
-    }
+    AxZedObjectParameters* const none = nullptr;
+    return axGuarded("read-failed", file, none,
+                     [&]
+                     {
+                         Reading reading(myReading);
+                         AxZedObjectParameters* const record =
+                             file.extension() == "entity" ? readEntityFile(file) : readTextFile(file);
+                         return record != nullptr ? hold(record) : nullptr;
+                     });
 }
 
 AxSxpParameterDbEntry::FilePtr AxSxpParameterDbEntry::openFile(AxFilename const& file,

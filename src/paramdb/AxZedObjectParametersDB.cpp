@@ -1,6 +1,7 @@
 #include "AxZedObjectParametersDB.h"
 
 #include "AxExtFileInputStream.h"
+#include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
 #include "AxReplaceFile.h"
 #include "AxStreams.h"
@@ -88,59 +89,69 @@ void AxZedObjectParametersDB::removeAndDeleteAll()
 
 bool AxZedObjectParametersDB::readParameterFile(AxString const& file)
 {
-    AxFilename const name(file);
-    AxFilePtr const open = axOpenToRead(name);
-    if (!open)
-    {
-        AxVerbose("Could not open parameter file %s for reading\n", file.c_str());
-        return false;
-    }
-    AxSourceScope const scope(name);
-    AxExtFileInputStream stream(open.get(), name);
-    if (!stream.isValid())
-    {
-        AxDiagnostics::reportStated(axFault("unreadable-file", name, "the file cannot be read"),
-                                    axFormat("couldn't create lisp stream for %s\n", file.c_str()));
-        return false;
-    }
-    try
-    {
-        AxlObjPtr const expression = AxcRead(stream);
-        if (!expression->isEof())
+    return axGuarded(
+        "read-failed", AxFilename(), false,
+        [&]() -> decltype(false)
         {
-            AxReaderWriter::getSelf(expression, {name.directory()}, nullVariableReference());
-        }
-    }
-    catch (AxlSyntaxError const& error)
-    {
-        AxDiagnostics::reportStated(error.diagnostic(), axFormat("Error parsing %s\n", file.c_str()));
-        return false;
-    }
-    catch (std::exception const& error)
-    {
-        AxDiagnostics::reportStated(axFault("read-failed", name, error.what()),
-                                    axFormat("Error parsing %s\n", file.c_str()));
-        return false;
-    }
-    if (myList)
-    {
-        myList->inheritValuesFromAncestors();
-    }
-    return true;
+            AxFilename const name(file);
+            AxFilePtr const open = axOpenToRead(name);
+            if (!open)
+            {
+                AxVerbose("Could not open parameter file %s for reading\n", file.c_str());
+                return false;
+            }
+            AxSourceScope const scope(name);
+            AxExtFileInputStream stream(open.get(), name);
+            if (!stream.isValid())
+            {
+                AxDiagnostics::reportStated(axFault("unreadable-file", name, "the file cannot be read"),
+                                            axFormat("couldn't create lisp stream for %s\n", file.c_str()));
+                return false;
+            }
+            try
+            {
+                AxlObjPtr const expression = AxcRead(stream);
+                if (!expression->isEof())
+                {
+                    AxReaderWriter::getSelf(expression, {name.directory()}, nullVariableReference());
+                }
+            }
+            catch (AxlSyntaxError const& error)
+            {
+                AxDiagnostics::reportStated(error.diagnostic(), axFormat("Error parsing %s\n", file.c_str()));
+                return false;
+            }
+            catch (std::exception const& error)
+            {
+                AxDiagnostics::reportStated(axFault("read-failed", name, error.what()),
+                                            axFormat("Error parsing %s\n", file.c_str()));
+                return false;
+            }
+            if (myList)
+            {
+                myList->inheritValuesFromAncestors();
+            }
+            return true;
+        });
 }
 
 bool AxZedObjectParametersDB::writeParameterFile(AxString const& file)
 {
-    AxFilename const name(file);
-    std::string text;
-    putSelf(text, 0, false, name);
-    text += '\n';
-    int error = 0;
-    if (!axReplaceFile(name, text, error))
-    {
-        AxDiagnostics::reportStated(axFault("cannot-write", name, std::strerror(error)),
-                                    axFormat("Could not open parameter file %s for writing\n", file.c_str()));
-        return false;
-    }
-    return true;
+    return axGuarded("save-failed", AxFilename(), false,
+                     [&]() -> decltype(false)
+                     {
+                         AxFilename const name(file);
+                         std::string text;
+                         putSelf(text, 0, false, name);
+                         text += '\n';
+                         int error = 0;
+                         if (!axReplaceFile(name, text, error))
+                         {
+                             AxDiagnostics::reportStated(
+                                 axFault("cannot-write", name, std::strerror(error)),
+                                 axFormat("Could not open parameter file %s for writing\n", file.c_str()));
+                             return false;
+                         }
+                         return true;
+                     });
 }

@@ -33,7 +33,14 @@ bool deliver(AxDiagnostic& diagnostic)
 {
     if (diagnostic.file.empty())
     {
-        diagnostic.file = AxSourceScope::currentFile().native();
+        try
+        {
+            diagnostic.file = AxSourceScope::currentFile().native();
+        }
+        catch (...)
+        {
+            // A finding that does not know its file is better than none.
+        }
     }
     if (AxSourceScope::isSettled(diagnostic.file, diagnostic.line, diagnostic.column))
     {

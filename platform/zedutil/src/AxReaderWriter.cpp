@@ -64,6 +64,15 @@ struct AxReaderWriter::RestTable
         }
         member.makeRest().name = AxSymbolString(keyword.text);
     }
+    /// For an object that is not made after all; its destructor will not run.
+    static void giveUp(AxReaderWriter& member)
+    {
+        if (member.hasRest())
+        {
+            member.leaveParent();
+            member.dropRest();
+        }
+    }
 };
 
 AxReaderWriter::Rest** AxReaderWriter::ourRests = nullptr;
@@ -71,11 +80,19 @@ AxReaderWriter::Rest** AxReaderWriter::ourRests = nullptr;
 AxReaderWriter::AxReaderWriter(AxSymbolString name, AxReaderWriterRegistry* registry, bool specified)
     : myFlags(specified ? static_cast<std::uint16_t>(Specified) : std::uint16_t{0})
 {
-    if (!name.isNull())
+    try
     {
-        makeRest().name = name;
+        if (!name.isNull())
+        {
+            makeRest().name = name;
+        }
+        enter(registry);
     }
-    enter(registry);
+    catch (...)
+    {
+        RestTable::giveUp(*this);
+        throw;
+    }
 }
 
 AxReaderWriter::AxReaderWriter(AxString const& name, AxReaderWriterRegistry* registry, bool specified)
@@ -92,7 +109,15 @@ AxReaderWriter::AxReaderWriter(AxKeyword const& keyword, AxReaderWriterRegistry*
 {
     if (!registry || !RestTable::bindNext(*this, keyword, *registry)) [[unlikely]]
     {
-        RestTable::bindOtherwise(*this, keyword, registry);
+        try
+        {
+            RestTable::bindOtherwise(*this, keyword, registry);
+        }
+        catch (...)
+        {
+            RestTable::giveUp(*this);
+            throw;
+        }
     }
 }
 
@@ -161,10 +186,14 @@ AxReaderWriter::Rest& AxReaderWriter::makeRest()
     std::vector<std::uint32_t>& gaps = RestTable::get().gaps;
     if (gaps.empty())
     {
+        if (all.size() == all.capacity())
+        {
+            all.reserve(std::max<std::size_t>(64, 2 * all.size()));
+            ourRests = all.data();
+        }
+        gaps.reserve(all.capacity()); // so that giving a number back takes no memory
         all.push_back(nullptr);
         gaps.push_back(static_cast<std::uint32_t>(all.size() - 1));
-        gaps.reserve(all.capacity()); // so that giving a number back takes no memory
-        ourRests = all.data();
     }
     myStampOrNumber = gaps.back();
     gaps.pop_back();

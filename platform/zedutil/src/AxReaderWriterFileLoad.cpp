@@ -3,6 +3,7 @@
 #include "AxDiagnostic.h"
 #include "AxFileCells.h"
 #include "AxFileChain.h"
+#include "AxGuarded.h"
 #include "AxRwVariableBindings.h"
 #include "AxlSyntaxError.h"
 
@@ -139,7 +140,9 @@ void AxReaderWriterFile::Content::reportIfInline(AxReaderWriterFile const& membe
 
 bool AxReaderWriterFile::load(AxFilenameList const& files, AxBindingsList const& bindings)
 {
-    return contentEnabled() && !myFilename.isNull() && loadFrom(AxlObj::nilCell(), files, bindings);
+    return axGuarded(
+        "read-failed", myFilename, false,
+        [&] { return contentEnabled() && !myFilename.isNull() && loadFrom(AxlObj::nilCell(), files, bindings); });
 }
 
 bool AxReaderWriterFile::loadFrom(AxlObj const* place, AxFilenameList const& files, AxBindingsList const& bindings)
@@ -154,8 +157,7 @@ bool AxReaderWriterFile::loadFrom(AxlObj const* place, AxFilenameList const& fil
     }
     catch (std::exception const& error)
     {
-        AxDiagnostics::report(faultAt(place, AxSeverity::Error, "read-failed",
-                                      "cannot read \"" + myFilename.string().string() + "\": " + error.what()));
+        axReportException("read-failed", AxFilename(), &error);
     }
     object.setFlag(Specified, false);
     updateBacking();

@@ -6,7 +6,17 @@ AxRecord::AxRecord(AxSymbolString name, AxReaderWriterRegistry* registry, bool s
     : AxReaderWriter(static_cast<Flag>(specified ? RestBehind | Specified : RestBehind)), myRest(this, name)
 {
     static_assert(sizeof(AxRecord) == sizeof(AxReaderWriter) + sizeof(Rest), "the one stands right behind the other");
-    enter(registry);
+    try
+    {
+        enter(registry);
+    }
+    catch (...)
+    {
+        // What stands behind is gone before the part in front of it.
+        leaveParent();
+        setFlag(RestBehind, false);
+        throw;
+    }
 }
 
 AxRecord::AxRecord(AxKeyword const& keyword, AxReaderWriterRegistry* registry)

@@ -1,6 +1,7 @@
 #include "AxRegistryShape.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace
@@ -55,25 +56,24 @@ AxRegistryShape* AxRegistryShape::addChild(AxReaderWriter const& owner, AxKeywor
             return child;
         }
     }
-    auto* const itsDetails = new Details;
+    auto itsDetails = std::make_unique<Details>();
     itsDetails->parent = this;
     itsDetails->declaringClass = &typeid(owner);
     itsDetails->description = keyword;
     AxRegistryShape* made = this + 1;
     bool const fits = made != details->runEnd && !made->text;
-    if (!fits)
-    {
-        made = new AxRegistryShape[theRunLength];
-    }
+    std::unique_ptr<AxRegistryShape[]> run(fits ? nullptr : new AxRegistryShape[theRunLength]);
+    made = fits ? made : run.get();
+    details->children.push_back(made);
+    static_cast<void>(run.release());
     itsDetails->runEnd = fits ? details->runEnd : made + theRunLength - 1;
     made->text = keyword.text;
     made->name = id;
     made->functions = AxReaderWriterFactory::functionsOf(owner);
-    made->details = itsDetails;
+    made->details = itsDetails.release();
     made->place = itsPlace;
     made->distance = static_cast<std::uint32_t>(itsPlace * theUnit);
     made->leadsRun = !fits;
-    details->children.push_back(made);
     return made;
 }
 

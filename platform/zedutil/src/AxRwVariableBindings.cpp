@@ -1,6 +1,7 @@
 #include "AxRwVariableBindings.h"
 
 #include "AxDiagnostic.h"
+#include "AxLimits.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRwElement.h"
 #include "AxTreeCells.h"
@@ -64,9 +65,10 @@ private:
     }
     void appendVariable(AxSymbolString name, std::string_view written)
     {
-        // A variable may be made of others; a chain that does not end is left as it stands.
-        constexpr int deepest = 32;
-        AxlObjPtr const* const cells = myDepth < deepest ? AxRwVariableBindings::find(name, myBindings) : nullptr;
+        // A variable may be made of others; what does not end, or only after ages, is left as it stands.
+        bool const isWithin =
+            myDepth < axLimits.variableChain && myCount < axLimits.variableCount && myOut.size() < axLimits.tokenSize;
+        AxlObjPtr const* const cells = isWithin ? AxRwVariableBindings::find(name, myBindings) : nullptr;
         if (!cells)
         {
             myIsComplete = false;
@@ -74,6 +76,7 @@ private:
             return;
         }
         ++myDepth;
+        ++myCount;
         AxlObj const* const value = (*cells)->car();
         if (value->isReference())
         {
@@ -90,7 +93,8 @@ private:
     std::string myOut;
     AxSymbolString myFirst;
     bool myIsComplete = true;
-    int myDepth = 0;
+    unsigned myDepth = 0;
+    unsigned myCount = 0;
 };
 } // namespace
 

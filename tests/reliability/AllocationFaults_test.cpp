@@ -1,0 +1,180 @@
+#include "Allocations.h"
+#include "AxModelSet.h"
+#include "AxRangeProbabilityTable.h"
+#include "AxReaderWriterFile.h"
+#include "AxZedObjectParametersDB.h"
+#include "src/paramdb/DatabaseFixture.h"
+
+#include <functional>
+
+namespace
+{
+using Reach = AllocationFault::Reach;
+
+/// Lets every single allocation of a job fail, and all from every one on. The job runs on an object of its own, says
+/// whether it succeeded, and must do so when it is repeated with the same object.
+class AllocationFaults : public DatabaseFixture
+{
+protected:
+    using Job = std::function<bool()>;
+
+    AllocationFaults()
+    {
+        put("force/m1.ope", "(m1 (parameter-type \"zed-object-param\") (mass 60000.0) (display-name \"M1 $(camp)\")\n"
+                            "  (systems (gun (system-definition \"../systems/gun.sys\")))\n"
+                            "  (resources (fuel 10 20)) (bounding-volume 1.0 2.0)\n"
+                            "  (initial-sector-of-responsibility (sector-center 1.0) (sector-size 2.0))\n"
+                            "  (unknown (to us)) (local-objects (state-repository \"here\")))\n");
+        put("systems/gun.sys", "(system-definition (sensors (visual-sensor (component-descriptor-type "
+                               "\"object-sensor-descriptor\") (maximum-range 5.0))))\n");
+        put("force.opd", database(entry(theTanks, "force/m1.ope") + entry(theTank, "force/m1.ope"),
+                                  "(variable-bindings (camp \"red\")) (version 101) (unknown \"item\")"));
+        put("a.hit", "(hits (entity-range (entity-type 1 1 -1 -1 -1 -1 -1) (range-determinant (range-list "
+                     "(range-entry 500.0 (hit 0.5))))) (unknown 1))\n");
+        put("a.models", "(model-set (comment \"all\") (model-set-entry (object-type 1 1 1 225 1 1 3 0) "
+                        "(label \"M1\") (categories \"tanks\" \"new\")))\n");
+        put("a.params", "(sim-object-parameters (tank-parameters (object-type 1 1 1 225 1 1 3 0) (parameter-type "
+                        "\"zed-object-param\") (mass 1.0)))\n");
+        AxDiagnostics::setSink([this](AxDiagnostic const&) { ++told; });
+    }
+
+    /// `begin` makes the object; what it answers is the job.
+    void hold(std::function<Job()> const& begin)
+    {
+        ASSERT_TRUE(begin()());
+        for (Reach const reach : {Reach::One, Reach::AllFromThere})
+        {
+            for (std::size_t n = 1;; ++n)
+            {
+                SCOPED_TRACE((reach == Reach::One ? "only " : "from ") + std::to_string(n));
+                Job job = begin();
+                bool isDone = false;
+                told = 0;
+                warnings.clear();
+                try
+                {
+                    AllocationFault const fault(n, reach);
+                    isDone = job();
+                }
+                catch (std::exception const& error)
+                {
+                    ADD_FAILURE() << error.what();
+                }
+                if (!AllocationFault::wasHit())
+                {
+                    EXPECT_TRUE(isDone);
+                    break;
+                }
+                told += warnings.text().empty() ? 0 : 1;
+                EXPECT_TRUE(isDone || told > 0 || reach == Reach::AllFromThere);
+                EXPECT_TRUE(job()) << "when it is repeated";
+                warnings.clear();
+                news.clear();
+                if (HasFailure())
+                {
+                    return;
+                }
+            }
+        }
+    }
+
+    int told = 0;
+};
+} // namespace
+
+TEST_F(AllocationFaults, RecordOfADatabase)
+{
+    hold(
+        [this]() -> Job
+        {
+            auto const forces = std::make_shared<AxSxpParameterDb>();
+            forces->init();
+            forces->load(AxFilename(path("force.opd")));
+            EXPECT_TRUE(forces->lookupParameterDbEntry(tank, nullptr));
+            return [this, forces] { return forces->lookup(tank) != nullptr; };
+        });
+}
+
+TEST_F(AllocationFaults, RecordOfTheExample)
+{
+    if (!std::getenv("ZEDOBJPARAM_ROUNDS"))
+    {
+        GTEST_SKIP() << "the long form";
+    }
+    hold(
+        [this]() -> Job
+        {
+            auto const forces = std::make_shared<AxSxpParameterDb>();
+            forces->init();
+            forces->load(AxFilename(ZEDOBJPARAM_SOURCE_DIR "/examples/force/force.opd"));
+            return [this, forces] { return forces->lookup(tank) != nullptr; };
+        });
+}
+
+TEST_F(AllocationFaults, RecordOfAnEntityFile)
+{
+    AxFilename const file =
+        put("m1.entity", "<simObject name=\"m1\">\n"
+                         "  <variableBindings name=\"variable-bindings\">\n"
+                         "    <variable name=\"camp\" value=\"red\"/>\n"
+                         "  </variableBindings>\n"
+                         "  <objectType name=\"objectType\" value=\"1:1:1:225:1:1:3:0\"/>\n"
+                         "  <platform name=\"m1\" parameter-type=\"ground-vehicle-param\" mass=\"62100.0\"\n"
+                         "    display-name=\"$camp\" unknown=\"to us\"/>\n"
+                         "</simObject>\n");
+    hold(
+        [&]() -> Job
+        {
+            auto const forces = std::make_shared<AxSxpParameterDb>();
+            forces->init();
+            forces->add(tank, file, false, nullptr);
+            EXPECT_TRUE(forces->lookupParameterDbEntry(tank, nullptr));
+            return [this, forces] { return forces->lookup(tank) != nullptr; };
+        });
+}
+
+TEST_F(AllocationFaults, DatabaseFile)
+{
+    AxFilename const file(path("force.opd"));
+    hold(
+        [&]() -> Job
+        {
+            auto const forces = std::make_shared<AxSxpParameterDb>();
+            forces->init();
+            return [forces, file] { return forces->load(file); };
+        });
+}
+
+TEST_F(AllocationFaults, FilesThatStandAlone)
+{
+    struct Table
+    {
+        AxRangeProbabilityTable table{"hits", nullptr};
+        AxReaderWriterFile file{"hit-file", nullptr};
+    };
+    AxFilename const modelFile(path("a.models"));
+    AxString const collectionFile(path("a.params"));
+    AxFilename const tableFile(path("a.hit"));
+    hold(
+        [&]() -> Job
+        {
+            auto const read = std::make_shared<Table>();
+            read->file.setContent(&read->table);
+            read->file = tableFile;
+            AxReaderWriterFile::clearFileCache();
+            return [read] { return read->file.load({}, {}) && read->table.count() == 1; };
+        });
+    hold(
+        [&]() -> Job
+        {
+            auto const models = std::make_shared<AxModelSet>("model-set", nullptr);
+            return [models, modelFile] { return models->load(modelFile); };
+        });
+    hold(
+        [&]() -> Job
+        {
+            auto const all = std::make_shared<AxZedObjectParametersDB>("parameter-list", nullptr);
+            all->init();
+            return [all, collectionFile] { return all->readParameterFile(collectionFile); };
+        });
+}

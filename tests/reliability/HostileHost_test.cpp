@@ -1,0 +1,143 @@
+#include "AxModelSet.h"
+#include "AxRangeProbabilityTable.h"
+#include "AxZedObjectParametersDB.h"
+#include "AxZedXmlUtils.h"
+#include "src/paramdb/DatabaseFixture.h"
+
+#include <stdexcept>
+
+// What a host may do wrong in its own code: nulls, callbacks that throw. Nothing of it comes back as an exception.
+namespace
+{
+struct NoStandardException
+{
+};
+
+class HostileHost : public DatabaseFixture
+{
+protected:
+    HostileHost()
+    {
+        put("m1.ope", record("(mass 1.0) (unknown 1)"));
+        put("force.opd", database(entry(theTanks, "m1.ope") + entry(theTank, "m1.ope")));
+    }
+    bool loadsAndSaves()
+    {
+        AxSxpParameterDb forces;
+        forces.init();
+        return forces.loadAll(AxFilename(path("force.opd"))) && forces.save(AxFilename(path("new.opd")));
+    }
+};
+} // namespace
+
+TEST_F(HostileHost, SinksThatThrowAreHeardNoMore)
+{
+    AxDiagnostics::setSink([](AxDiagnostic const&) { throw std::runtime_error("sink"); });
+    AxSinkScope const warn(AxWarn, [](std::string const&) { throw std::runtime_error("warn"); });
+    AxSinkScope const info(AxInfo, [](std::string const&) { throw NoStandardException(); });
+    AxSinkScope const verbose(AxVerbose, [](std::string const&) { throw 1; });
+    EXPECT_TRUE(loadsAndSaves());
+    EXPECT_FALSE(db.load(AxFilename(path("none.opd"))));
+}
+
+TEST_F(HostileHost, CreatorsThatThrowLeaveTheRecordOut)
+{
+    int thrown = 0;
+    static int* counter = nullptr;
+    counter = &thrown;
+    AxZedObjectParameterFactory records;
+    records.addCreatorFcn("zed-object-param",
+                          [](AxEnvironmentPtr, AxEnvValuePtr*) -> AxZedObjectParameters*
+                          {
+                              if (++*counter % 2 != 0)
+                              {
+                                  throw std::runtime_error("creator");
+                              }
+                              throw NoStandardException();
+                          });
+    AxZedObjectParameters::setFactory(&records);
+    EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
+    for (int i = 0; i < 2; ++i)
+    {
+        findings.clear();
+        EXPECT_FALSE(db.lookup(tank));
+        EXPECT_FALSE(findings.empty());
+    }
+    AxZedObjectParameters::setFactory(&factory);
+    EXPECT_TRUE(db.lookup(tank));
+    EXPECT_EQ(thrown, 2);
+    db.setRemoteConfigurationListCreatorFcn([](AxString const&, AxReaderWriterRegistry*) -> AxRemoteConfigurationList*
+                                            { throw std::bad_alloc(); });
+    EXPECT_FALSE(db.load(AxFilename(path("force.opd"))));
+    EXPECT_FALSE(db.save(AxFilename(path("new.opd"))));
+    EXPECT_FALSE(boost::filesystem::exists(path("new.opd")));
+}
+
+TEST_F(HostileHost, HooksThatThrowEndTheSaveAndLeaveTheFiles)
+{
+    struct Throwing : AxSxpParameterDbWriter
+    {
+        void processPrePutSelfCb(AxReaderWriter*, std::string&) override { throw NoStandardException(); }
+    };
+    EXPECT_TRUE(db.loadAll(AxFilename(path("force.opd"))));
+    std::string const before = files();
+    db.setWriter(new Throwing);
+    EXPECT_FALSE(db.save(AxFilename(path("force.opd"))));
+    EXPECT_EQ(files(), before);
+    db.setWriter(new AxSxpParameterDbWriter);
+    EXPECT_TRUE(db.save(AxFilename(path("force.opd"))));
+}
+
+TEST_F(HostileHost, NullsHaveADefinedResult)
+{
+    AxReaderWriter::factory()->copyReaderWriter(nullptr, nullptr);
+    EXPECT_EQ(db.add(tank, nullptr), nullptr);
+    EXPECT_EQ(db.lookup(tank, nullptr, nullptr), nullptr);
+    EXPECT_EQ(db.lookupParameterDbEntry(tank, nullptr), nullptr);
+    AxSxpParameterDbReader reader;
+    AxSxpParameterDbWriter writer;
+    EXPECT_FALSE(reader.loadParameterDb(AxFilename(path("force.opd")), nullptr));
+    EXPECT_FALSE(writer.write(nullptr, AxFilename(path("x.opd")), AxFilename("x")));
+    EXPECT_FALSE(writer.writeParameterFile(AxFilename(path("x.ope")), nullptr));
+    db.setReader(nullptr);
+    db.setWriter(nullptr);
+    EXPECT_FALSE(db.load(AxFilename(path("force.opd"))));
+    EXPECT_FALSE(db.save(AxFilename(path("x.opd"))));
+    EXPECT_EQ(AxZedObjectParameters::createParameters(static_cast<char const*>(nullptr)), nullptr);
+    EXPECT_EQ(AxComponentDescriptor::createComponentDescriptor(static_cast<char const*>(nullptr)), nullptr);
+    AxModelSet models("model-set", nullptr);
+    EXPECT_EQ(models.addModel(nullptr, false), nullptr);
+    AxRangeProbabilityTable table;
+    EXPECT_FALSE(table.getProbabilities(AxEntityType(), 0.0, nullptr, nullptr));
+    AxZedObjectParametersDB all(static_cast<char const*>(nullptr), nullptr);
+    all.addParameters(nullptr);
+    EXPECT_EQ(all.lookupParameters(tank, nullptr), nullptr);
+    EXPECT_FALSE(AxZedXmlUtils::CreateZedXmlEnvironment(AxFilename(), false));
+    EXPECT_TRUE(AxString(static_cast<char const*>(nullptr)).string().empty());
+    EXPECT_TRUE(AxSymbolString(static_cast<char const*>(nullptr)).isNull());
+    EXPECT_TRUE(AxFilename(static_cast<char const*>(nullptr)).isNull());
+    AxWarn(nullptr);
+}
+
+TEST_F(HostileHost, TwoDatabasesDoNotDisturbEachOther)
+{
+    put("other/m1.ope", record("(mass 2.0)"));
+    put("other/force.opd", database(entry(theTanks, "m1.ope") + entry(theTank, "m1.ope")));
+    AxSxpParameterDb other;
+    other.init();
+    EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
+    EXPECT_TRUE(other.load(AxFilename(path("other/force.opd"))));
+    for (int i = 0; i < 2; ++i)
+    {
+        EXPECT_EQ(db.lookup(tank)->mass(), 1.0);
+        EXPECT_EQ(other.lookup(tank)->mass(), 2.0);
+    }
+    other.lookup(tank)->setMass(3.0);
+    EXPECT_TRUE(other.save(AxFilename(path("other/force.opd"))));
+    EXPECT_EQ(db.lookup(tank)->mass(), 1.0);
+    EXPECT_EQ(db.versionNumber(), 101);
+    other.removeAll();
+    EXPECT_EQ(db.lookup(tank)->mass(), 1.0);
+    EXPECT_EQ(db.numParameterEntries(), 2);
+    EXPECT_EQ(other.lookup(tank), nullptr);
+}

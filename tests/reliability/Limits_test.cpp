@@ -1,0 +1,138 @@
+#include "AxEnvXMLReader.h"
+#include "AxLimits.h"
+#include "AxReadWholeFile.h"
+#include "src/paramdb/DatabaseFixture.h"
+
+#include <cerrno>
+
+namespace
+{
+/// What docs/reliability.md lists: accepted up to the limit, refused with one finding above it.
+class Limits : public DatabaseFixture
+{
+protected:
+    /// The code of the only finding; empty when there is none.
+    std::string only()
+    {
+        std::string const code = findings.empty() ? "" : findings.front().code;
+        EXPECT_LE(findings.size(), 1U);
+        findings.clear();
+        return code;
+    }
+    std::string ofXml(std::string const& text)
+    {
+        bool ok = false;
+        AxEnvironmentPtr const tree = AxEnvXMLReader::readText(text, AxFilename("t.xml"), &ok);
+        EXPECT_EQ(ok, tree != nullptr);
+        return only();
+    }
+    std::string ofText(std::string const& text)
+    {
+        RecordPtr const read = made("zed-object-param");
+        readInto(*read, text);
+        return only();
+    }
+};
+
+std::string repeated(std::string const& text, std::size_t count)
+{
+    std::string all;
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        all += text;
+    }
+    return all;
+}
+} // namespace
+
+TEST_F(Limits, NestingOfLists)
+{
+    for (auto const& [depth, code] : {std::pair(axLimits.cellNesting - 1, ""), std::pair(axLimits.cellNesting, ""),
+                                      std::pair(axLimits.cellNesting + 1, "nesting-limit")})
+    {
+        std::string const text = std::string(depth, '(') + "deep" + std::string(depth, ')');
+        std::string found;
+        try
+        {
+            cellsOf(text);
+        }
+        catch (AxlSyntaxError const& error)
+        {
+            found = error.code();
+        }
+        EXPECT_EQ(found, code) << depth;
+    }
+}
+
+TEST_F(Limits, NestingOfElements)
+{
+    for (auto const& [depth, code] : {std::pair(axLimits.xmlDepth - 1, ""), std::pair(axLimits.xmlDepth, ""),
+                                      std::pair(axLimits.xmlDepth + 1, "nesting-limit")})
+    {
+        EXPECT_EQ(ofXml(repeated("<a>", depth) + repeated("</a>", depth)), code) << depth;
+    }
+}
+
+TEST_F(Limits, AttributesOfAnElement)
+{
+    for (auto const& [count, code] : {std::pair(axLimits.xmlAttributes - 1, ""), std::pair(axLimits.xmlAttributes, ""),
+                                      std::pair(axLimits.xmlAttributes + 1, "attribute-limit")})
+    {
+        std::string text = "<a";
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            text += " a" + std::to_string(i) + "=''";
+        }
+        EXPECT_EQ(ofXml(text + "/>"), code) << count;
+    }
+}
+
+TEST_F(Limits, LengthOfATokenInEveryNotation)
+{
+    for (auto const& [length, code] : {std::pair(axLimits.tokenSize - 1, ""), std::pair(axLimits.tokenSize, ""),
+                                       std::pair(axLimits.tokenSize + 1, "token-limit")})
+    {
+        std::string const token(length, 'x');
+        EXPECT_EQ(ofText("(m1 (display-name \"" + token + "\"))"), code) << length;
+        EXPECT_EQ(ofXml("<a>" + token + "</a>"), code) << length;
+    }
+}
+
+TEST_F(Limits, SizeOfAFile)
+{
+    AxFilename const file = put("big.ope", "(m1 (parameter-type \"zed-object-param\"))");
+    boost::filesystem::resize_file(path("big.ope"), axLimits.fileSize + 1); // takes no room on the disk
+    std::string text;
+    int error = 0;
+    EXPECT_FALSE(axReadWholeFile(file, text, error));
+    EXPECT_EQ(error, EFBIG);
+    put("force.opd", database(entry(theTank, "big.ope")));
+    EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
+    EXPECT_EQ(only(), "");
+    EXPECT_FALSE(db.lookup(tank));
+    EXPECT_FALSE(findings.empty());
+    boost::filesystem::resize_file(path("big.ope"), 40);
+    EXPECT_TRUE(db.lookup(tank));
+}
+
+TEST_F(Limits, ExpansionOfEntitiesAndVariables)
+{
+    std::string bomb = "<!DOCTYPE a [<!ENTITY x0 \"ha\">";
+    for (int i = 1; i < 100; ++i)
+    {
+        std::string const before = "&x" + std::to_string(i - 1) + ";";
+        bomb += "<!ENTITY x" + std::to_string(i) + " \"" + repeated(before, 10) + "\">";
+    }
+    EXPECT_FALSE(AxEnvXMLReader::readText(bomb + "]><a>&x99;</a>", AxFilename("t.xml")));
+    std::string bindings = "(v0 \"ha\")";
+    for (int i = 1; i < 40; ++i)
+    {
+        bindings += "(v" + std::to_string(i) + " \"" + repeated("$(v" + std::to_string(i - 1) + ")", 10) + "\")";
+    }
+    put("m1.ope", record("(display-name \"$(v39)\")"));
+    put("force.opd", database(entry(theTank, "m1.ope"), "(variable-bindings " + bindings + "(loop \"$(loop)\"))"));
+    EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
+    AxZedObjectParameters const* const read = db.lookup(tank);
+    ASSERT_TRUE(read);
+    EXPECT_LE(read->displayName().string().size(), 1000000U);
+}
