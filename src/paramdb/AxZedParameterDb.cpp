@@ -241,13 +241,9 @@ void AxZedParameterDb::release(AxZedParameterDbEntry& entry)
         entry.myItem = nullptr;
         return;
     }
-    for (auto parked = myParked->entries.begin(); parked != myParked->entries.end(); ++parked)
+    if (myParked)
     {
-        if (parked->second == &entry)
-        {
-            myParked->entries.erase(parked);
-            return;
-        }
+        std::erase_if(myParked->entries, [&entry](auto const& parked) { return parked.second == &entry; });
     }
 }
 
