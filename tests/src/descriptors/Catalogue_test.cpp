@@ -196,7 +196,7 @@ Sample const& sampleOf(std::string const& kind)
         {"AxComponentSystemDescriptorList", {{"(gun)", "(radar)"}, "(gun (is-enabled maybe))"}},
         {"AxComponentDescriptorList", components},
         {"AxConnectionDescriptorList",
-         {{"(connect eye:detected gun:targets)", "(connect a:b c:d)"}, "(connect eye:detected)"}},
+         {{"(connect eye:detected gun:targets)", "(connect a:b c:d)"}, "(connect (a b) c)"}},
         {"AxSimResourceManager",
          {{"(real-resource (resource-name \"fuel\") (amount 9.0))", "(integer-resource (resource-name \"rounds\"))"},
           "(real-resource (amount much))"}},
@@ -492,21 +492,24 @@ TEST_F(CatalogueTest, AValueOfTheWrongKindIsOneLineLeavesTheOldOneAndHarmsNoNeig
                                 "AxRwString"};
             std::string const front = isPart(type) ? ";\n" : item(before, "12.5");
             std::string const back = isPart(type) ? ";\n" : item(after, "\"word\"");
-            std::string const old = changingItem(type, keyword, fresh);
+            // Files and extensions are looked for as soon as they are named.
+            bool const hasOld =
+                keyword.kind != "AxReaderWriterFile" && keyword.text != "state-repository-extension-type";
+            std::string const old = hasOld ? changingItem(type, keyword, fresh) : ";\n";
             std::unique_ptr<AxReaderWriter> const valid = readFrom(type, head + old + ")");
             findings.clear();
             std::unique_ptr<AxReaderWriter> const read =
                 readFrom(type, head + front + old + item(keyword, wrong) + back + ")");
-            ASSERT_EQ(findings.size(), 2U);
-            EXPECT_EQ(findings[0].code, "repeated-keyword");
-            EXPECT_EQ(findings[1].line, 4U);
-            EXPECT_GT(findings[1].column, 1U);
+            ASSERT_EQ(findings.size(), hasOld ? 2U : 1U);
+            EXPECT_EQ(findings[0].code == "repeated-keyword", hasOld);
+            EXPECT_EQ(findings.back().line, 4U);
+            EXPECT_GT(findings.back().column, 1U);
             if (!isPart(type))
             {
                 EXPECT_EQ(memberOf(*read, before).writtenText(true), front);
                 EXPECT_EQ(memberOf(*read, after).writtenText(true), back);
             }
-            if (findings[1].text.starts_with('"' + keyword.text + "\" expects"))
+            if (findings.back().text.starts_with('"' + keyword.text + "\" expects"))
             {
                 EXPECT_EQ(memberOf(*read, keyword).writtenText(true), memberOf(*valid, keyword).writtenText(true));
             }

@@ -98,17 +98,19 @@ TYPED_TEST(NamedCopies, TakeValuesUnderTheirOwnNameIntoARegistry)
     }
     else
     {
-        readFrom(source,
-                 "(source (translation 2.0) (clearance-radius 2.0) (warhead 7) (sector-size 2.0) (priority 7)"
-                 " (max-targets 7) (time-to-acquire 7.0) (system-name \"eye\") (is-enabled false)"
-                 " (range-list (range-entry 9.0 (hit 0.5))) (coefficients (hit 0.5))"
-                 " (entity-type 1 1 225 1 1 3 0) (target-type 1 1 225 1 1 3 0) (compatibility-psr-names \"x\"))");
+        readFrom(
+            source,
+            "(source (translation 2.0) (clearance-radius 2.0) (warhead 7) (sector-size 2.0) (priority 7)"
+            " (max-targets 7) (time-to-acquire 7.0) (system-name \"eye\") (is-enabled false)"
+            " (range-list (range-entry 9.0 (hit 0.5))) (coefficients (hit 0.5))"
+            " (entity-type 1 1 225 1 1 3 0) (target-type 1 1 225 1 1 3 0) (resources (real-resource (amount 9.0))))");
     }
     AxReaderWriter owner("owner", nullptr);
 
     TypeParam const copy("copy", source, owner.registry());
 
-    EXPECT_EQ(copy, source);
+    EXPECT_EQ(copy.AxReaderWriter::name(), AxSymbolString("copy"));
+    EXPECT_EQ(TypeParam("source", copy, nullptr), source);
     EXPECT_NE(source, TypeParam(AxSymbolString("source"), nullptr));
     EXPECT_EQ(owner.registry()->lookup(AxSymbolString("copy")), &copy);
 }
