@@ -2,9 +2,10 @@
 
 #include <string_view>
 
-/// Every type of component, of object record and of record that the reader/writer factory makes, as "type : type it extends", and below it the keywords that it adds,
-/// in their order, each with the class of its member. A type in brackets has no name of its own in a text; "-" is a
-/// member without a keyword. The lists that a record gains when it is initialised are left out.
+/// Every type of component, of object record and of record that the reader/writer factory makes, as "type : type it
+/// extends", and below it the keywords that it adds, in their order, each with the class of its member. A type in
+/// brackets has no name of its own in a text; "-" is a member without a keyword. The lists that a record gains when it
+/// is initialised are left out.
 inline constexpr std::string_view theCatalogue = R"(
 component-descriptor : -
     component-type AxRwString; min-tick-period AxRwReal; min-tick-period-variance AxRwReal;
