@@ -464,6 +464,12 @@ TEST_F(CatalogueTest, UnknownItemsHarmNoNeighbourAndAreKept)
             std::unique_ptr<AxReaderWriter> const read = readFrom(type, text + ")");
             EXPECT_EQ(std::ranges::count(findings, "unknown-keyword", &AxDiagnostic::code),
                       static_cast<std::ptrdiff_t>(keywords.size()));
+            if (auto const* component = dynamic_cast<AxComponentDescriptor const*>(read.get()))
+            {
+                auto const told = std::ranges::find(findings, "unknown-keyword", &AxDiagnostic::code);
+                EXPECT_EQ(told->text,
+                          "unknown keyword \"no-such-keyword\" in one (" + component->type().string() + ")");
+            }
             std::string const written = read->writtenText();
             for (Keyword const& keyword : keywords)
             {
