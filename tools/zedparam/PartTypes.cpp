@@ -89,7 +89,7 @@ std::vector<PartType> newPartTypes()
         }
     }
     parts.add<AxPhysicalWorldParams>("physical-world-param");
-    parts.add<AxCommModelDescriptor>();
+    parts.add<AxCommModelDescriptor>("comm-model-descriptor");
     parts.addAll(*AxRwSpatialFilter::factory());
     parts.add<AxTargetAcquireCriteria>();
     parts.add<AxTaskExecutionRules>("task-execution-rules");
