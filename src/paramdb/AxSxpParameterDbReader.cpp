@@ -1,6 +1,7 @@
 #include "AxSxpParameterDbReader.h"
 
 #include "AxExtFileInputStream.h"
+#include "AxObjectElement.h"
 #include "AxParameterDbFiles.h"
 #include "AxReaderWriterFile.h"
 #include "AxRemoteConfigurationList.h"
@@ -277,7 +278,7 @@ void AxSxpParameterDbReader::addEntityFiles(AxFilename const& dataRoot, AxSxpPar
                                                     " stands in the file before; the later element answers",
                                                 AxSeverity::Warning));
             }
-            else if (type.isNull() && matchTypes.empty())
+            else if (type.isNull() && matchTypes.empty() && !AxObjectElement::hasUnreadableType(element))
             {
                 AxDiagnostics::report(axFaultAt("no-object-type", element->line(), element->column(),
                                                 "the element has no object type and no match type, so that nothing "

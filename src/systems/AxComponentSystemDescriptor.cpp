@@ -4,7 +4,10 @@
 #include "AxFaultAt.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRwVariableBindings.h"
+#include "AxTreeCells.h"
+#include "AxUnreadDefinition.h"
 #include "AxlFunctions.h"
+#include "AxlPrint.h"
 #include "axTryNew.h"
 
 #include <vector>
@@ -139,17 +142,35 @@ AxlObjPtr AxComponentSystemDescriptor::getData(AxlObjPtr const& items, AxFilenam
     // The definition declares the keywords of other items, so it is read before them wherever it stands.
     std::vector<AxlObj const*> definition;
     std::vector<AxlObj const*> others;
+    std::vector<std::pair<AxSymbolString, AxlObj const*>> open; ///< that may be declared, behind what they stand
+    AxSymbolString last;
     for (AxlObj const* rest = items.get(); rest->isPair(); rest = rest->cdr())
     {
         AxlObj const* const item = rest->car();
-        bool const isDefinition = registry()->find(item->car()->symbol()) == &mySystemDefinitionFile;
-        (isDefinition ? definition : others).push_back(item);
+        AxSymbolString const keyword = item->car()->symbol();
+        AxReaderWriter const* const member = registry()->find(keyword);
+        (member == &mySystemDefinitionFile ? definition : others).push_back(item);
+        last = member ? member->AxReaderWriter::name() : last;
+        if (!member && !keyword.isNull() && keyword != AxTreeCells::theXmlHead)
+        {
+            open.emplace_back(last, item);
+        }
     }
     if (!definition.empty())
     {
         readItems(listOf(definition).get(), files, bindings);
     }
     addVariableBindingsFromMetaData();
+    if (axHasUnreadDefinition(*this))
+    {
+        for (auto const& [place, item] : open)
+        {
+            std::string text;
+            axAppendCell(text, item);
+            keepItem(place, std::move(text));
+            std::erase(others, item);
+        }
+    }
     return definition.empty() ? items : listOf(others);
 }
 

@@ -85,6 +85,22 @@ std::vector<AxObjectType> AxObjectElement::matchTypesOf(AxEnvValuePtr const& ele
     return types;
 }
 
+bool AxObjectElement::hasUnreadableType(AxEnvValuePtr const& element)
+{
+    bool isUnreadable = false;
+    auto const look = [&isUnreadable](AxEnvObjectPtr const& child)
+    {
+        AxObjectType type;
+        std::string const text = AxElement::attribute(child, "value").string();
+        isUnreadable = isUnreadable || (!AxTreeCells::isBlank(text) && !AxObjectType::fromString(text, type));
+    };
+    AxElement::forEach(element, theTypeTag, look);
+    AxElement::forEach(element, theMatchTypeTag, look);
+    AxElement::forEach(element, theTypesTag,
+                       [&look](AxEnvObjectPtr const& group) { AxElement::forEach(group, theTypeTag, look); });
+    return isUnreadable;
+}
+
 void AxObjectElement::reportRests(AxEnvValuePtr const& element)
 {
     for (char const* const tag : theParts)

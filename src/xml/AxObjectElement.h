@@ -23,6 +23,8 @@ inline constexpr char const* theFurtherTypes = "additional-match-types";
 AxObjectType objectTypeOf(AxEnvValuePtr const& element, bool reports);
 std::vector<AxObjectType> matchTypesOf(AxEnvValuePtr const& element, bool reports);
 
+/// Whether one of its types cannot be read, which is told when it is asked for.
+bool hasUnreadableType(AxEnvValuePtr const& element);
 /// Tells what the elements of types and variables say that nobody knows.
 void reportRests(AxEnvValuePtr const& element);
 /// A copy of what it holds besides; null when there is none.

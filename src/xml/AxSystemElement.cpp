@@ -4,6 +4,7 @@
 #include "AxRwElement.h"
 #include "AxRwVariableBindings.h"
 #include "AxTreeCells.h"
+#include "AxUnreadDefinition.h"
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
 #include "AxlSyntaxError.h"
@@ -130,6 +131,25 @@ void addRest(AxEnvObjectPtr const& rest, AxEnvObject& record)
     }
 }
 
+/// Items that the definition may declare, which is not known, become variables again.
+void moveOpenItems(AxEnvironmentPtr const& env, AxEnvObject& record, AxEnvObjectPtr const& variables)
+{
+    std::vector<AxEnvValuePtr> const children = record.children();
+    for (AxEnvValuePtr const& node : children)
+    {
+        AxEnvObjectPtr const child = node->castToObject();
+        bool const isItem =
+            child && child->type() == AxTreeCells::theTextTag && child->hasName() && child->count() == 1;
+        AxlObjPtr const cells = isItem ? AxTreeCells::cellIn(child->children().front()->value()) : AxlObjPtr();
+        AxlObj const* const item = cells->car();
+        if (item->car()->isSymbol() && item->cdr()->isPair())
+        {
+            AxSystemElement::addVariable(env, variables, child->name(), item->cdr());
+            record.remove(node);
+        }
+    }
+}
+
 /// Items that were not understood stand behind their neighbours, which are about to move: says which these are.
 void nameNeighbours(AxEnvObject& record)
 {
@@ -213,6 +233,10 @@ void AxSystemElement::fromRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr con
         }
         AxlObjPtr const written = AxTreeCells::parsed(entry.member->writtenText());
         addVariable(env, variables, keyword, written->car()->cdr());
+    }
+    if (axHasUnreadDefinition(descriptor))
+    {
+        moveOpenItems(env, *record, variables);
     }
     while (AxEnvObjectPtr const kept = AxElement::first(record, theVariablesTag))
     {

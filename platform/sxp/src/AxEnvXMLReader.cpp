@@ -155,6 +155,7 @@ private:
     void comment(char const* text, char const*);
     void instruction(char const* target, char const* data);
     void doctype(char const* name, char const*);
+    void endDoctype(char const*, char const*);
 
     void setHandlers();
     TextPlaces::Place currentPlace() const;
@@ -163,6 +164,7 @@ private:
     AxEnvListPtr openList();
     void endText();
     static void dropLayout(AxEnvObject& object);
+    AxDiagnostic findingHere(AxSeverity severity, char const* code, std::string text) const;
     void report(AxSeverity severity, char const* code, std::string text) const;
     void fail(char const* code, std::string text);
 
@@ -183,6 +185,7 @@ private:
     AxEnvValuePtr myValue;
     std::string myGathered;
     bool myFailed = false;
+    AxDiagnostic myDoctype; ///< told at the end of the declaration
 };
 
 XmlParse::XmlParse(std::string_view text, AxFilename const& file, bool reports)
@@ -212,6 +215,7 @@ void XmlParse::setHandlers()
     XML_SetProcessingInstructionHandler(parser, guarded<&XmlParse::instruction>);
     XML_SetStartDoctypeDeclHandler(parser, [](void* self, char const* name, char const*, char const*, int)
                                    { guarded<&XmlParse::doctype>(self, name, ""); });
+    XML_SetEndDoctypeDeclHandler(parser, [](void* self) { guarded<&XmlParse::endDoctype>(self, "", ""); });
     XML_SetEntityDeclHandler(
         parser, [](void* self, char const*, int, char const*, int, char const*, char const*, char const*, char const*)
         { static_cast<XmlParse*>(self)->fail("xml-entity", "entity declarations are not accepted"); });
@@ -236,12 +240,8 @@ AxEnvironmentPtr XmlParse::read()
     return myFailed ? AxEnvironmentPtr() : myEnvironment;
 }
 
-void XmlParse::report(AxSeverity severity, char const* code, std::string text) const
+AxDiagnostic XmlParse::findingHere(AxSeverity severity, char const* code, std::string text) const
 {
-    if (!myReports)
-    {
-        return;
-    }
     AxDiagnostic finding;
     finding.severity = severity;
     finding.code = code;
@@ -250,7 +250,15 @@ void XmlParse::report(AxSeverity severity, char const* code, std::string text) c
     finding.line = found.line;
     finding.column = found.column;
     finding.text = std::move(text);
-    AxDiagnostics::report(std::move(finding));
+    return finding;
+}
+
+void XmlParse::report(AxSeverity severity, char const* code, std::string text) const
+{
+    if (myReports)
+    {
+        AxDiagnostics::report(findingHere(severity, code, std::move(text)));
+    }
 }
 
 void XmlParse::fail(char const* code, std::string text)
@@ -431,7 +439,17 @@ void XmlParse::instruction(char const* target, char const* data)
 
 void XmlParse::doctype(char const* name, char const*)
 {
-    report(AxSeverity::Warning, "xml-doctype", "document type declaration \"" + std::string(name) + "\" is dropped");
+    myDoctype = findingHere(AxSeverity::Warning, "xml-doctype",
+                            "document type declaration \"" + std::string(name) + "\" is dropped");
+}
+
+/// Told when nothing in it was refused, which would be the one thing to tell.
+void XmlParse::endDoctype(char const*, char const*)
+{
+    if (myReports && !myFailed)
+    {
+        AxDiagnostics::report(std::move(myDoctype));
+    }
 }
 
 int XmlParse::onEncoding(void* self, char const* name, XML_Encoding* encoding)

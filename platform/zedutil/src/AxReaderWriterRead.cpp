@@ -313,7 +313,10 @@ void AxReaderWriter::reject(AxlObj const* items, std::string const& expected)
     std::string now;
     putData(now, 0);
     bool const isOutOfRange = cell->isSymbol() && axIsNumber(cell->text());
-    std::string text = '"' + name().string().string() + "\" expects " + expected + ", found " + found(cell) +
+    // An element of a list has no name of its own.
+    bool const isNamed = !name().isNull() || !AxReadFrame::innermost;
+    AxSymbolString const owner = isNamed ? name() : AxReadFrame::innermost->record.AxReaderWriter::name();
+    std::string text = '"' + owner.string().string() + "\" expects " + expected + ", found " + found(cell) +
                        (isOutOfRange ? ", beyond the range of a double" : "");
     if (!now.empty())
     {

@@ -141,24 +141,30 @@ void AxTreeForm::finishMember(AxReaderWriter& record, AxReaderWriter& member, Ax
         finish(member, env, node, files, bindings);
         return;
     }
-    AxSymbolString const keyword = member.AxReaderWriter::name();
-    std::vector<AxKeptItem> none;
-    auto& kept = record.flag(AxReaderWriter::KeepsItems) ? record.rare().kept : none;
-    auto const refused = std::find_if(kept.begin(), kept.end(),
-                                      [&](AxKeptItem const& item)
-                                      {
-                                          return item.replaces && item.after == keyword && record.standsFor(item) &&
-                                                 !item.text.starts_with(std::string("(") + AxTreeCells::theXmlHead);
-                                      });
-    AxEnvObjectPtr const rest = AxXmlFragment::restOf(*node, &member, refused == kept.end());
-    if (rest && refused != kept.end())
+    AxEnvObjectPtr const rest = AxXmlFragment::restOf(*node, &member, false);
+    if (!rest)
     {
-        refused->text = AxTreeCells::xmlItem(AxXmlFragment::ofNode(*node));
+        return;
     }
-    else if (rest)
+    if (record.flag(AxReaderWriter::KeepsItems))
     {
-        record.keepItem(keyword, AxTreeCells::xmlItem(AxXmlFragment::ofNode(*rest)));
+        // A value that was refused is kept with all that its element says.
+        AxSymbolString const keyword(node->hasName() ? node->name() : node->type());
+        std::string const text = AxTreeCells::printed(AxTreeCells::expression(*node, keyword, &member).get());
+        auto& kept = record.rare().kept;
+        auto const refused = std::find_if(kept.begin(), kept.end(),
+                                          [&](AxKeptItem const& item) {
+                                              return item.after == member.AxReaderWriter::name() && item.text == text &&
+                                                     item.element < 0;
+                                          });
+        if (refused != kept.end())
+        {
+            refused->text = AxTreeCells::xmlItem(AxXmlFragment::ofNode(*node));
+            return;
+        }
     }
+    AxXmlFragment::restOf(*node, &member, true);
+    record.keepItem(member.AxReaderWriter::name(), AxTreeCells::xmlItem(AxXmlFragment::ofNode(*rest)));
 }
 
 void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, AxEnvObjectPtr const& node,

@@ -112,10 +112,11 @@ TEST_F(EntityFiles, AFaultGivesOneLineAndTheRestLoads)
         {"<?xml version=\"1.0\" encoding=\"klingon\"?><f/>",
          "bad.entity:1:1: error: encoding \"klingon\" is not supported [xml-encoding]"},
         {"<!DOCTYPE f [<!ENTITY a \"aaaa\">]><f>&a;</f>",
-         "bad.entity:1:13: warning: document type declaration \"f\" is dropped [xml-doctype]\n"
          "bad.entity:1:25: error: entity declarations are not accepted [xml-entity]"},
         {"<f>\n<simObject/></f>", "bad.entity:2:1: warning: the element has no object type and no match type, so that "
                                   "nothing finds it [no-object-type]"},
+        {"<f>\n<simObject><objectType value=\"1:x\"/></simObject></f>",
+         "bad.entity:2:12: error: expected 7 or 8 numbers for an object type, found \"1:x\" [wrong-kind]"},
         {"<f>" + object(exact("1:1:1:225:1:1:4:0"), "") + "\n" + object(exact("1:1:1:225:1:1:4:0"), "") + "</f>",
          "bad.entity:2:1: warning: the type 1:1:1:225:1:1:4:0 stands in the file before; the later element answers "
          "[repeated-type]"},

@@ -111,9 +111,62 @@ TEST_F(EntityMarkers, EachIsToldOnce)
         }
     }
     // What stands beside the record, and what stands in place of a value, which is told as missing.
-    std::set<std::string> const others{"u1", "u10", "u11", "u19", "u21", "u70", "u71", "u72"};
+    // Also attributes of a system whose definition, which is not there, may declare them.
+    std::set<std::string> const others{"u1", "u10", "u11", "u19", "u21", "u61", "u70", "u71", "u72"};
     for (std::string const& marker : markersIn(theMarkers))
     {
         EXPECT_EQ(told[marker], others.contains(marker) ? 0 : 1) << marker;
     }
+}
+
+TEST_F(EntityMarkers, WhatStandsInPlaceOfAValueStays)
+{
+    // Values in other forms than theirs, next to what is told of them.
+    for (auto const& [element, codes] :
+         {std::pair("<real name=\"mass\">62000</real>", "wrong-kind"),
+          std::pair("<real name=\"max-speed\" valeu=\"18\"/>", "wrong-kind"),
+          std::pair("<offsetVector name=\"left-support\" x=\"1\" y=\"2\"/>", "wrong-kind"),
+          std::pair("<mass>5</mass>", "wrong-kind"),
+          std::pair("<AxRadioDescriptors name=\"radios\" note=\"1\"/>", "unknown-attribute"),
+          std::pair("<AxTaskExecutionRules name=\"task-execution-rules\" all-tasks-exclusive=\"true\"/>", ""),
+          std::pair("<AxTaskExecutionRules name=\"task-execution-rules\"/>", "")})
+    {
+        findings.clear();
+        std::string const xml = std::string("<simObject name=\"a\">\n  <platform name=\"a\" "
+                                            "parameter-type=\"moving-object-param\">\n    ") +
+                                element + "\n  </platform>\n</simObject>\n";
+        std::string const written = elementOf(*recordIn(xml));
+        EXPECT_EQ(findings.empty() ? "" : findings[0].code, codes) << element;
+        EXPECT_LE(findings.size(), 1U) << element;
+        EXPECT_NE(written.find(element), std::string::npos) << written;
+        EXPECT_EQ(elementOf(*recordIn(written)), written);
+        EXPECT_NE(throughText(xml).find(element), std::string::npos) << throughText(xml);
+    }
+}
+
+TEST_F(EntityMarkers, RefusedValuesOfAMemberStayBesideEachOther)
+{
+    std::string const xml = "<simObject><platform name=\"a\" parameter-type=\"moving-object-param\" mass=\"7\">"
+                            "<real name=\"mass\">62000</real><mass>5</mass></platform></simObject>";
+    std::string const written = elementOf(*recordIn(xml));
+    EXPECT_NE(written.find("name=\"mass\" value=\"7.0\">62000</"), std::string::npos) << written;
+    EXPECT_NE(written.find("<mass>5</mass>"), std::string::npos) << written;
+    EXPECT_EQ(elementOf(*recordIn(written)), written);
+}
+
+TEST_F(EntityMarkers, VariablesOfASystemThatIsNotThereStayVariables)
+{
+    std::string const system = "<systemName name=\"systemName\" value=\"none.sys\"/>\n    <variableBindings "
+                               "name=\"variable-bindings\">\n      <variable name=\"reload\" value=\"4.0\"/>\n      "
+                               "<variable name=\"crew\" value=\"two\" type=\"string\"/>\n    </variableBindings>";
+    std::string const xml = "<simObject name=\"a\"><platform name=\"a\" parameter-type=\"zed-object-param\"/>"
+                            "<componentSystem name=\"s\">" +
+                            system + "</componentSystem></simObject>";
+    std::string const written = elementOf(*recordIn(xml));
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].code, "missing-file");
+    EXPECT_NE(written.find(system), std::string::npos) << written;
+    std::string const byText = throughText(xml);
+    EXPECT_EQ(findings.back().code, "missing-file") << findings.back().format();
+    EXPECT_NE(byText.find(system), std::string::npos) << byText;
 }
