@@ -133,18 +133,6 @@ TEST_F(AllocationFaults, RecordOfAnEntityFile)
         });
 }
 
-TEST_F(AllocationFaults, DatabaseFile)
-{
-    AxFilename const file(path("force.opd"));
-    hold(
-        [&]() -> Job
-        {
-            auto const forces = std::make_shared<AxSxpParameterDb>();
-            forces->init();
-            return [forces, file] { return forces->load(file); };
-        });
-}
-
 TEST_F(AllocationFaults, FilesThatStandAlone)
 {
     struct Table
