@@ -261,9 +261,25 @@ void AxModelSet::adopt(std::unique_ptr<AxModelSetEntry> entry)
     {
         AxRwList::addToEnd(entry.release());
     }
-    else if (addModel(entry.get(), false) == entry.get())
+    else
     {
-        static_cast<void>(entry.release());
+        try
+        {
+            if (addModel(entry.get(), false) == entry.get())
+            {
+                static_cast<void>(entry.release());
+            }
+        }
+        catch (...)
+        {
+            // What came into the list before the failure belongs to it.
+            myCategoriesAreOld = true;
+            if (itemOf(entry.get()))
+            {
+                static_cast<void>(entry.release());
+            }
+            throw;
+        }
     }
 }
 
@@ -287,13 +303,14 @@ bool AxModelSet::removeModel(AxModelSetEntry* entry)
 
 void AxModelSet::refreshCategories() const
 {
-    if (std::exchange(myCategoriesAreOld, false))
+    if (myCategoriesAreOld)
     {
         myCategories.clear();
         for (AxModelSetEntry const* entry : *this)
         {
             mergeCategories(*entry);
         }
+        myCategoriesAreOld = false;
     }
 }
 
