@@ -133,7 +133,9 @@ void AxModelSet::addToEnd(AxReaderWriter* rw)
         return;
     }
     bool const isIndexed = myIndexedChange == changeCount();
-    AxRwList::addToEnd(entry);
+    AxList::add(entry); // without it the entry stays the caller's
+    setFlag(Specified, true);
+    valueAssigned();
     if (isIndexed)
     {
         addToIndex(last());

@@ -62,11 +62,24 @@ void AxRwList::addToStart(AxReaderWriter* rw)
 
 void AxRwList::addToEnd(AxReaderWriter* rw)
 {
-    if (rw)
+    if (!rw)
+    {
+        return;
+    }
+    try
     {
         AxList::add(rw);
-        edited();
     }
+    catch (...)
+    {
+        // What a list reads is handed over to it; nobody else would delete it.
+        if (AxReadFrame::innermost && &AxReadFrame::innermost->record == this)
+        {
+            delete rw;
+        }
+        throw;
+    }
+    edited();
 }
 
 void AxRwList::edited()
