@@ -22,7 +22,7 @@ public:
     bool operator==(AxPrbProbabilityCoefficients const& other) const { return equals(other); }
 
     int numCoefficients() const { return static_cast<int>(myCoefficients.size()); }
-    /// Coefficients that come in are 0.0; a negative number is taken as 0.
+    /// Coefficients that come in are 0.0; a negative number is taken as 0, one above 1000 as 1000.
     void setNumCoefficients(int number);
     /// The highest power first.
     void setCoefficients(int number, double const* coefficients);

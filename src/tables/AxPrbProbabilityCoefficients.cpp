@@ -62,7 +62,8 @@ bool AxPrbProbabilityCoefficients::equals(AxPrbProbabilityCoefficients const& ot
 
 void AxPrbProbabilityCoefficients::setNumCoefficients(int number)
 {
-    myCoefficients.resize(static_cast<std::size_t>(std::max(number, 0)));
+    constexpr int most = 1000;
+    myCoefficients.resize(static_cast<std::size_t>(std::clamp(number, 0, most)));
     setFlag(Specified, true);
     valueAssigned();
 }

@@ -70,6 +70,8 @@ TEST(AxPrbProbabilityCoefficients, ReportsAccessOutsideTheSet)
     two.setCoefficient(-1, 5.0);
     EXPECT_EQ(warnings.text(), "attempt to access coefficient list out of bounds\n"
                                "attempt to access coefficient list out of bounds\n");
+    two.setNumCoefficients(2000000000);
+    EXPECT_EQ(two.numCoefficients(), 1000);
     two.setNumCoefficients(-3);
     EXPECT_EQ(two.numCoefficients(), 0);
     EXPECT_EQ(two.coefficients(), nullptr);
