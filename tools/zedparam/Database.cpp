@@ -74,6 +74,11 @@ std::unique_ptr<Database> Database::openNone()
 
 std::unique_ptr<Database> Database::open(std::string const& file, std::unique_ptr<AxSxpParameterDbReader> reader)
 {
+    if (file.empty())
+    {
+        AxDiagnostics::report({.code = "cannot-open", .text = "expected the name of a database file, found \"\""});
+        return nullptr;
+    }
     std::unique_ptr<Database> database = openNone();
     if (database != nullptr && reader != nullptr)
     {
