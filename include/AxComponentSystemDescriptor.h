@@ -60,7 +60,7 @@ public:
 private:
     void attachDefinition();
     void declareParametersOf(AxComponentSystemDefinition const& definition, bool reports);
-    void bindReferencesInDefinition();
+    void bindReferencesInDefinition(AxBindingsList const& others);
 
     AxReaderWriterFileExtensible mySystemDefinitionFile{{"system-definition", "", "File that defines the system."},
                                                         registry()};

@@ -7,6 +7,7 @@
 #include "AxStreams.h"
 #include "AxTextReader.h"
 #include "AxZedXmlUtils.h"
+#include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
 #include <algorithm>
@@ -63,14 +64,20 @@ bool parse(AxReaderWriter& rw, std::string const& text, AxFilename const& file)
     try
     {
         AxlInputStream stream(text);
-        AxTextReader reader(stream);
-        reader.read(rw, {file.directory()}, AxReaderWriter::nullVariableReference());
-        if (rw.invalid() || reader.unclosed())
+        std::uint32_t line = 1;
+        std::uint32_t column = 1;
+        bool const isEmpty = !axTextFollows(stream, line, column);
+        if (isEmpty || stream.peekc() != '(')
         {
-            AxWarn("Error parsing %s\n", file.native().c_str());
-            return false;
+            std::string const found = isEmpty ? "the end of the text" : "other text";
+            return failedToParse(
+                axFaultAt("not-a-list", line, column, "expected a list (name item...), found " + found), file);
         }
-        return true;
+        std::string const lineForCutOff = axFormat("Error parsing %s\n", file.native().c_str());
+        AxTextReader reader(stream);
+        reader.setLineForCutOff(lineForCutOff);
+        reader.read(rw, {file.directory()}, AxReaderWriter::nullVariableReference());
+        return !reader.unclosed();
     }
     catch (AxlSyntaxError const& error)
     {
@@ -78,7 +85,7 @@ bool parse(AxReaderWriter& rw, std::string const& text, AxFilename const& file)
     }
     catch (std::exception const& error)
     {
-        return failedToParse(axFault("read-failed", file, error.what()), file);
+        return failedToParse(axFault("read-failed", file, axReason(error)), file);
     }
 }
 /// Whether a type stands there that cannot be read, which was told then.

@@ -1,10 +1,12 @@
 #include "AxParameterDbFiles.h"
 
+#include "AxLimits.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwVariableBindings.h"
 
 #include <boost/filesystem/operations.hpp>
 #include <cstdarg>
+#include <sys/stat.h>
 
 AxFilePtr axOpenToRead(AxFilename const& file)
 {
@@ -59,6 +61,19 @@ AxDiagnostic axFault(char const* code, AxFilename const& file, std::string text,
     fault.file = file.native();
     fault.text = std::move(text);
     return fault;
+}
+
+AxDiagnostic axUnreadable(AxFilename const& file, std::FILE* open)
+{
+    struct stat status
+    {
+    };
+    int const descriptor = open ? fileno(open) : -1;
+    bool const isTooLarge =
+        descriptor >= 0 && fstat(descriptor, &status) == 0 && status.st_size > static_cast<off_t>(axLimits.fileSize);
+    return axFault("unreadable-file", file,
+                   isTooLarge ? "the file is larger than " + std::to_string(axLimits.fileSize) + " bytes"
+                              : std::string("the file cannot be read"));
 }
 
 AxDiagnostic axFaultAt(char const* code, unsigned line, unsigned column, std::string text, AxSeverity severity)

@@ -32,6 +32,8 @@ void axBindDatabaseDirectory(AxRwVariableBindings& bindings, AxFilename const& d
 
 AxDiagnostic axFault(char const* code, AxFilename const& file, std::string text,
                      AxSeverity severity = AxSeverity::Error);
+/// For an opened file whose text cannot be taken; names the limit when that is why.
+AxDiagnostic axUnreadable(AxFilename const& file, std::FILE* open);
 /// A finding at a place of the file that is being read.
 AxDiagnostic axFaultAt(char const* code, unsigned line, unsigned column, std::string text,
                        AxSeverity severity = AxSeverity::Error);

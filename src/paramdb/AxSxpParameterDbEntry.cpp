@@ -71,6 +71,8 @@ struct AxSxpParameterDbEntry::Reading
     ~Reading() { myCurrent = nullptr; }
 
     AxFilename file{};
+    std::string lineForCutOff{};
+    bool isCutOff = false;
     std::uint32_t line = 1;
     std::uint32_t column = 1;
 
@@ -326,13 +328,13 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& fil
         return nullptr;
     }
     AxSourceScope const scope(myReading->file);
+    myReading->lineForCutOff.append("Parameters are invalid for ").append(file.c_str()).append("\n");
     AxZedObjectParameters* const record = readParameterEntry(open.get(), AxEnvironmentPtr(), nullptr);
-    if (record != nullptr && record->invalid())
+    if (record != nullptr && record->invalid() && !myReading->isCutOff)
     {
-        // Dropped where the text's end cut the record off, which was told.
         AxDiagnostics::reportStated(
             axFaultAt("invalid-record", myReading->line, myReading->column, "the record is not complete"),
-            axFormat("Parameters are invalid for %s\n", file.c_str()));
+            myReading->lineForCutOff);
     }
     return record;
 }
@@ -344,7 +346,7 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readParameterEntry(std::FILE* file
     AxExtFileInputStream stream(file, name);
     if (!stream.isValid())
     {
-        AxDiagnostics::reportStated(axFault("unreadable-file", name, "the file cannot be read"),
+        AxDiagnostics::reportStated(axUnreadable(name, file),
                                     axFormat("couldn't create lisp stream for %s\n", myFilename.c_str()));
         return nullptr;
     }
@@ -376,6 +378,12 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readRecord(AxlInputStream& stream,
                                                          AxEnvValuePtr* value)
 {
     AxTextReader reader(stream);
+    bool unasked = false;
+    bool& isCutOff = myReading != nullptr ? myReading->isCutOff : unasked;
+    if (myReading != nullptr)
+    {
+        reader.setLineForCutOff(myReading->lineForCutOff);
+    }
     std::string_view const type = reader.peekType("parameter-type");
     AxZedObjectParameterFactory const* const records = AxZedObjectParameters::factory();
     // A derived entry may have a step of its own between the expression and the record.
@@ -393,6 +401,7 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readRecord(AxlInputStream& stream,
         {
             reader.finish();
             record->setInvalid(record->invalid() || reader.unclosed());
+            isCutOff = reader.unclosed();
             return record.release();
         }
     }
@@ -404,7 +413,9 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readRecord(AxlInputStream& stream,
         AxDiagnostics::report(axFaultAt("empty-file", 1, 1, "expected a record, found an empty file"));
         return nullptr;
     }
-    result.reportUnclosed();
+    bool const isKept = myReading != nullptr && namesType(result.expr.get());
+    result.reportUnclosed(isKept ? myReading->lineForCutOff : std::string());
+    isCutOff = result.unclosed;
     AxZedObjectParameters* const record = loadParameters(result.expr, env, value);
     if (record && result.unclosed)
     {

@@ -77,7 +77,7 @@ bool readVersion(AxFilename const& file, std::FILE* open, int& version)
     if (!stream.isValid())
     {
         AxDiagnostics::reportStated(
-            axFault("unreadable-file", file, "the file cannot be read"),
+            axUnreadable(file, open),
             axFormat("AxSxpParameterDbFileData::isSxpParameterDbData() : couldn't create lisp stream for %s\n",
                      file.native().c_str()));
         return false;
@@ -235,7 +235,7 @@ bool AxSxpParameterDbFileData::getVersion(AxFilename const& file, int& version)
     }
     catch (std::exception const& error)
     {
-        AxDiagnostics::report(axFault("read-failed", file, error.what()));
+        AxDiagnostics::report(axFault("read-failed", file, axReason(error)));
     }
     return false;
 }

@@ -201,7 +201,7 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
     AxExtFileInputStream input(stream, file);
     if (!input.isValid())
     {
-        AxDiagnostics::reportStated(axFault("unreadable-file", file, "the file cannot be read"),
+        AxDiagnostics::reportStated(axUnreadable(file, stream),
                                     axFormat("couldn't create lisp stream for %s\n", file.native().c_str()));
         return false;
     }
@@ -214,12 +214,11 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
     }
     catch (AxlSyntaxError const& error)
     {
-        AxDiagnostics::report(error.diagnostic());
-        return false;
+        AxDiagnostics::report(error.diagnostic()); // what was read before counts, as in a text that is cut off
     }
     catch (std::exception const& error)
     {
-        AxDiagnostics::report(axFault("read-failed", file, error.what()));
+        AxDiagnostics::report(axFault("read-failed", file, axReason(error)));
         return false;
     }
     bool isBound = false;
@@ -386,7 +385,7 @@ bool AxSxpParameterDbReader::load(AxFilename const& file, AxZedObjectParametersL
     AxExtFileInputStream input(stream.get(), file);
     if (!input.isValid())
     {
-        AxDiagnostics::reportStated(axFault("unreadable-file", file, "the file cannot be read"),
+        AxDiagnostics::reportStated(axUnreadable(file, stream.get()),
                                     axFormat("couldn't create lisp stream for %s\n", file.native().c_str()));
         return false;
     }
@@ -405,7 +404,7 @@ bool AxSxpParameterDbReader::load(AxFilename const& file, AxZedObjectParametersL
     }
     catch (std::exception const& error)
     {
-        AxDiagnostics::report(axFault("read-failed", file, error.what()));
+        AxDiagnostics::report(axFault("read-failed", file, axReason(error)));
         return false;
     }
     list->inheritValuesFromAncestors();

@@ -104,7 +104,7 @@ bool AxZedObjectParametersDB::readParameterFile(AxString const& file)
             AxExtFileInputStream stream(open.get(), name);
             if (!stream.isValid())
             {
-                AxDiagnostics::reportStated(axFault("unreadable-file", name, "the file cannot be read"),
+                AxDiagnostics::reportStated(axUnreadable(name, open.get()),
                                             axFormat("couldn't create lisp stream for %s\n", file.c_str()));
                 return false;
             }
@@ -123,7 +123,7 @@ bool AxZedObjectParametersDB::readParameterFile(AxString const& file)
             }
             catch (std::exception const& error)
             {
-                AxDiagnostics::reportStated(axFault("read-failed", name, error.what()),
+                AxDiagnostics::reportStated(axFault("read-failed", name, axReason(error)),
                                             axFormat("Error parsing %s\n", file.c_str()));
                 return false;
             }

@@ -176,22 +176,36 @@ AxlObjPtr AxComponentSystemDescriptor::getData(AxlObjPtr const& items, AxFilenam
 
 void AxComponentSystemDescriptor::postGetSelf()
 {
-    bindReferencesInDefinition();
+    bindReferencesInDefinition({});
 }
 
 void AxComponentSystemDescriptor::bindVariables(AxBindingsList const& bindings)
 {
     AxReaderWriter::bindVariables(bindings);
-    bindReferencesInDefinition();
+    bindReferencesInDefinition({});
 }
 
 void AxComponentSystemDescriptor::bindLocalVariables(AxBindingsList const& bindings)
 {
-    AxReaderWriter::bindLocalVariables(bindings);
-    bindReferencesInDefinition();
+    // As every record does it, but for the definition, which is walked once for all that may be known in it: walked
+    // twice, the time would double with each definition inside another.
+    if (isVariableReference() && !variableIsBound())
+    {
+        readBinding(nullFilenames(), bindings);
+    }
+    for (std::size_t i = 0; i < registry()->size(); ++i)
+    {
+        AxRegistryEntry const entry = registry()->entry(i);
+        if (!entry.content && entry.member != &mySystemDefinitionFile)
+        {
+            entry.member->bindLocalVariables(bindings);
+        }
+    }
+    mySystemDefinitionFile.AxReaderWriter::bindLocalVariables(bindings);
+    bindReferencesInDefinition(bindings);
 }
 
-void AxComponentSystemDescriptor::bindReferencesInDefinition()
+void AxComponentSystemDescriptor::bindReferencesInDefinition(AxBindingsList const& others)
 {
     if (!myDefinition->hasVariableReference())
     {
@@ -211,7 +225,9 @@ void AxComponentSystemDescriptor::bindReferencesInDefinition()
         }
     }
     bool const wasChanged = mySystemDefinitionFile.contentChanged();
-    myDefinition->bindLocalVariables({&values});
+    AxBindingsList sets = others;
+    sets.push_back(&values);
+    myDefinition->bindLocalVariables(sets);
     if (!wasChanged)
     {
         mySystemDefinitionFile.clearChanged(); // a reference that is bound is written as it was

@@ -118,7 +118,8 @@ struct TextTree::Builder
     {
         if (open.empty())
         {
-            addFault("stray-parenthesis", "\")\" closes no list", 1);
+            addFault("stray-parenthesis", "expected \"(\" or the end of the text, found \")\", which closes no list",
+                     1);
             return;
         }
         add(Kind::Close, 1, open.back());
@@ -147,7 +148,8 @@ struct TextTree::Builder
         static constexpr char theDigits[] = "0123456789abcdef";
         auto const byte = static_cast<unsigned char>(text[at]);
         addFault("control-byte",
-                 std::string("control byte 0x") + theDigits[byte >> 4] + theDigits[byte & 15] + " outside of a string",
+                 std::string("expected text, found the control byte 0x") + theDigits[byte >> 4] + theDigits[byte & 15] +
+                     " outside of a string",
                  lengthWhile(isControl));
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <string>
 
@@ -52,3 +53,6 @@ public:
     /// `statedLine` on AxWarn, which is due even where the place is settled.
     static void reportStated(AxDiagnostic diagnostic, std::string const& statedLine);
 };
+
+/// What an exception says, in words for a finding where it has none of its own. Lives as long as the exception.
+ZEDOBJPARAM_API char const* axReason(std::exception const& error);

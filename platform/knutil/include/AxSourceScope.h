@@ -20,6 +20,9 @@ public:
     /// The file of the innermost scope; the null name outside of all.
     static AxFilename const& currentFile();
 
+    /// Which outermost scope this is inside of, counted from 1 as they begin; 0 outside of all.
+    static unsigned long outermost();
+
     /// Says that what was told of this place of the current file is enough: findings there are dropped until the
     /// outermost scope of that file ends.
     static void settle(unsigned line, unsigned column);

@@ -1,6 +1,7 @@
 #include "AxDiagnostic.h"
 
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "AxStreams.h"
@@ -18,6 +19,50 @@ char const* severityText(AxSeverity severity)
     default:
         return "error";
     }
+}
+
+/// The bytes of the UTF-8 character that begins a text; 0 when none does, or a control character above ASCII.
+std::size_t characterSize(std::string_view text)
+{
+    auto const byte = [text](std::size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
+    std::size_t const size = byte(0) < 0x80 ? 1 : byte(0) < 0xC2 ? 0 : byte(0) < 0xE0 ? 2 : byte(0) < 0xF0 ? 3 : 4;
+    bool const isOdd = byte(0) > 0xF4 || (byte(0) == 0xC2 && byte(1) < 0xA0) || (byte(0) == 0xE0 && byte(1) < 0xA0) ||
+                       (byte(0) == 0xED && byte(1) > 0x9F) || (byte(0) == 0xF0 && byte(1) < 0x90) ||
+                       (byte(0) == 0xF4 && byte(1) > 0x8F);
+    for (std::size_t i = 1; i < size; ++i)
+    {
+        if (byte(i) < 0x80 || byte(i) > 0xBF)
+        {
+            return 0;
+        }
+    }
+    return isOdd ? 0 : size;
+}
+
+/// One line that leaves a terminal as it is: blanks for control characters, bytes that are no text in hexadecimal.
+std::string printable(std::string_view text)
+{
+    static constexpr char theDigits[] = "0123456789abcdef";
+    std::string line;
+    for (std::size_t i = 0; i < text.size();)
+    {
+        std::size_t const size = characterSize(text.substr(i));
+        auto const byte = static_cast<unsigned char>(text[i]);
+        if (size == 0)
+        {
+            line.append("\\x").append(1, theDigits[byte >> 4]).append(1, theDigits[byte & 15]);
+        }
+        else if (byte < 0x20 || byte == 0x7F)
+        {
+            line += ' ';
+        }
+        else
+        {
+            line += text.substr(i, size);
+        }
+        i += size == 0 ? 1 : size;
+    }
+    return line;
 }
 
 /// Shared, so that a sink may replace itself while it runs; never destroyed, so that findings may be reported while
@@ -80,12 +125,7 @@ std::string AxDiagnostic::format() const
     {
         result.append(" [").append(code).append("]");
     }
-    for (char& c : result)
-    {
-        bool const control = static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
-        c = control ? ' ' : c;
-    }
-    return result;
+    return printable(result);
 }
 
 AxDiagnostics::Sink AxDiagnostics::setSink(Sink sink)
@@ -130,4 +170,9 @@ void AxDiagnostics::reportStated(AxDiagnostic diagnostic, std::string const& sta
     {
     }
     AxWarn << statedLine;
+}
+
+char const* axReason(std::exception const& error)
+{
+    return dynamic_cast<std::bad_alloc const*>(&error) ? "out of memory" : error.what();
 }

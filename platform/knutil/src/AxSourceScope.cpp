@@ -6,9 +6,13 @@
 namespace
 {
 AxSourceScope* theInnermost = nullptr;
+unsigned long theOutermost = 0;
 } // namespace
 
-AxSourceScope::AxSourceScope(AxFilename file) : myFile(std::move(file)), myOuter(std::exchange(theInnermost, this)) {}
+AxSourceScope::AxSourceScope(AxFilename file) : myFile(std::move(file)), myOuter(std::exchange(theInnermost, this))
+{
+    theOutermost += myOuter == nullptr ? 1 : 0;
+}
 
 AxSourceScope::~AxSourceScope()
 {
@@ -18,6 +22,11 @@ AxSourceScope::~AxSourceScope()
 AxFilename const& AxSourceScope::currentFile()
 {
     return theInnermost != nullptr ? theInnermost->myFile : AxFilename::nullFilename();
+}
+
+unsigned long AxSourceScope::outermost()
+{
+    return theInnermost != nullptr ? theOutermost : 0;
 }
 
 void AxSourceScope::settle(unsigned line, unsigned column)

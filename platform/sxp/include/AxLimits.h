@@ -13,10 +13,13 @@ struct AxLimits
     unsigned xmlAttributes = 10000;
     /// Files that name each other in one chain.
     unsigned fileChain = 32;
-    /// Variables that are made of each other in one chain, and uses of variables in one text; beyond, and when the text
-    /// has grown to the size of a token, further ones are left as they stand.
+    /// Files read within one text because files that it names name them; 100 more for each that it names itself.
+    unsigned fileLoads = 10000;
+    /// Variables that name each other in one chain, and the records open at one time where names may lead to more.
     unsigned variableChain = 32;
-    unsigned variableCount = 10000;
+    unsigned recordNesting = 500;
+    /// Variables put in within one text because variables that it names name them; 100 more for each of those.
+    unsigned variableUses = 1000;
     /// Bytes of one file.
     std::size_t fileSize = std::size_t(1) << 30;
     /// Bytes of one token: an atom, a string, a run of XML text.

@@ -21,8 +21,9 @@ struct ZEDOBJPARAM_API AxlReadResult
     /// What is missing, when something is: the end of that string, else that of the list.
     AxlSyntaxError fault() const;
     /// Reports what was left open, if anything, and settles what follows from it: nothing more is told of the open
-    /// lists themselves and of the atoms that the innermost one ends in.
-    void reportUnclosed() const;
+    /// lists themselves and of the atoms that the innermost one ends in. A `statedLine` is what the warning stream
+    /// gets.
+    void reportUnclosed(std::string const& statedLine = {}) const;
     /// The latter alone.
     void settleCutOff() const;
 };

@@ -23,7 +23,8 @@ public:
     static AxlSyntaxError unclosedString(std::uint32_t line, std::uint32_t column);
 
     char const* what() const noexcept override { return myText.c_str(); }
-    /// "unclosed-list", "unclosed-string", "stray-parenthesis", "control-byte", "nesting-limit" or "token-limit".
+    /// "unclosed-list", "unclosed-string", "stray-parenthesis", "control-byte", "utf-16", "nesting-limit" or
+    /// "token-limit".
     char const* code() const { return myCode; }
     std::string const& text() const { return myText; }
     /// Place of the fault; for something left open, of its beginning.
@@ -32,6 +33,8 @@ public:
 
     /// As an error in the file of the innermost AxSourceScope.
     AxDiagnostic diagnostic() const;
+    /// Reports that, with `statedLine` for the warning stream when there is one.
+    void report(std::string const& statedLine = {}) const;
 
 private:
     char const* myCode;

@@ -119,7 +119,8 @@ private:
     {
         if (myDepth == 0)
         {
-            fail("stray-parenthesis", "\")\" closes no list", myScanner.place());
+            fail("stray-parenthesis", "expected \"(\" or the end of the text, found \")\", which closes no list",
+                 myScanner.place());
         }
         OpenList const& list = myLists[--myDepth];
         return list.last != nullptr ? list.first : AxlCellPool::newNil(list.place);
@@ -214,11 +215,11 @@ void AxlReadResult::settleCutOff() const
     }
 }
 
-void AxlReadResult::reportUnclosed() const
+void AxlReadResult::reportUnclosed(std::string const& statedLine) const
 {
     if (unclosed)
     {
-        AxDiagnostics::report(fault().diagnostic());
+        fault().report(statedLine);
         settleCutOff();
     }
 }

@@ -15,6 +15,11 @@ AxlScanner::AxlScanner(AxlInputStream& stream)
       myTokenBegin(myNext),
       myTokenLineStart(myLineStart)
 {
+    std::string_view const text = stream.myText;
+    if (myNext == text.data() && (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")))
+    {
+        throw AxlSyntaxError("utf-16", "expected text in UTF-8, found UTF-16", 1, 1);
+    }
 }
 
 AxlScanner::~AxlScanner()
@@ -101,8 +106,8 @@ void AxlScanner::failAtControlByte() const
     static constexpr char theDigits[] = "0123456789abcdef";
     auto byte = static_cast<unsigned char>(*myNext);
     throw AxlSyntaxError("control-byte",
-                         std::string("control byte 0x") + theDigits[byte >> 4] + theDigits[byte & 15] +
-                             " outside of a string",
+                         std::string("expected text, found the control byte 0x") + theDigits[byte >> 4] +
+                             theDigits[byte & 15] + " outside of a string",
                          place().line, place().column);
 }
 

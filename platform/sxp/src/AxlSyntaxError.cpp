@@ -31,3 +31,13 @@ AxDiagnostic AxlSyntaxError::diagnostic() const
     diagnostic.text = myText;
     return diagnostic;
 }
+
+void AxlSyntaxError::report(std::string const& statedLine) const
+{
+    if (statedLine.empty())
+    {
+        AxDiagnostics::report(diagnostic());
+        return;
+    }
+    AxDiagnostics::reportStated(diagnostic(), statedLine);
+}

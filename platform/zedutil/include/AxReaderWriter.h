@@ -278,6 +278,8 @@ protected:
     /// Keeps a reference as it stood in the text; it is written instead of the value until a plain value is assigned.
     void keepReference(AxSymbolString variable, std::string written, bool bound);
     std::string const& referenceText() const;
+    /// Reads the value of the reference that is kept; true when it is bound to one now.
+    bool readBinding(AxFilenameList const& files, AxBindingsList const& bindings);
     /// Takes over what an assignment between two members of one kind carries besides the value.
     void carryState(AxReaderWriter const& other);
     /// Remembers the value that `reset` goes back to.
@@ -354,7 +356,6 @@ private:
     /// Reads what follows the name: by the data hook, then member by member or element by element.
     void readBody(AxlObj const* items, AxFilenameList const& files, AxBindingsList const& bindings);
     bool readReference(AxlObj const* items, AxFilenameList const& files, AxBindingsList const& bindings);
-    bool readBinding(AxFilenameList const& files, AxBindingsList const& bindings);
     void bindAll(AxBindingsList const& bindings, bool onlyUnbound);
     void takeHead(AxlObj const* head);
     void reportUnknown(AxlObj const* item, std::string_view word);

@@ -36,7 +36,8 @@ public:
     /// The items of `name` in the first set that knows it; null when none does.
     static AxlObjPtr const* find(AxSymbolString name, AxBindingsList const& bindings);
     /// `text` with each "$(name)" that is known replaced and "$$(" read as "$("; `complete` tells whether all were
-    /// known, `first` which variable was met first (empty: none).
+    /// known, `first` which variable was met first (empty: none). Beyond a limit, which is reported, all of it stays as
+    /// it is written.
     static std::string expand(std::string_view text, AxBindingsList const& bindings, bool* complete = nullptr,
                               AxSymbolString* first = nullptr);
 

@@ -3,6 +3,7 @@
 #include "AxReaderWriterFactory.h"
 #include "AxlInputStream.h"
 
+#include <string>
 #include <string_view>
 
 class AxXmlReader;
@@ -24,6 +25,9 @@ public:
     /// Reads one object either way.
     void read(AxReaderWriter& rw, AxFilenameList const& files, AxBindingsList const& bindings);
 
+    /// What the warning stream gets when the text ends inside a list, instead of the place. Must outlive the reader.
+    void setLineForCutOff(std::string const& line) { myLineForCutOff = &line; }
+
     /// Where reading goes on, for `cellsSince`.
     char const* place() const { return myAt; }
     /// Goes on there, behind what the caller has read himself.
@@ -42,7 +46,7 @@ public:
     /// With `head`, only of an item of that head.
     std::string_view peekType(std::string_view head = {});
 
-    /// True when the text ended inside a list. That was reported, and what follows from it is not.
+    /// True when the text ended inside a list or string. That was reported, and what follows from it is not.
     bool unclosed() const { return myUnclosed; }
 
 private:
@@ -58,6 +62,8 @@ private:
                     AxBindingsList const& bindings);
     /// The list that begins at `from`, as cells; goes on behind it.
     AxlObjPtr cellsAt(char const* from);
+    /// The same for what stands in a list; the end of the text for a string that is cut off there.
+    AxlObjPtr itemAt(char const* from);
     void skipBlanks();
     bool closes();
     bool skipLead(char const* head);
@@ -72,4 +78,5 @@ private:
     char const* myLineStart = nullptr; // of the line located last
     std::uint32_t myLine = 1;
     AxXmlReader* myXml = nullptr; ///< answers instead
+    std::string const* myLineForCutOff = &AxString::nullString().string();
 };

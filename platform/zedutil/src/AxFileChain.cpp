@@ -1,6 +1,7 @@
 #include "AxFileChain.h"
 
 #include "AxLimits.h"
+#include "AxReadFrame.h"
 
 #include <algorithm>
 
@@ -18,7 +19,19 @@ bool AxFileChain::holds(AxFileIdentity const& identity)
 
 bool AxFileChain::isFull()
 {
-    return links().size() >= axLimits.fileChain;
+    return !budget().grants(links().empty()) || links().size() >= axLimits.fileChain ||
+           AxReadFrame::depth() > axLimits.recordNesting;
+}
+
+bool AxFileChain::isFirstRefusal()
+{
+    return budget().isFirstRefusal();
+}
+
+AxReadBudget& AxFileChain::budget()
+{
+    static AxReadBudget loads(axLimits.fileLoads);
+    return loads;
 }
 
 std::string AxFileChain::path(AxFilename const& last)

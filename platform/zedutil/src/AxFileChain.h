@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AxFileCells.h"
+#include "AxReadBudget.h"
 
 #include <string>
 #include <vector>
@@ -11,7 +12,11 @@ class AxFileChain
 public:
     /// Whether the file is being read already, so that reading it would not end.
     static bool holds(AxFileIdentity const& identity);
+    /// Whether no further file may be read: the chain is too long, the records too deep in each other, or too many
+    /// files were read for one text.
     static bool isFull();
+    /// Whether a refusal is the first for its text, and so worth a line.
+    static bool isFirstRefusal();
     /// The names from the outermost to `last`, joined by arrows.
     static std::string path(AxFilename const& last);
 
@@ -28,4 +33,5 @@ private:
         AxFileIdentity identity;
     };
     static std::vector<Link>& links();
+    static AxReadBudget& budget();
 };

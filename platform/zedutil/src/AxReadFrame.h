@@ -32,6 +32,11 @@ struct AxReadFrame
     /// The list that is being read, for faults that have no token of their own; nil outside of all.
     static AxlObj const* list();
 
+    /// How many records are open.
+    static std::size_t depth();
+    /// Says that the list that is being read went beyond a limit.
+    static void reportLimit(char const* code, std::string text);
+
     /// The elements of a long keyed list as they were when it had changed `changeCount` times.
     struct Index
     {

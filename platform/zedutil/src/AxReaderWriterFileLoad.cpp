@@ -183,8 +183,11 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
     }
     if (AxFileChain::isFull())
     {
-        AxDiagnostics::report(faultAt(place, AxSeverity::Error, "file-chain-limit",
-                                      "too many files name each other: " + AxFileChain::path(search.found)));
+        if (AxFileChain::isFirstRefusal())
+        {
+            AxDiagnostics::report(faultAt(place, AxSeverity::Error, "file-chain-limit",
+                                          "too many files name each other: " + AxFileChain::path(search.found)));
+        }
         return false;
     }
     std::string const namedIn = AxSourceScope::currentFile().native();

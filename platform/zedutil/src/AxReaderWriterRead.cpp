@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <boost/make_shared.hpp>
+#include <cmath>
 #include <exception>
 
 AxReadFrame* AxReadFrame::innermost = nullptr;
@@ -45,6 +46,13 @@ std::string printed(AxlObj const* cell)
     return text;
 }
 
+/// A text short enough for a message.
+std::string clipped(std::string_view text)
+{
+    constexpr std::size_t longest = 80;
+    return text.size() > longest ? std::string(text.substr(0, longest)) + "..." : std::string(text);
+}
+
 /// What was found, short enough for a message.
 std::string found(AxlObj const* cell)
 {
@@ -60,6 +68,17 @@ std::string found(AxlObj const* cell)
         text += "...";
     }
     return text;
+}
+
+/// How many items there are when all are numbers, else 0.
+std::size_t numberOfNumbers(AxlObj const* items)
+{
+    std::size_t count = 0;
+    for (; items->isPair() && items->car()->isNumber(); items = items->cdr())
+    {
+        ++count;
+    }
+    return items->isPair() ? 0 : count;
 }
 
 AxDiagnostic diagnostic(AxSeverity severity, char const* code, AxlObj const* place, std::string text)
@@ -117,6 +136,21 @@ std::string AxReadFrame::path()
         }
     }
     return text;
+}
+
+std::size_t AxReadFrame::depth()
+{
+    std::size_t count = 0;
+    for (AxReadFrame const* frame = innermost; frame; frame = frame->outer)
+    {
+        ++count;
+    }
+    return count;
+}
+
+void AxReadFrame::reportLimit(char const* code, std::string text)
+{
+    AxDiagnostics::report(diagnostic(AxSeverity::Error, code, ourItem, std::move(text)));
 }
 
 void AxReaderWriter::getSelf(AxlObjPtr const& expression, AxFilenameList const& files, AxBindingsList const& bindings)
@@ -296,7 +330,7 @@ void AxReaderWriter::reportUnknown(AxlObj const* head, std::string_view word)
         }
     }
     AxDiagnostic unknown = diagnostic(AxSeverity::Warning, "unknown-keyword", head,
-                                      "unknown keyword \"" + std::string(word) + "\" in " + name().string().string() +
+                                      "unknown keyword \"" + clipped(word) + "\" in " + name().string().string() +
                                           (name().isNull() ? "(" : " (") + readerWriterType() + ')');
     std::string_view const nearest = axNearest(word, known);
     if (!nearest.empty())
@@ -312,12 +346,22 @@ void AxReaderWriter::reject(AxlObj const* items, std::string const& expected)
     AxlObj const* const cell = items->tag() == AxlObj::Tag::Pair ? items->car() : items;
     std::string now;
     putData(now, 0);
-    bool const isOutOfRange = cell->isSymbol() && axIsNumber(cell->text());
+    bool const isTooLarge = cell->isSymbol() && axIsNumber(cell->text());
+    bool const isNotItsSize =
+        cell->isNumber() && cell->flonum() == std::trunc(cell->flonum()) && expected.starts_with("a whole number");
+    bool const isOutOfRange = isTooLarge || isNotItsSize;
     // An element of a list has no name of its own.
     bool const isNamed = !name().isNull() || !AxReadFrame::innermost;
     AxSymbolString const owner = isNamed ? name() : AxReadFrame::innermost->record.AxReaderWriter::name();
-    std::string text = '"' + owner.string().string() + "\" expects " + expected + ", found " + found(cell) +
-                       (isOutOfRange ? ", beyond the range of a double" : "");
+    std::string text = '"' + owner.string().string() + "\" expects " + expected + ", found ";
+    if (std::size_t const count = numberOfNumbers(items); count > 1 && !expected.starts_with("a "))
+    {
+        text += std::to_string(count) + " numbers";
+    }
+    else
+    {
+        text += found(cell) + (isTooLarge ? ", beyond the range of a double" : isNotItsSize ? ", out of range" : "");
+    }
     if (!now.empty())
     {
         text += "; " + now + " stays";
@@ -386,7 +430,7 @@ bool AxReaderWriter::readText(std::string_view text, AxFilename const& sourceNam
         AxDiagnostic failure;
         failure.code = "read-failed";
         failure.file = sourceName.string().string();
-        failure.text = error.what();
+        failure.text = axReason(error);
         AxDiagnostics::report(std::move(failure));
     }
     return false;

@@ -1,3 +1,5 @@
+#include "AxLimits.h"
+#include "AxReadBudget.h"
 #include "AxReadFrame.h"
 #include "AxReaderWriter.h"
 #include "AxRegistryShape.h"
@@ -42,6 +44,36 @@ std::string_view wholeReference(AxlObj const* items)
     bool const hasDefault = isPair(first) && isPair(first->cdr());
     return variableOf(hasDefault ? first->car() : first);
 }
+
+/// One variable whose value is being read. What stands in the value may name variables again, itself among them.
+class ValueScope
+{
+public:
+    ValueScope() { ++ourDepth; }
+    ValueScope(ValueScope const&) = delete;
+    ValueScope& operator=(ValueScope const&) = delete;
+    ~ValueScope() { --ourDepth; }
+
+    /// False, and reported, when values would be read too often or too deep in each other.
+    static bool isAllowed(AxSymbolString variable)
+    {
+        static AxReadBudget budget(axLimits.variableUses);
+        if (budget.grants(ourDepth == 1) && ourDepth <= axLimits.variableChain &&
+            AxReadFrame::depth() <= axLimits.recordNesting)
+        {
+            return true;
+        }
+        if (budget.isFirstRefusal())
+        {
+            AxReadFrame::reportLimit("variable-limit",
+                                     "variables name each other too often: \"" + variable.string().string() + '"');
+        }
+        return false;
+    }
+
+private:
+    static inline unsigned ourDepth = 0;
+};
 } // namespace
 
 bool AxReaderWriter::isVariableReference() const
@@ -173,10 +205,9 @@ bool AxReaderWriter::readBinding(AxFilenameList const& files, AxBindingsList con
         return variableIsBound();
     }
     // A variable may name another one; a chain that does not end is left unbound.
-    constexpr int longestChain = 32;
     AxSymbolString variable = variableName();
     AxlObjPtr const* cells = nullptr;
-    for (int i = 0; i < longestChain; ++i)
+    for (unsigned i = 0; i < axLimits.variableChain; ++i)
     {
         cells = AxRwVariableBindings::find(variable, bindings);
         std::string_view const next = cells && isPair(cells->get()) ? variableOf((*cells)->car()) : std::string_view();
@@ -187,7 +218,8 @@ bool AxReaderWriter::readBinding(AxFilenameList const& files, AxBindingsList con
         variable = AxSymbolString(next);
         cells = nullptr;
     }
-    if (!cells)
+    ValueScope const scope;
+    if (!cells || !ValueScope::isAllowed(variable))
     {
         return false;
     }

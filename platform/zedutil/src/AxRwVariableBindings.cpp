@@ -2,6 +2,8 @@
 
 #include "AxDiagnostic.h"
 #include "AxLimits.h"
+#include "AxReadBudget.h"
+#include "AxReadFrame.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRwElement.h"
 #include "AxTreeCells.h"
@@ -29,7 +31,7 @@ public:
 
     void append(std::string_view text)
     {
-        for (std::size_t at = 0; at < text.size();)
+        for (std::size_t at = 0; at < text.size() && !myIsBeyondLimit;)
         {
             std::size_t const next = std::min(text.find('$', at), text.size());
             myOut += text.substr(at, next - at);
@@ -39,6 +41,7 @@ public:
     std::string& out() { return myOut; }
     AxSymbolString first() const { return myFirst; }
     bool isComplete() const { return myIsComplete; }
+    bool isBeyondLimit() const { return myIsBeyondLimit; }
 
 private:
     /// Appends what the beginning of `text`, a "$", stands for; answers how much of it was taken.
@@ -65,10 +68,9 @@ private:
     }
     void appendVariable(AxSymbolString name, std::string_view written)
     {
-        // A variable may be made of others; what does not end, or only after ages, is left as it stands.
-        bool const isWithin =
-            myDepth < axLimits.variableChain && myCount < axLimits.variableCount && myOut.size() < axLimits.tokenSize;
-        AxlObjPtr const* const cells = isWithin ? AxRwVariableBindings::find(name, myBindings) : nullptr;
+        // A variable may be made of others; a chain that does not end is left as it stands.
+        bool const isInChain = myDepth < axLimits.variableChain;
+        AxlObjPtr const* const cells = isInChain ? AxRwVariableBindings::find(name, myBindings) : nullptr;
         if (!cells)
         {
             myIsComplete = false;
@@ -76,7 +78,6 @@ private:
             return;
         }
         ++myDepth;
-        ++myCount;
         AxlObj const* const value = (*cells)->car();
         if (value->isReference())
         {
@@ -84,17 +85,30 @@ private:
         }
         else
         {
-            append(textOf(*cells));
+            appendValue(textOf(*cells));
         }
         --myDepth;
+    }
+    void appendValue(std::string const& value)
+    {
+        static AxReadBudget budget(axLimits.variableUses);
+        mySize += value.size();
+        if (!budget.grants(myDepth == 1) || mySize > axLimits.tokenSize)
+        {
+            myIsBeyondLimit = true;
+            myIsComplete = false;
+            return;
+        }
+        append(value);
     }
 
     AxBindingsList const& myBindings;
     std::string myOut;
     AxSymbolString myFirst;
     bool myIsComplete = true;
+    bool myIsBeyondLimit = false;
     unsigned myDepth = 0;
-    unsigned myCount = 0;
+    std::size_t mySize = 0;
 };
 } // namespace
 
@@ -239,6 +253,12 @@ std::string AxRwVariableBindings::expand(std::string_view text, AxBindingsList c
     if (first)
     {
         *first = expansion.first();
+    }
+    if (expansion.isBeyondLimit())
+    {
+        AxReadFrame::reportLimit("variable-limit",
+                                 "variables name each other too often in \"" + std::string(text.substr(0, 40)) + '"');
+        return std::string(text);
     }
     return std::move(expansion.out());
 }

@@ -212,13 +212,28 @@ AxlObjPtr AxTextReader::cellsAt(char const* from)
     options.closeOpenLists = true;
     AxlReadResult const result = AxcRead(*myStream, AxlEnv(), options);
     myAt = myBegin + myStream->position();
-    if (result.stringLine != 0)
-    {
-        throw result.fault(); // as for a string that is read without cells
-    }
     myUnclosed = myUnclosed || result.unclosed;
-    result.reportUnclosed();
+    result.reportUnclosed(*myLineForCutOff);
     return result.expr;
+}
+
+AxlObjPtr AxTextReader::itemAt(char const* from)
+{
+    try
+    {
+        return cellsAt(from);
+    }
+    catch (AxlSyntaxError const& error)
+    {
+        if (std::strcmp(error.code(), "unclosed-string") != 0)
+        {
+            throw;
+        }
+        error.report(*myLineForCutOff);
+        myUnclosed = true;
+        myAt = myEnd;
+        return axcEof();
+    }
 }
 
 void AxTextReader::locate(char const* place, std::uint32_t& line, std::uint32_t& column)
@@ -250,7 +265,7 @@ void AxTextReader::noteUnclosed(char const* open)
     if (!myUnclosed)
     {
         myUnclosed = true;
-        AxDiagnostics::report(AxlSyntaxError::unclosedList(line, column).diagnostic());
+        AxlSyntaxError::unclosedList(line, column).report(*myLineForCutOff);
     }
     AxSourceScope::settle(line, column);
 }
@@ -390,7 +405,11 @@ void AxTextReader::readElements(AxReaderWriter& rw, char const* open, AxFilename
         }
         if (hasOwn || *myAt != '(' || !ops.readElement(list, *this, files, bindings))
         {
-            list.readElement(cellsAt(myAt).get(), frame, files, bindings);
+            AxlObjPtr const cell = itemAt(myAt);
+            if (!cell->isEof())
+            {
+                list.readElement(cell.get(), frame, files, bindings);
+            }
         }
     }
     ++myAt;
@@ -461,7 +480,11 @@ void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameLis
                 }
             }
         }
-        AxlObjPtr const cell = cellsAt(item);
+        AxlObjPtr const cell = itemAt(item);
+        if (cell->isEof())
+        {
+            continue;
+        }
         if (ownItem)
         {
             if (current == &bindings)

@@ -38,6 +38,9 @@ TEST(AxDiagnostic, PrintsWhatIsKnown)
     diagnostic.file.clear();
     diagnostic.text = "a\nb\x1B[1m";
     EXPECT_EQ(diagnostic.format(), "info: a b [1m");
+    diagnostic.text = "\xC3\xA4 \xE2\x82\xAC \xF0\x9F\x9A\x80|\xFF\xC2\x9B|\xC0\x80\xE4z\xED\xA0\x80\xE2\x82";
+    EXPECT_EQ(diagnostic.format(), "info: \xC3\xA4 \xE2\x82\xAC \xF0\x9F\x9A\x80|\\xff\\xc2\\x9b|"
+                                   "\\xc0\\x80\\xe4z\\xed\\xa0\\x80\\xe2\\x82");
 }
 
 TEST(AxDiagnostics, ReportsToTheSinkAndInOneLine)

@@ -191,16 +191,23 @@ TEST(AxcRead, NamesThePlaceOfEverySyntaxError)
     EXPECT_EQ(errorOf("(a\n  (b c"),
               "2:3 unclosed-list the list is not closed, expected \")\" before the end of the text");
     EXPECT_EQ(errorOf("(a)\n)"), "");
-    EXPECT_EQ(errorOf(" )"), "1:2 stray-parenthesis \")\" closes no list");
+    EXPECT_EQ(errorOf(" )"),
+              "1:2 stray-parenthesis expected \"(\" or the end of the text, found \")\", which closes no list");
     for (char const* openString : {"(a \"b\n)\n", "(a \"b\\\"", "(a \"b\\"})
     {
         EXPECT_EQ(errorOf(openString),
                   "1:4 unclosed-string the string is not closed, expected '\"' before the end of the text");
     }
-    EXPECT_EQ(errorOf("(a\x01)"), "1:3 control-byte control byte 0x01 outside of a string");
-    EXPECT_EQ(errorOf(std::string("(a ") + '\0' + ")"), "1:4 control-byte control byte 0x00 outside of a string");
+    EXPECT_EQ(errorOf("(a\x01)"), "1:3 control-byte expected text, found the control byte 0x01 outside of a string");
+    EXPECT_EQ(errorOf(std::string("(a ") + '\0' + ")"),
+              "1:4 control-byte expected text, found the control byte 0x00 outside of a string");
+    for (char const* mark : {"\xFF\xFE", "\xFE\xFF"})
+    {
+        EXPECT_EQ(errorOf(mark + std::string("(\0a\0", 4)), "1:1 utf-16 expected text in UTF-8, found UTF-16");
+    }
     EXPECT_EQ(errorOf("abcdefghijk\x7F"), "");
-    EXPECT_EQ(errorOf("(abcdefghijk\x7F)"), "1:13 control-byte control byte 0x7f outside of a string");
+    EXPECT_EQ(errorOf("(abcdefghijk\x7F)"),
+              "1:13 control-byte expected text, found the control byte 0x7f outside of a string");
 }
 
 TEST(AxcRead, RefusesListsNestedTooDeep)

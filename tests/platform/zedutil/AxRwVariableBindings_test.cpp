@@ -56,6 +56,37 @@ TEST(AxRwVariableBindings, ExpandsReferencesTheFirstSetFirst)
     EXPECT_FALSE(isComplete);
 }
 
+TEST(AxRwVariableBindings, VariablesThatDoubleEachOtherStayAsTheyAreWritten)
+{
+    std::string const large(1 << 20, 'x');
+    std::string many = "(set (big \"" + large + "\") (sixteen \"";
+    for (int i = 0; i < 17; ++i)
+    {
+        many += "$(big)";
+    }
+    many += "\")";
+    for (int i = 0; i < 60; ++i)
+    {
+        std::string const next = "$(v" + std::to_string(i + 1) + ')';
+        many += " (v" + std::to_string(i) + " \"" + next + next + "\")";
+    }
+    AxRwVariableBindings set;
+    readFrom(set, many + " (v60 \"x\"))");
+    ReportedFindings findings;
+    for (char const* text : {"<$(v0)>", "<$(sixteen)>"})
+    {
+        bool isComplete = true;
+        EXPECT_EQ(AxRwVariableBindings::expand(text, {&set}, &isComplete), text);
+        EXPECT_FALSE(isComplete);
+    }
+    EXPECT_EQ(findings.codes(), "variable-limit@0:0 variable-limit@0:0");
+    AxRwString name("name", nullptr);
+    readFrom(name, "\n(name \"<$(v0)>\")", {&set});
+    EXPECT_EQ(name.value(), "<$(v0)>");
+    EXPECT_EQ(name.writtenText(), "(name \"<$(v0)>\")\n");
+    EXPECT_EQ(findings.codes(), "variable-limit@0:0 variable-limit@0:0 variable-limit@2:1");
+}
+
 TEST(AxRwVariableBindings, FeedsMembersThatAreBoundLater)
 {
     AxRwString path("path", nullptr);

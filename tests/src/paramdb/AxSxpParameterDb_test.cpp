@@ -278,6 +278,18 @@ TEST_F(AxSxpParameterDbTest, WhatATruncatedFileHoldsCountsAndIsOneFinding)
     }
 }
 
+TEST_F(AxSxpParameterDbTest, WhatStandsBeforeAFaultOfTheTextCounts)
+{
+    for (std::string const& fault : {std::string("\x01"), std::string(2000, '(')})
+    {
+        findings.clear();
+        db.removeAll();
+        EXPECT_TRUE(db.load(put("odd.opd", database(entry(theTank, "m1.ope") + fault + entry(theTanks, "m2.ope")))));
+        EXPECT_EQ(findings.size(), 1U) << warned();
+        EXPECT_EQ(db.numParameterEntries(), 1);
+    }
+}
+
 TEST_F(AxSxpParameterDbTest, AnOddFileIsOneFinding)
 {
     struct Case

@@ -2,10 +2,12 @@
 
 #include "AxComponentSystemDefinition.h"
 #include "AxRwReal.h"
+#include "AxRwVariableBindings.h"
 #include "AxSinkScope.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <boost/filesystem.hpp>
 #include <fstream>
 
@@ -200,4 +202,47 @@ TEST(AxComponentSystemDefinition, CompatibilityNamesTakeNoPartInEquality)
     EXPECT_TRUE(a == b);
     b.metaData().setSystemName("n");
     EXPECT_FALSE(a == b);
+}
+
+TEST(AxComponentSystemDescriptor, NamesThatDoubleEachOtherEnd)
+{
+    Folder const folder;
+    std::string bindings = "(variable-bindings (own (a (system-definition (systems $own))))";
+    for (int i = 0; i < 31; ++i)
+    {
+        std::string const next = std::to_string(i + 1);
+        std::string const file = "(system-definition \"" + next + ".sys\")";
+        folder.write((std::to_string(i) + ".sys").c_str(),
+                     "(system-definition (systems (a " + file + ") (b " + file + ")))");
+        std::string const value = "(system-definition (systems $v" + next + "))";
+        bindings += " (v" + std::to_string(i) + " (a " + value + ") (b " + value + "))";
+    }
+    folder.write("31.sys", "(system-definition)");
+    AxRwVariableBindings set;
+    set.readText(bindings + " (v31 (a)))", AxFilename(), {}, {});
+    std::string nested = "$none";
+    for (int i = 0; i < 60; ++i)
+    {
+        nested = "(a (system-definition (systems " + nested + ")))";
+    }
+    struct
+    {
+        std::string systems;
+        char const* code;
+    } const cases[] = {
+        {"(a (system-definition \"0.sys\"))", "[file-chain-limit]"},
+        {"$v0", "[variable-limit]"},
+        {"$own", "[variable-limit]"},
+        {nested, ""},
+    };
+    for (auto const& one : cases)
+    {
+        AxSinkScope warnings(AxWarn);
+        AxComponentSystemDescriptor system("gun", nullptr);
+        system.readText("(gun (system-definition (systems " + one.systems + ")))", AxFilename("gun.ope"),
+                        folder.files(), {&set});
+        std::string const& told = warnings.text();
+        EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), *one.code == '\0' ? 0 : 1) << told;
+        EXPECT_NE(told.find(one.code), std::string::npos) << told;
+    }
 }
