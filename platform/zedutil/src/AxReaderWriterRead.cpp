@@ -50,7 +50,9 @@ std::string printed(AxlObj const* cell)
 std::string clipped(std::string_view text)
 {
     constexpr std::size_t longest = 80;
-    return text.size() > longest ? std::string(text.substr(0, longest)) + "..." : std::string(text);
+    std::string clip(text.substr(0, longest));
+    clip.append(text.size() > longest ? "..." : "");
+    return clip;
 }
 
 /// What was found, short enough for a message.
