@@ -98,12 +98,12 @@ bool AxFileIdentity::look(AxFilename const& file)
     return true;
 }
 
-bool axReadFileCells(AxFilename const& file, AxFileIdentity const& identity, AxlObjPtr& cells)
+bool axReadFileCells(AxFilename const& file, AxFileIdentity const& identity, AxlReadResult& read)
 {
     auto const known = cache().files.find({identity.device, identity.inode});
     if (known != cache().files.end() && known->second.identity == identity)
     {
-        cells = known->second.cells;
+        read = {known->second.cells};
         return true;
     }
     std::string text;
@@ -114,11 +114,13 @@ bool axReadFileCells(AxFilename const& file, AxFileIdentity const& identity, Axl
         return false;
     }
     AxlInputStream stream(std::move(text));
-    cells = AxcRead(stream);
+    AxlReadOptions options;
+    options.closeOpenLists = true;
+    read = AxcRead(stream, AxlEnv(), options);
     reportTrailingText(stream);
-    if (isSettled(identity))
+    if (!read.unclosed && isSettled(identity))
     {
-        keep(identity, cells);
+        keep(identity, read.expr);
     }
     return true;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "AxFilename.h"
-#include "AxlObj.h"
+#include "AxlReadResult.h"
 
 #include <cstdint>
 #include <sys/types.h>
@@ -23,9 +23,10 @@ struct AxFileIdentity
 
 /// Takes the first expression of a file, the end-of-file cell when it has none. Cells are kept, so that a file that
 /// many records name is tokenised once; a file that changed, or that was written too short a time ago to tell, is read
-/// again. Text that follows the expression is reported.
+/// again. Text that follows the expression is reported; what a text that ends too early leaves open is not, and its
+/// cells are not kept.
 ///
 /// False, with errno set, for a file that cannot be read. Throws AxlSyntaxError.
-bool axReadFileCells(AxFilename const& file, AxFileIdentity const& identity, AxlObjPtr& cells);
+bool axReadFileCells(AxFilename const& file, AxFileIdentity const& identity, AxlReadResult& read);
 
 void axForgetFileCells();

@@ -193,10 +193,10 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
     std::string const namedIn = AxSourceScope::currentFile().native();
     AxFileChain const chain(search.found, search.identity);
     AxSourceScope const source(search.found);
-    AxlObjPtr cells;
+    AxlReadResult read;
     try
     {
-        if (!axReadFileCells(search.found, search.identity, cells))
+        if (!axReadFileCells(search.found, search.identity, read))
         {
             AxDiagnostic fault = faultAt(place, AxSeverity::Warning, "missing-file",
                                          "cannot read \"" + file.string().string() + "\": " + std::strerror(errno));
@@ -211,9 +211,9 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
         return false;
     }
     myContent->found = search.found;
-    if (cells->isEof())
+    if (read.expr->isEof())
     {
-        AxDiagnostic empty = faultAt(cells.get(), AxSeverity::Error, "empty-text",
+        AxDiagnostic empty = faultAt(read.expr.get(), AxSeverity::Error, "empty-text",
                                      "expected a list (name item...), found the end of the text");
         empty.line = 1;
         empty.column = 1;
@@ -222,8 +222,13 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
     }
     AxFilenameList directories = files;
     directories.push_front(search.found.directory());
-    myContent->object->getSelf(cells, directories, bindings);
-    return !myContent->object->invalid();
+    if (read.unclosed)
+    {
+        reportParseFailure(search.found, read.fault().diagnostic());
+        read.settleCutOff();
+    }
+    myContent->object->getSelf(read.expr, directories, bindings);
+    return !read.unclosed && !myContent->object->invalid();
 }
 
 std::vector<AxFilename> AxReaderWriterFile::candidates(AxFilename const& file) const

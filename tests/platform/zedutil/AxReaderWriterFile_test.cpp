@@ -220,6 +220,23 @@ TEST(AxReaderWriterFile, PrintsTheStatedLineForTextThatCannotBeParsed)
     }
 }
 
+TEST(AxReaderWriterFile, KeepsWhatStandsInAFileThatIsCutOff)
+{
+    Folder const folder;
+    for (char const* const end : {"", "(r", "(r (value", "(r (value 2", "\"", "(s (value \"ab", "(r (value 1)) (s"})
+    {
+        SCOPED_TRACE(end);
+        folder.write("cut.hit", "(table\n  (r (value 1))\n" + std::string(end));
+        ReportedFindings findings;
+        Weapon gun("gun");
+        readFrom(gun, "(gun (table-file \"cut.hit\"))", {}, folder.search());
+        ASSERT_GE(gun.table.count(), 1);
+        EXPECT_EQ((*gun.table.begin())->value, 1);
+        EXPECT_EQ(findings.all.size(), 1U);
+        EXPECT_FALSE(gun.tableFile.load(folder.search(), {}));
+    }
+}
+
 TEST(AxReaderWriterFile, SearchesInOrderAndBesideTheNamingFileFirst)
 {
     Folder const folder;
