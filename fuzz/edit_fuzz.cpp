@@ -22,7 +22,7 @@ void edit(FileEditor& editor, std::string_view command)
     {
         if (editor.text() == before && !editor.changes().empty())
         {
-            fuzz::fail("what is told as a change is one", before, editor.changes().back());
+            fuzz::fail("what is told as a change is one", before, command);
         }
         return;
     }

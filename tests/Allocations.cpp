@@ -3,9 +3,6 @@
 #include <cstdlib>
 #include <limits>
 #include <new>
-#if defined(__SANITIZE_ADDRESS__)
-#include <dlfcn.h>
-#endif
 
 namespace
 {
@@ -48,22 +45,20 @@ bool AllocationFault::wasHit()
     return wasFaultHit;
 }
 
-#if defined(__SANITIZE_ADDRESS__)
-// The sanitizer's own, so that it still sees what is freed another way than it was made.
-using Allocator = void* (*)(std::size_t);
-
+// All of them: a sanitizer has its own of each, which must not meet these.
 void* operator new(std::size_t size)
 {
-    static auto const next = reinterpret_cast<Allocator>(dlsym(RTLD_NEXT, "_Znwm"));
     countOrFail();
-    return next(size);
+    if (void* const memory = std::malloc(size ? size : 1))
+    {
+        return memory;
+    }
+    throw std::bad_alloc();
 }
 
 void* operator new[](std::size_t size)
 {
-    static auto const next = reinterpret_cast<Allocator>(dlsym(RTLD_NEXT, "_Znam"));
-    countOrFail();
-    return next(size);
+    return operator new(size);
 }
 
 void* operator new(std::size_t size, std::nothrow_t const&) noexcept
@@ -75,16 +70,10 @@ catch (std::bad_alloc const&)
 {
     return nullptr;
 }
-#else
-// Those of arrays, and those that throw nothing, call these.
-void* operator new(std::size_t size)
+
+void* operator new[](std::size_t size, std::nothrow_t const& tag) noexcept
 {
-    countOrFail();
-    if (void* const memory = std::malloc(size ? size : 1))
-    {
-        return memory;
-    }
-    throw std::bad_alloc();
+    return operator new(size, tag);
 }
 
 void operator delete(void* memory) noexcept
@@ -96,4 +85,23 @@ void operator delete(void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }
-#endif
+
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::nothrow_t const&) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::nothrow_t const&) noexcept
+{
+    std::free(memory);
+}

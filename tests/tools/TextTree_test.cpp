@@ -136,9 +136,9 @@ TEST(TextTree, AgreesWithTheReaderOnOddTexts)
 
 TEST(TextTree, AgreesWithTheReaderOnMutatedTexts)
 {
-    static constexpr std::string_view theBytes("()()\"\"\\; \n\r\t\0\x01\x7F"
-                                               "a1.+-e\xEF$",
-                                               25);
+    using namespace std::string_view_literals;
+    static constexpr std::string_view theBytes = "()()\"\"\\; \n\r\t\0\x01\x7F"
+                                                 "a1.+-e\xEF$"sv;
     std::mt19937 random(20);
     auto const below = [&random](std::size_t limit) { return random() % std::max<std::size_t>(limit, 1); };
     for (auto const& [file, example] : exampleTexts())

@@ -16,7 +16,7 @@
 
 namespace
 {
-struct Options
+struct CheckOptions
 {
     std::string file;
     bool json = false;
@@ -83,7 +83,7 @@ void printTiming(double secondsReading)
                  processorSeconds(), usage.ru_maxrss);
 }
 
-int check(Options const& options)
+int check(CheckOptions const& options)
 {
     Findings findings(Findings::Print::Never);
     bool const isDatabase = isDatabaseFile(options.file);
@@ -119,7 +119,7 @@ bool isReadable(std::string const& file)
     return isRead;
 }
 
-int run(Options const& options)
+int run(CheckOptions const& options)
 {
     if (options.list)
     {
@@ -131,7 +131,7 @@ int run(Options const& options)
 
 void addCheckCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<CheckOptions>();
     line.add("check",
              "Checks a database with all its records and tables, or one file; prints every finding with its place.",
              [options] { return run(*options); })

@@ -20,7 +20,7 @@
 
 namespace
 {
-struct Options
+struct ConvertOptions
 {
     std::string file;
     std::string form;
@@ -99,7 +99,7 @@ std::string asEntities(Records const& records)
     return isWhole && AxEnvXMLWriter().writeText(env, text) ? text : std::string();
 }
 
-int convertRecords(Options const& options)
+int convertRecords(ConvertOptions const& options)
 {
     Findings findings(Findings::Print::AtOnce);
     std::unique_ptr<Database> const database =
@@ -143,7 +143,7 @@ int convertRecords(Options const& options)
     return findings.empty() ? Fine : HasFindings;
 }
 
-int convert(Options const& options)
+int convert(ConvertOptions const& options)
 {
     bool const isDatabase = options.file.ends_with(AxSxpParameterDb::opdFilenameExtension().string());
     if (!isDatabase)
@@ -161,7 +161,7 @@ int convert(Options const& options)
 
 void addConvertCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<ConvertOptions>();
     line.add("convert", "Writes the record in a file, or all records of a database, in another notation.",
              [options] { return convert(*options); })
         .required("FILE", options->file, "A record file (.ope), an entity file (.entity) or a database (.opd)")

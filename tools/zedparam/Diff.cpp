@@ -11,7 +11,7 @@
 
 namespace
 {
-struct Options
+struct DiffArguments
 {
     std::string files[2];
     std::string database;
@@ -25,7 +25,7 @@ bool isDatabase(std::string const& file)
 }
 
 /// False after reports when it could not run.
-bool compare(Options const& options, DiffReport& report)
+bool compare(DiffArguments const& options, DiffReport& report)
 {
     if (isDatabase(options.files[0]) && isDatabase(options.files[1]))
     {
@@ -34,7 +34,7 @@ bool compare(Options const& options, DiffReport& report)
     return compareFiles({}, options.files[0], options.files[1], options.database, options.how, report);
 }
 
-int diff(Options const& options)
+int diff(DiffArguments const& options)
 {
     Findings findings(Findings::Print::Never);
     JsonWriter json;
@@ -62,7 +62,7 @@ int diff(Options const& options)
 
 void addDiffCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<DiffArguments>();
     line.add("diff", "What tells two records, tables, definitions or databases apart: a line for each difference.",
              [options] { return diff(*options); })
         .required("A", options->files[0], "A file of any kind, or a database (.opd)")

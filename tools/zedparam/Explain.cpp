@@ -148,7 +148,7 @@ void printMeanings(std::vector<Meaning> const& meanings)
     }
 }
 
-struct Options
+struct ExplainOptions
 {
     std::string keyword;
     std::string database;
@@ -156,7 +156,7 @@ struct Options
 };
 
 /// What the keyword means, without a database.
-int explain(Options const& options)
+int explain(ExplainOptions const& options)
 {
     std::vector<Meaning> const meanings = meaningsOf(options.keyword);
     if (meanings.empty())
@@ -176,7 +176,7 @@ int explain(Options const& options)
 }
 
 /// The same, and how the records of the database use it. A keyword alone is meant wherever it stands.
-int explainUse(Options const& options)
+int explainUse(ExplainOptions const& options)
 {
     bool const isPath = options.keyword.find('/') != std::string::npos;
     KeywordPath path;
@@ -219,7 +219,7 @@ int explainUse(Options const& options)
 
 void addExplainCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<ExplainOptions>();
     line.add("explain", "What a keyword means, which types have it, and how a database uses it.",
              [options] { return options->database.empty() ? explain(*options) : explainUse(*options); })
         .required("KEYWORD", options->keyword, "The keyword, such as max-speed; with a database also a path")

@@ -22,7 +22,7 @@
 
 namespace
 {
-struct Options
+struct FindOptions
 {
     std::string database;
     std::string expression;
@@ -72,7 +72,7 @@ void reportUnknown(FindExpression const& expression)
 class Search
 {
 public:
-    Search(Options const& options, FindExpression& expression, std::vector<KeywordPath> shown)
+    Search(FindOptions const& options, FindExpression& expression, std::vector<KeywordPath> shown)
         : myOptions(options), myExpression(expression), myShown(std::move(shown))
     {
     }
@@ -180,7 +180,7 @@ private:
         myJson.endObject();
     }
 
-    Options const& myOptions;
+    FindOptions const& myOptions;
     FindExpression& myExpression;
     std::vector<KeywordPath> myShown;
     ExpressionFault myFault;
@@ -188,7 +188,7 @@ private:
     bool myHasFound = false;
 };
 
-int find(Options const& options)
+int find(FindOptions const& options)
 {
     ExpressionFault fault;
     std::unique_ptr<FindExpression> const expression = FindExpression::parse(options.expression, fault);
@@ -229,7 +229,7 @@ int find(Options const& options)
 
 void addFindCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<FindOptions>();
     line.add("find", "The records that meet a condition.", [options] { return find(*options); })
         .required("DB", options->database, "The database file (.opd)")
         .required("EXPRESSION", options->expression,

@@ -19,7 +19,7 @@
 
 namespace
 {
-struct Options
+struct FmtOptions
 {
     std::vector<std::string> files;
     bool check = false;
@@ -81,7 +81,7 @@ bool layOut(std::string const& file, std::string const& text, std::string& out)
     return true;
 }
 
-int format(std::string const& file, Options const& options)
+int format(std::string const& file, FmtOptions const& options)
 {
     std::string text;
     std::string out;
@@ -117,7 +117,7 @@ int format(std::string const& file, Options const& options)
 }
 
 /// What went worst.
-int formatAll(Options const& options)
+int formatAll(FmtOptions const& options)
 {
     int exitCode = Fine;
     for (std::string const& file : options.files)
@@ -130,7 +130,7 @@ int formatAll(Options const& options)
 
 void addFmtCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<FmtOptions>();
     line.add("fmt", "Lays files out as the library writes them; comments and what is not known stay.",
              [options] { return formatAll(*options); })
         .required("FILE", options->files, "Parameter text or XML; - reads standard input and writes standard output")

@@ -18,7 +18,7 @@
 
 namespace
 {
-struct Options
+struct GraphOptions
 {
     std::string file;
     std::string type;
@@ -28,7 +28,7 @@ struct Options
     bool dot = false;
 };
 
-int readRecordGraph(Options const& options, SystemGraph& graph)
+int readRecordGraph(GraphOptions const& options, SystemGraph& graph)
 {
     std::unique_ptr<Database> const database =
         options.database.empty() ? Database::openNone() : Database::open(options.database);
@@ -48,7 +48,7 @@ int readRecordGraph(Options const& options, SystemGraph& graph)
 }
 
 /// Answers an exit code; unless that is Fine or HasFindings, a line was printed.
-int readGraph(Options const& options, SystemGraph& graph)
+int readGraph(GraphOptions const& options, SystemGraph& graph)
 {
     if (!options.type.empty())
     {
@@ -81,7 +81,7 @@ int readGraph(Options const& options, SystemGraph& graph)
     return Fine;
 }
 
-int drawGraph(Options const& options)
+int drawGraph(GraphOptions const& options)
 {
     Findings findings(Findings::Print::AtOnce);
     SystemGraph graph;
@@ -112,7 +112,7 @@ int drawGraph(Options const& options)
 
 void addGraphCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<GraphOptions>();
     line.add("graph", "The systems and components of an object, and how they are connected.",
              [options] { return drawGraph(*options); })
         .required("FILE", options->file, "A database (.opd), a record (.ope, .entity), or a component system (.sys)")

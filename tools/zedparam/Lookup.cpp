@@ -26,14 +26,14 @@ void printText(Answer const& answer)
     }
 }
 
-struct Options
+struct LookupOptions
 {
     std::string database;
     std::string type;
     bool json = false;
 };
 
-int lookup(Options const& options)
+int lookup(LookupOptions const& options)
 {
     Findings findings(Findings::Print::AtOnce);
     Answer answer;
@@ -59,7 +59,7 @@ int lookup(Options const& options)
 
 void addLookupCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<LookupOptions>();
     line.add("lookup", "Which entry answers an object type, and from which file.",
              [options] { return lookup(*options); })
         .required("DB", options->database, "The database file (.opd)")

@@ -12,7 +12,7 @@
 
 namespace
 {
-struct Options
+struct MergeArguments
 {
     std::string base;
     std::string ours;
@@ -35,7 +35,7 @@ void printJson(std::string const& name, std::vector<MergeConflict> const& confli
     json.endArray().endObject().print();
 }
 
-int merge(Options const& options)
+int merge(MergeArguments const& options)
 {
     std::string base;
     std::string ours;
@@ -67,7 +67,7 @@ int merge(Options const& options)
 
 void addMergeCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<MergeArguments>();
     line.add("merge",
              "Brings what was changed from BASE to THEIRS into OURS, keyword by keyword; serves git as merge driver.",
              [options] { return merge(*options); })

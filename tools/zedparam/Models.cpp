@@ -18,7 +18,7 @@ namespace
 {
 using Group = AxSimulationObjectGroupModelSetEntry;
 
-struct Options
+struct ModelsOptions
 {
     std::string path;
     std::string label;
@@ -140,7 +140,7 @@ void writeEntry(JsonWriter& json, AxModelSetEntry const& entry)
     json.endObject();
 }
 
-int printFound(AxModelSet const& models, Options const& options, TypeArgument const& type)
+int printFound(AxModelSet const& models, ModelsOptions const& options, TypeArgument const& type)
 {
     AxModelSetEntry* const found =
         options.label.empty() ? findByType(models, type) : models.findByLabel(AxString(options.label));
@@ -168,7 +168,7 @@ int printFound(AxModelSet const& models, Options const& options, TypeArgument co
     return Fine;
 }
 
-int run(Options const& options)
+int run(ModelsOptions const& options)
 {
     TypeArgument type;
     if (!options.type.empty() && !readType(options.type, type))
@@ -211,7 +211,7 @@ int run(Options const& options)
 
 void addModelsCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<ModelsOptions>();
     line.add("models", "What users may create: all models, or one of them.", [options] { return run(*options); })
         .required("PATH", options->path, "A model set file, an .entity or .sog file, or a directory of those")
         .optional("--label", options->label, "The first model of this label")

@@ -19,7 +19,7 @@
 
 namespace
 {
-struct Options
+struct PlotOptions
 {
     std::vector<std::string> files;
     std::string table;
@@ -52,7 +52,7 @@ PlotStyle styleFor(std::string const& wish)
     return mayColour() ? PlotStyle::Coloured : PlotStyle::Unicode;
 }
 
-int plot(Options const& options)
+int plot(PlotOptions const& options)
 {
     Findings findings(Findings::Print::AtOnce);
     std::vector<std::unique_ptr<TableFile>> tables;
@@ -89,7 +89,7 @@ int plot(Options const& options)
 
 void addPlotCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<PlotOptions>();
     line.add("plot", "Draws the probabilities of a table by range, or of two of its versions.",
              [options] { return plot(*options); })
         .required("FILE", options->files,

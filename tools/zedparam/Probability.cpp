@@ -17,7 +17,7 @@
 
 namespace
 {
-struct Options
+struct ProbabilityOptions
 {
     std::string file;
     std::string table;
@@ -79,7 +79,7 @@ bool readMunition(std::string const& text, AxSimMunition& munition)
 }
 
 /// False after a line.
-bool readQuestion(Options const& options, TableQuestion& question)
+bool readQuestion(ProbabilityOptions const& options, TableQuestion& question)
 {
     constexpr Unit theLengths[] = {{"m", 1.0}, {"km", 1000.0}};
     constexpr Unit theAngles[] = {{"deg", 1.0}, {"rad", 180.0 / std::numbers::pi}};
@@ -174,7 +174,7 @@ void printJson(TableFile const& table, TableAnswer& answer)
     json.endObject().print();
 }
 
-int probability(Options const& options)
+int probability(ProbabilityOptions const& options)
 {
     Findings const findings(Findings::Print::AtOnce);
     TableQuestion question;
@@ -208,7 +208,7 @@ int probability(Options const& options)
 
 void addProbabilityCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<ProbabilityOptions>();
     line.add("probability", "Asks a table as the engine does, and shows what answers.",
              [options] { return probability(*options); })
         .required("FILE", options->file,

@@ -20,7 +20,7 @@
 
 namespace
 {
-struct Options
+struct SetOptions
 {
     std::string file;
     std::vector<std::string> edits;
@@ -40,7 +40,7 @@ struct Opened
     std::unique_ptr<FileEditor> editor;
 };
 
-Opened open(Options const& options, std::string const& text)
+Opened open(SetOptions const& options, std::string const& text)
 {
     Opened opened;
     if (isXml(text))
@@ -70,7 +70,7 @@ Opened open(Options const& options, std::string const& text)
     return opened;
 }
 
-void printJson(Options const& options, std::vector<FileEditor::Change> const& changes, AxDiagnostic const* fault)
+void printJson(SetOptions const& options, std::vector<FileEditor::Change> const& changes, AxDiagnostic const* fault)
 {
     auto const text = [](JsonWriter& json, char const* key, std::string const& value)
     {
@@ -95,7 +95,7 @@ void printJson(Options const& options, std::vector<FileEditor::Change> const& ch
 }
 
 /// All edits or none.
-int edit(Options const& options, bool (*apply)(FileEditor& editor, std::string const& edit))
+int edit(SetOptions const& options, bool (*apply)(FileEditor& editor, std::string const& edit))
 {
     std::string text;
     int error = 0;
@@ -149,7 +149,7 @@ void addEditCommand(CommandLine& line, char const* name, char const* help, char 
                     char const* argumentHelp, bool (*apply)(FileEditor& editor, std::string const& edit),
                     std::string (*fault)(std::string const& edit))
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<SetOptions>();
     line.add(name, help, [options, apply] { return edit(*options, apply); })
         .required("FILE", options->file, "The file to change")
         .required(argument, options->edits, argumentHelp)

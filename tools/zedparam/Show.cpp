@@ -21,7 +21,7 @@
 
 namespace
 {
-struct Options
+struct ShowOptions
 {
     std::string database;
     std::string type;
@@ -177,7 +177,8 @@ void forEachValue(RecordWalk& walk, std::vector<KeywordPath> const& paths, bool 
     }
 }
 
-void printOrigins(Answer const& answer, RecordWalk& walk, std::vector<KeywordPath> const& paths, Options const& options)
+void printOrigins(Answer const& answer, RecordWalk& walk, std::vector<KeywordPath> const& paths,
+                  ShowOptions const& options)
 {
     Origins origins(*answer.database, *answer.entry, *answer.record);
     if (!options.json)
@@ -202,7 +203,7 @@ void printOrigins(Answer const& answer, RecordWalk& walk, std::vector<KeywordPat
     json.endArray().endObject().print();
 }
 
-int show(Options const& options)
+int show(ShowOptions const& options)
 {
     Findings findings(Findings::Print::AtOnce);
     Answer answer;
@@ -242,7 +243,7 @@ int show(Options const& options)
 
 void addShowCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<ShowOptions>();
     line.add("show", "The record that answers an object type, or some of its values.",
              [options] { return show(*options); })
         .required("DB", options->database, "The database file (.opd)")

@@ -14,7 +14,7 @@
 
 namespace
 {
-struct Options
+struct TypesOptions
 {
     std::string name;
     bool json = false;
@@ -111,7 +111,7 @@ void writeType(JsonWriter& json, TypeInfo const& type, bool withKeywords)
     json.endObject();
 }
 
-int listTypes(Options const& options)
+int listTypes(TypesOptions const& options)
 {
     JsonWriter json;
     if (options.name.empty() && options.json)
@@ -146,7 +146,7 @@ int listTypes(Options const& options)
 
 void addTypesCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<TypesOptions>();
     line.add("types", "The types of records, components and other parts, or the keywords of one.",
              [options] { return listTypes(*options); })
         .optional("NAME", options->name, "A type, such as turret-component-descriptor; none: all")

@@ -16,7 +16,7 @@
 
 namespace
 {
-struct Options
+struct WhyOptions
 {
     std::string database;
     std::string type;
@@ -278,7 +278,7 @@ void printJson(Account const& account)
     json.endArray().endObject().print();
 }
 
-int why(Options const& options)
+int why(WhyOptions const& options)
 {
     Findings findings(Findings::Print::AtOnce);
     TypeArgument argument;
@@ -307,7 +307,7 @@ int why(Options const& options)
 
 void addWhyCommand(CommandLine& line)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<WhyOptions>();
     line.add("why", "Why an entry answers an object type, and why the others do not.",
              [options] { return why(*options); })
         .required("DB", options->database, "The database file (.opd)")
