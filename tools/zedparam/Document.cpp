@@ -139,8 +139,10 @@ void DocumentTree::addEntityParts(Document const& document)
     for (AxEnvValuePtr const& node : static_cast<AxEnvObject const&>(*document.element).children())
     {
         auto const* const part = node->isObject() ? static_cast<AxEnvObject const*>(node.get()) : nullptr;
-        constexpr char const* theTags[] = {"objectType", "matchType", "objectTypes", "guiInformation"};
-        if (part != nullptr && std::ranges::find(theTags, part->type().string()) != std::end(theTags))
+        constexpr char const* theTagsOfRecord[] = {"platform", "componentSystem", "variableBindings"};
+        bool const isOfRecord =
+            part == nullptr || std::ranges::find(theTagsOfRecord, part->type().string()) != std::end(theTagsOfRecord);
+        if (!isOfRecord && !part->isReserved())
         {
             myRoot.items.push_back(itemOf(*part));
         }
@@ -149,9 +151,11 @@ void DocumentTree::addEntityParts(Document const& document)
 
 TextTree::Place DocumentPlaces::placeOf(Difference const& difference, int side)
 {
-    if (myDocument.kind == Document::Kind::Tree)
+    Item const* const item = difference.item[side];
+    Item const* const nearest = item != nullptr ? item : difference.parent[side];
+    bool const isPart = myDocument.element && nearest != nullptr && !nearest->source;
+    if (myDocument.kind == Document::Kind::Tree || isPart)
     {
-        Item const* const item = difference.item[side];
         return item != nullptr ? valuePlace(*item) : difference.parent[side]->place;
     }
     return myDocument.element ? inElement(difference.path, side) : inText(difference.path, side);
