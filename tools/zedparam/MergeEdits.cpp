@@ -3,36 +3,19 @@
 #include <algorithm>
 #include <utility>
 
-namespace
-{
-bool endsInComment(std::string const& text)
-{
-    TextTree const tree(text);
-    return !tree.tokens().empty() && tree.tokens().back().kind == TextTree::Kind::Comment;
-}
-
-/// Whether the byte in front of `offset` belongs to a comment.
-bool isBehindComment(TextTree const& tree, std::size_t offset)
-{
-    auto const& tokens = tree.tokens();
-    auto const token = std::ranges::lower_bound(tokens, offset, {}, &TextTree::Token::end);
-    return token != tokens.end() && token->end == offset && token->kind == TextTree::Kind::Comment;
-}
-} // namespace
-
-MergeEdits::MergeEdits(TextTree const& text, MergeOptions const& options)
-    : myText(text), myOptions(options), myLineEnd(text.text().find("\r\n") != std::string::npos ? "\r\n" : "\n")
+MergeEdits::MergeEdits(MergeSource const& source, MergeOptions const& options)
+    : mySource(source), myOptions(options), myLineEnd(source.text().find("\r\n") != std::string::npos ? "\r\n" : "\n")
 {
 }
 
-void MergeEdits::replace(std::size_t begin, std::size_t end, std::string with)
+void MergeEdits::replace(MergeSource::Stretch const& what, std::string_view with)
 {
-    myEdits.push_back({begin, end, adapted(with), false, {}});
+    myEdits.push_back({what.begin, what.end, adapted(with), false, {}});
 }
 
-void MergeEdits::conflict(std::size_t begin, std::size_t end, std::string theirs, MergeConflict what)
+void MergeEdits::conflict(MergeSource::Stretch const& ours, std::string_view theirs, MergeConflict what)
 {
-    myEdits.push_back({begin, end, adapted(theirs), true, std::move(what)});
+    myEdits.push_back({ours.begin, ours.end, adapted(theirs), true, std::move(what)});
 }
 
 /// With the line ends of the text that it goes into.
@@ -71,7 +54,7 @@ void MergeEdits::emitKept(std::size_t end)
 {
     if (end > myKept)
     {
-        emit(std::string_view(myText.text()).substr(myKept, end - myKept), isBehindComment(myText, end));
+        emit(mySource.at({myKept, end}), mySource.isBehindLineComment(end));
         myKept = end;
     }
 }
@@ -100,7 +83,7 @@ void MergeEdits::emitConflict(Edit const& edit)
     auto const version = [&](std::string_view text)
     { return text.empty() ? std::string() : indent + std::string(text) + (text.ends_with('\n') ? "" : myLineEnd); };
     out += marker('<', myOptions.ours) + myLineEnd;
-    out += version(std::string_view(myText.text()).substr(edit.begin, edit.end - edit.begin));
+    out += version(mySource.at({edit.begin, edit.end}));
     out += marker('=', {}) + myLineEnd;
     out += version(edit.text);
     out += marker('>', myOptions.theirs);
@@ -121,11 +104,11 @@ MergeResult MergeEdits::apply()
         }
         else
         {
-            emit(edit.text, endsInComment(edit.text));
+            emit(edit.text, mySource.endsInLineComment(edit.text));
         }
         myKept = std::max(myKept, edit.end);
     }
-    emitKept(myText.text().size());
+    emitKept(mySource.text().size());
     if (myNeedsLineEnd)
     {
         myResult.text += myResult.conflicts.empty() ? "" : myLineEnd;

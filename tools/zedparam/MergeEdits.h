@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "MergeSource.h"
 #include "TextMerge.h"
-#include "TextTree.h"
 
 /// Changes to a text, made all at once in the end.
 class MergeEdits
@@ -13,11 +13,11 @@ public:
     /// How many there are, to go back to.
     using Mark = std::size_t;
 
-    MergeEdits(TextTree const& text, MergeOptions const& options);
+    MergeEdits(MergeSource const& source, MergeOptions const& options);
 
-    void replace(std::size_t begin, std::size_t end, std::string with);
-    /// Both versions of what stands from `begin` to `end`, which begins with no blank.
-    void conflict(std::size_t begin, std::size_t end, std::string theirs, MergeConflict what);
+    void replace(MergeSource::Stretch const& what, std::string_view with);
+    /// Both versions of what begins with no blank.
+    void conflict(MergeSource::Stretch const& ours, std::string_view theirs, MergeConflict what);
 
     Mark mark() const { return myEdits.size(); }
     void goBackTo(Mark mark) { myEdits.resize(mark); }
@@ -41,7 +41,7 @@ private:
     void emitConflict(Edit const& edit);
     std::string adapted(std::string_view text) const;
 
-    TextTree const& myText;
+    MergeSource const& mySource;
     MergeOptions const& myOptions;
     char const* myLineEnd;
     std::vector<Edit> myEdits;

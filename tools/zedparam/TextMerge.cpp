@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <memory>
 #include <optional>
-#include <set>
 
 #include "Elements.h"
 #include "MergeEdits.h"
+#include "MergeSource.h"
+#include "XmlLayout.h"
 
 namespace
 {
@@ -17,78 +19,21 @@ enum Version
     Ours,
     Theirs
 };
+using Sources = std::array<std::unique_ptr<MergeSource>, 3>;
 using Items = std::array<Item const*, 3>; // the same item in each version, null where it is not
-
-/// A stretch of tokens.
-struct Stretch
-{
-    std::size_t first = 0;
-    std::size_t last = 0; ///< behind the last
-};
-
-/// A child of a list with the comments that go with it: those in front of it, and one behind it on its line.
-struct Unit
-{
-    Stretch lead{};
-    Stretch trail{};
-};
-
-/// How the children of one list lie in its text.
-class Layout
-{
-public:
-    Layout(TextTree const& tree, TextItem const& list) : myTree(&tree)
-    {
-        std::size_t next = list.firstTokenIndex() + 1;
-        myHead = {list.firstTokenIndex(), next};
-        bool isHead = true;
-        for (TextItem child = list.firstChild(); child; child = child.next())
-        {
-            Unit unit{{next, child.firstTokenIndex()}, {child.lastTokenIndex() + 1, child.lastTokenIndex() + 1}};
-            next = unit.trail.last = behindTrail(unit.trail.first);
-            isHead = isHead && !child.isList();
-            myHead.last = isHead ? next : myHead.last;
-            myUnits.emplace(child.begin(), unit);
-        }
-        myClosing = {next, list.lastTokenIndex()};
-    }
-
-    /// From the parenthesis over head and atoms up to the first list.
-    Stretch head() const { return myHead; }
-    /// In front of the closing parenthesis.
-    Stretch closing() const { return myClosing; }
-    Unit const& unit(TextItem const& child) const { return myUnits.at(child.begin()); }
-
-private:
-    std::size_t behindTrail(std::size_t token) const
-    {
-        auto const& tokens = myTree->tokens();
-        auto const kindAt = [&](std::size_t i) { return i < tokens.size() ? tokens[i].kind : TextTree::Kind::Fault; };
-        bool const hasBlank = kindAt(token) == TextTree::Kind::Blank &&
-                              myTree->textOf(tokens[token]).find('\n') == std::string_view::npos;
-        std::size_t const comment = token + (hasBlank ? 1 : 0);
-        return kindAt(comment) == TextTree::Kind::Comment ? comment + 1 : token;
-    }
-
-    TextTree const* myTree;
-    Stretch myHead;
-    Stretch myClosing;
-    std::map<std::size_t, Unit> myUnits;
-};
 
 class TextMerge
 {
 public:
-    TextMerge(std::array<TextTree, 3> const& trees, MergeOptions const& options)
-        : myTrees(trees), myEdits(trees[Ours], options)
+    TextMerge(Sources const& sources, MergeOptions const& options)
+        : mySources(sources), myEdits(*sources[Ours], options)
     {
     }
 
     /// Nothing when the texts as a whole do not go together.
     std::optional<MergeResult> run()
     {
-        Item const roots[3] = {rootOf(Base), rootOf(Ours), rootOf(Theirs)};
-        Items const items{myTrees[Base].root() ? &roots[Base] : nullptr, &roots[Ours], &roots[Theirs]};
+        Items const items{mySources[Base]->root(), mySources[Ours]->root(), mySources[Theirs]->root()};
         if (!items[Ours]->isList() || !items[Theirs]->isList() || !mergeItem(items) || !mergeAround())
         {
             return std::nullopt;
@@ -97,60 +42,36 @@ public:
     }
 
 private:
+    using Stretch = MergeSource::Stretch;
+    using Unit = MergeSource::Unit;
+    using Layout = MergeSource::Layout;
     using Layouts = std::array<std::optional<Layout>, 3>;
     using Elements = std::map<std::string_view, std::array<Element const*, 3>>;
 
-    Item rootOf(Version version) const
-    {
-        TextItem const root = myTrees[version].root();
-        return root ? itemOf(root) : Item();
-    }
-
     // ---- Texts ----
 
-    std::size_t beginOf(Version version, std::size_t token) const
-    {
-        auto const& tokens = myTrees[version].tokens();
-        return token < tokens.size() ? tokens[token].begin : myTrees[version].text().size();
-    }
-    std::string source(Version version, Stretch const& stretch) const
-    {
-        std::size_t const begin = beginOf(version, stretch.first);
-        return myTrees[version].text().substr(begin, beginOf(version, stretch.last) - begin);
-    }
-    /// All but blanks.
+    std::string_view source(Version version, Stretch const& stretch) const { return mySources[version]->at(stretch); }
     std::string tokensOf(Version version, Stretch const& stretch) const
     {
-        std::string text;
-        for (std::size_t i = stretch.first; i < stretch.last; ++i)
-        {
-            TextTree::Token const& token = myTrees[version].tokens()[i];
-            if (token.kind != TextTree::Kind::Blank)
-            {
-                std::string_view const word = myTrees[version].textOf(token);
-                text.append(word.substr(0, word.find_last_not_of(" \t\r") + 1)) += '\n';
-            }
-        }
-        return text;
+        return mySources[version]->tokensOf(stretch);
     }
-    static Stretch stretchOf(Item const& item)
+    std::string_view source(Version version, Item const& item) const
     {
-        return {item.source.firstTokenIndex(), item.source.lastTokenIndex() + std::size_t{1}};
+        return source(version, mySources[version]->stretchOf(item));
     }
     std::string tokensOf(Version version, Item const* item) const
     {
-        return item != nullptr ? tokensOf(version, stretchOf(*item)) : std::string();
+        return item != nullptr ? tokensOf(version, mySources[version]->stretchOf(*item)) : std::string();
+    }
+    static Stretch stretchOf(Unit const& unit) { return {unit.lead.begin, unit.trail.end}; }
+    std::size_t solidBegin(Version version, Unit const& unit) const
+    {
+        return mySources[version]->solidBegin(unit.lead);
     }
     /// Without the blanks that it begins with.
-    std::string unitSource(Version version, Unit const& unit) const
+    std::string_view unitSource(Version version, Unit const& unit) const
     {
-        return source(version, {firstOf(version, unit), unit.trail.last});
-    }
-    std::size_t firstOf(Version version, Unit const& unit) const
-    {
-        bool const isBlank = unit.lead.first != unit.lead.last &&
-                             myTrees[version].tokens()[unit.lead.first].kind == TextTree::Kind::Blank;
-        return unit.lead.first + (isBlank ? 1 : 0);
+        return source(version, {solidBegin(version, unit), unit.trail.end});
     }
 
     // ---- Merging. What answers false could not be merged and has left no edits. ----
@@ -163,8 +84,7 @@ private:
         {
             return true;
         }
-        bool const isOursAsItWas =
-            items[Base] != nullptr && items[Base]->source.source() == items[Ours]->source.source();
+        bool const isOursAsItWas = items[Base] != nullptr && source(Base, *items[Base]) == source(Ours, *items[Ours]);
         if (!isOursAsItWas && areLists(items))
         {
             MergeEdits::Mark const mark = myEdits.mark();
@@ -178,17 +98,21 @@ private:
         {
             return false;
         }
-        myEdits.replace(items[Ours]->source.begin(), items[Ours]->source.end(),
-                        std::string(items[Theirs]->source.source()));
+        myEdits.replace(mySources[Ours]->stretchOf(*items[Ours]), source(Theirs, *items[Theirs]));
         return true;
     }
 
     /// Whether all versions are members or elements behind a head and perhaps atoms.
-    static bool areLists(Items const& items)
+    bool areLists(Items const& items) const
     {
-        return std::ranges::all_of(items, [](Item const* item)
-                                   { return item == nullptr || (item->isList() && item->isRegular()); }) &&
-               std::ranges::any_of(items, [](Item const* item) { return item != nullptr && item->hasLists(); });
+        for (Version const version : {Base, Ours, Theirs})
+        {
+            if (items[version] != nullptr && !mySources[version]->isListOfItems(*items[version]))
+            {
+                return false;
+            }
+        }
+        return std::ranges::any_of(items, [](Item const* item) { return item != nullptr && item->hasLists(); });
     }
 
     bool mergeLists(Items const& items)
@@ -198,8 +122,13 @@ private:
         {
             if (items[version] != nullptr)
             {
-                layouts[version].emplace(myTrees[version], items[version]->source);
+                layouts[version] = mySources[version]->layoutOf(*items[version]);
             }
+        }
+        if (layouts[Theirs]->shape != layouts[Ours]->shape ||
+            (layouts[Base] && layouts[Base]->shape != layouts[Ours]->shape))
+        {
+            return false;
         }
         static Item const nothing;
         std::array<Item const*, 3> const parents{items[Base] != nullptr ? items[Base] : &nothing, items[Ours],
@@ -226,7 +155,7 @@ private:
     }
 
     /// Of something that has no parts: theirs when ours is as it was.
-    bool mergeTokens(std::array<std::string, 3> const& tokens, Stretch const& ours, std::string theirs)
+    bool mergeTokens(std::array<std::string, 3> const& tokens, Stretch const& ours, std::string_view theirs)
     {
         if (tokens[Theirs] == tokens[Base] || tokens[Theirs] == tokens[Ours])
         {
@@ -236,18 +165,18 @@ private:
         {
             return false;
         }
-        myEdits.replace(beginOf(Ours, ours.first), beginOf(Ours, ours.last), std::move(theirs));
+        myEdits.replace(ours, theirs);
         return true;
     }
 
-    bool mergeStretch(Layouts const& layouts, Stretch (Layout::*which)() const)
+    bool mergeStretch(Layouts const& layouts, Stretch Layout::*which)
     {
         std::array<std::string, 3> tokens;
         for (Version const version : {Base, Ours, Theirs})
         {
-            tokens[version] = layouts[version] ? tokensOf(version, ((*layouts[version]).*which)()) : std::string();
+            tokens[version] = layouts[version] ? tokensOf(version, (*layouts[version]).*which) : std::string();
         }
-        return mergeTokens(tokens, ((*layouts[Ours]).*which)(), source(Theirs, ((*layouts[Theirs]).*which)()));
+        return mergeTokens(tokens, (*layouts[Ours]).*which, source(Theirs, (*layouts[Theirs]).*which));
     }
 
     /// False when theirs has another order than ours and it was not ours that changed it. The order of a record's
@@ -288,8 +217,8 @@ private:
             if (found[version] != nullptr)
             {
                 items[version] = found[version]->item;
-                units[version] = layouts[version]->unit(items[version]->source);
-                tokens[version] = tokensOf(version, {units[version].lead.first, units[version].trail.last});
+                units[version] = layouts[version]->units.at(items[version]);
+                tokens[version] = tokensOf(version, stretchOf(units[version]));
             }
         }
         Unit const& ours = units[Ours];
@@ -297,7 +226,7 @@ private:
         {
             if (tokens[Ours] == tokens[Base])
             {
-                myEdits.replace(beginOf(Ours, ours.lead.first), beginOf(Ours, ours.trail.last), {});
+                myEdits.replace(stretchOf(ours), {});
             }
             else
             {
@@ -330,10 +259,9 @@ private:
         return mergeTokens(tokens, units[Ours].*which, source(Theirs, units[Theirs].*which));
     }
 
-    void addConflict(Unit const& ours, std::string theirs, char const* reason)
+    void addConflict(Unit const& ours, std::string_view theirs, char const* reason)
     {
-        myEdits.conflict(beginOf(Ours, firstOf(Ours, ours)), beginOf(Ours, ours.trail.last), std::move(theirs),
-                         {pathText(), reason});
+        myEdits.conflict({solidBegin(Ours, ours), ours.trail.end}, theirs, {pathText(), reason});
     }
 
     /// What stands in theirs and not in ours, each behind the element that it stands behind there.
@@ -348,29 +276,30 @@ private:
                 before = found[Ours];
                 continue;
             }
-            std::size_t const behind =
-                before != nullptr ? layouts[Ours]->unit(before->item->source).trail.last : layouts[Ours]->head().last;
-            std::size_t const place = beginOf(Ours, behind);
-            Unit const& unit = layouts[Theirs]->unit(element.item->source);
-            std::string text = inserted(unit, lists[Ours], *layouts[Ours]);
+            Unit const& unit = layouts[Theirs]->units.at(element.item);
+            Unit const* const behind = before != nullptr ? &layouts[Ours]->units.at(before->item) : nullptr;
+            std::size_t const place = behind != nullptr && behind->isAttribute == unit.isAttribute ? behind->trail.end
+                                      : unit.isAttribute ? layouts[Ours]->head.end
+                                                         : layouts[Ours]->body;
+            std::string text = inserted(unit, *layouts[Ours]);
             myPath.push_back(element.label);
             if (found[Base] == nullptr)
             {
                 if (element.isOrdered && isFollowedByNew(lists[Ours], elements, before))
                 {
-                    myEdits.conflict(place, place, text.substr(1),
+                    myEdits.conflict({place, place}, std::string_view(text).substr(1),
                                      {pathText(), "added on both sides at one place, where order has a meaning"});
                 }
                 else
                 {
-                    myEdits.replace(place, place, std::move(text));
+                    myEdits.replace({place, place}, text);
                 }
             }
-            else if (Unit const& base = layouts[Base]->unit(found[Base]->item->source);
-                     tokensOf(Theirs, {unit.lead.first, unit.trail.last}) !=
-                     tokensOf(Base, {base.lead.first, base.trail.last}))
+            else if (Unit const& base = layouts[Base]->units.at(found[Base]->item);
+                     tokensOf(Theirs, stretchOf(unit)) != tokensOf(Base, stretchOf(base)))
             {
-                myEdits.conflict(place, place, text.substr(1), {pathText(), "removed here, changed there"});
+                myEdits.conflict({place, place}, std::string_view(text).substr(1),
+                                 {pathText(), "removed here, changed there"});
             }
             myPath.pop_back();
         }
@@ -386,49 +315,27 @@ private:
 
     /// A blank and a unit of theirs as it goes into ours: on a line of its own, indented as its siblings there, where
     /// it had one.
-    std::string inserted(Unit const& unit, std::vector<Element> const& siblings, Layout const& layout) const
+    std::string inserted(Unit const& unit, Layout const& ours) const
     {
-        std::string const text = unitSource(Theirs, unit);
-        std::string const lead = source(Theirs, {unit.lead.first, firstOf(Theirs, unit)});
+        Stretch const solid{solidBegin(Theirs, unit), unit.trail.end};
+        std::string_view const lead = source(Theirs, {unit.lead.begin, solid.begin});
         std::size_t const line = lead.rfind('\n');
-        if (line == std::string::npos)
+        if (line == std::string_view::npos)
         {
-            return ' ' + text;
+            return ' ' + std::string(source(Theirs, solid));
         }
-        std::string indent = lead.substr(line + 1);
-        for (Element const& sibling : siblings)
+        std::string indent(lead.substr(line + 1));
+        for (auto const& [item, sibling] : ours.units)
         {
-            Unit const& other = layout.unit(sibling.item->source);
-            std::string const otherLead = source(Ours, {other.lead.first, firstOf(Ours, other)});
-            if (std::size_t const otherLine = otherLead.rfind('\n'); otherLine != std::string::npos)
+            std::string_view const its = source(Ours, {sibling.lead.begin, solidBegin(Ours, sibling)});
+            std::size_t const itsLine = its.rfind('\n');
+            if (sibling.isAttribute == unit.isAttribute && itsLine != std::string_view::npos)
             {
-                indent = otherLead.substr(otherLine + 1);
+                indent = its.substr(itsLine + 1);
                 break;
             }
         }
-        return '\n' + indent + indented(text, lead.size() - line - 1, indent);
-    }
-
-    /// The lines behind the first moved from one indentation to another. A text with a line end in a string is left.
-    static std::string indented(std::string const& text, std::size_t from, std::string const& indent)
-    {
-        TextTree const tree(text);
-        std::string out;
-        for (TextTree::Token const& token : tree.tokens())
-        {
-            std::string_view const piece = tree.textOf(token);
-            std::size_t const line = piece.rfind('\n');
-            if (token.kind != TextTree::Kind::Blank || line == std::string_view::npos)
-            {
-                out += piece;
-                continue;
-            }
-            std::size_t const width = piece.size() - line - 1;
-            out += piece.substr(0, line + 1);
-            out += width >= from ? indent : std::string();
-            out += piece.substr(line + 1 + (width >= from ? from : 0));
-        }
-        return out;
+        return '\n' + indent + mySources[Theirs]->indented(solid, lead.size() - line - 1, indent);
     }
 
     /// What stands in front of the first expression and behind it.
@@ -440,10 +347,11 @@ private:
         std::array<Stretch, 3> back;
         for (Version const version : {Base, Ours, Theirs})
         {
-            TextItem const root = myTrees[version].root();
-            std::size_t const size = myTrees[version].tokens().size();
-            front[version] = {0, root ? root.firstTokenIndex() : size};
-            back[version] = {root ? root.lastTokenIndex() + std::size_t{1} : size, size};
+            Item const* const root = mySources[version]->root();
+            std::size_t const size = mySources[version]->text().size();
+            Stretch const its = root != nullptr ? mySources[version]->stretchOf(*root) : Stretch{size, size};
+            front[version] = {0, its.begin};
+            back[version] = {its.end, size};
             before[version] = tokensOf(version, front[version]);
             behind[version] = tokensOf(version, back[version]);
         }
@@ -461,7 +369,7 @@ private:
         return text;
     }
 
-    std::array<TextTree, 3> const& myTrees;
+    Sources const& mySources;
     MergeEdits myEdits;
     std::vector<std::string> myPath;
 };
@@ -479,7 +387,7 @@ std::vector<std::string_view> linesOf(std::string_view text)
 }
 
 /// Both texts, but for the lines that they begin and end with alike.
-MergeResult conflictOfAll(TextTree const& ours, std::string const& theirs, std::string reason,
+MergeResult conflictOfAll(MergeSource const& ours, std::string const& theirs, std::string reason,
                           MergeOptions const& options)
 {
     std::vector<std::string_view> const a = linesOf(ours.text());
@@ -497,8 +405,8 @@ MergeResult conflictOfAll(TextTree const& ours, std::string const& theirs, std::
         behind += a[a.size() - last].size();
     }
     MergeEdits edits(ours, options);
-    edits.conflict(begin, ours.text().size() - behind, theirs.substr(begin, theirs.size() - behind - begin),
-                   {{}, std::move(reason)});
+    edits.conflict({begin, ours.text().size() - behind},
+                   std::string_view(theirs).substr(begin, theirs.size() - behind - begin), {{}, std::move(reason)});
     return edits.apply();
 }
 } // namespace
@@ -510,19 +418,26 @@ MergeResult mergeTexts(std::string const& base, std::string const& ours, std::st
     {
         return {ours == base ? theirs : ours, {}};
     }
-    std::array<TextTree, 3> const trees{TextTree(base), TextTree(ours), TextTree(theirs)};
-    for (TextTree const& tree : trees)
+    bool const areXml = isXml(ours) && isXml(theirs) && (base.empty() || isXml(base));
+    Sources sources;
+    for (Version const version : {Base, Ours, Theirs})
     {
-        if (!tree.faults().empty())
+        std::string const& text = version == Base ? base : version == Ours ? ours : theirs;
+        sources[version] = MergeSource::make(text, areXml && !text.empty());
+    }
+    for (std::unique_ptr<MergeSource> const& source : sources)
+    {
+        if (!source->isReadable())
         {
-            return conflictOfAll(trees[Ours], theirs, "not readable as parameter text", options);
+            return conflictOfAll(*sources[Ours], theirs,
+                                 areXml ? "not readable as XML" : "not readable as parameter text", options);
         }
     }
     std::optional<MergeResult> merged;
-    if (trees[Ours].root() && trees[Theirs].root())
+    if (sources[Ours]->root() != nullptr && sources[Theirs]->root() != nullptr)
     {
-        merged = TextMerge(trees, options).run();
+        merged = TextMerge(sources, options).run();
     }
-    bool const isGood = merged && (!merged->conflicts.empty() || TextTree(merged->text).faults().empty());
-    return isGood ? std::move(*merged) : conflictOfAll(trees[Ours], theirs, "changed on both sides", options);
+    bool const isGood = merged && (!merged->conflicts.empty() || MergeSource::make(merged->text, areXml)->isReadable());
+    return isGood ? std::move(*merged) : conflictOfAll(*sources[Ours], theirs, "changed on both sides", options);
 }
