@@ -19,9 +19,13 @@ std::string_view keyOf(std::string_view element)
                                                                      : "";
 }
 
-/// False for a type that is not a row of plain numbers.
+/// False for a type that is not a row of plain numbers, in an entity file joined by ":".
 bool readType(AxlObj const* item, AxEntityType& type)
 {
+    if (item->cdr()->car()->text().find(':') != std::string_view::npos)
+    {
+        return AxEntityType::fromString(item->cdr()->car()->text(), type);
+    }
     AxEntityType::Fields fields{};
     AxlObj const* number = item->cdr();
     for (std::int32_t& field : fields)

@@ -1,9 +1,16 @@
 #include "ElementSource.h"
 
+#include <boost/make_shared.hpp>
+#include <set>
 #include <span>
 #include <string>
+#include <string_view>
+#include <utility>
 
+#include "AxDiagnostic.h"
 #include "AxReaderWriter.h"
+#include "AxSinkScope.h"
+#include "AxStreams.h"
 
 namespace
 {
@@ -52,6 +59,64 @@ AxEnvValue const* valueBelow(AxEnvObject const& object, std::span<SourceStep con
         }
     }
     return nullptr;
+}
+
+/// Takes the cells that the library would read a record of no known class from.
+class CellsOfElement : public AxReaderWriter
+{
+public:
+    CellsOfElement() : AxReaderWriter(AxSymbolString(), nullptr) {}
+
+    using AxReaderWriter::getSelf;
+    void getSelf(AxlObjPtr const& expression, AxFilenameList const&, AxBindingsList const&) override
+    {
+        myCells = expression;
+    }
+    AxlObjPtr const& cells() const { return myCells; }
+
+private:
+    AxlObjPtr myCells;
+};
+
+/// The element with elements of any type called by their names, as the reader calls them in the end.
+AxEnvObjectPtr withNames(AxEnvObject const& element)
+{
+    auto const copy = boost::make_shared<AxEnvObject>(element.type());
+    if (element.hasName())
+    {
+        copy->setName(element.name());
+    }
+    copy->setPlace(element.line(), element.column());
+    bool const isNamed = element.type() == "readerWriter" && element.hasName();
+    for (AxEnvObject::Attribute const& attribute : element.attributes())
+    {
+        if (!isNamed || !(attribute.name == "type"))
+        {
+            copy->setAttribute(attribute.name, attribute.value->value())
+                ->setPlace(attribute.value->line(), attribute.value->column());
+        }
+    }
+    for (AxEnvValuePtr const& node : element.children())
+    {
+        AxEnvObject const* const child = objectIn(node);
+        copy->add(child != nullptr ? AxEnvValuePtr(withNames(*child)) : boost::make_shared<AxEnvValue>(node->value()));
+    }
+    return copy;
+}
+
+void visitRepeatedNames(AxEnvObject const& list, std::string_view tag,
+                        std::function<void(AxEnvObject const& element)> const& visit)
+{
+    std::set<std::string> known;
+    for (AxEnvValuePtr const& node : list.children())
+    {
+        AxEnvObject const* const child = objectIn(node);
+        if (child != nullptr && child->hasName() && child->type().string() == tag &&
+            !known.insert(child->name().string()).second)
+        {
+            visit(*child);
+        }
+    }
 }
 
 /// The value of the first attribute that `accept` takes.
@@ -153,4 +218,36 @@ AxEnvValue const* ElementSource::attribute(std::string_view name, std::string_vi
     return myElement == nullptr ? nullptr
                                 : attributeBelow(*myElement, [&](std::string const& key, std::string const& text)
                                                  { return key == name && text == value; });
+}
+
+void ElementSource::forEachRepeatedName(std::function<void(AxEnvObject const& element)> const& visit) const
+{
+    visitRepeatedNames(*myElement, "componentSystem", visit);
+    for (AxEnvValuePtr const& node : myElement->children())
+    {
+        AxEnvObject const* const platform = objectIn(node);
+        if (platform == nullptr || !(platform->type() == "platform"))
+        {
+            continue;
+        }
+        for (AxEnvValuePtr const& member : platform->children())
+        {
+            AxEnvObject const* const list = objectIn(member);
+            if (list != nullptr && list->type() == "componentDescriptors")
+            {
+                visitRepeatedNames(*list, "componentDescriptor", visit);
+            }
+        }
+    }
+}
+
+Source ElementSource::text() const
+{
+    CellsOfElement reader;
+    AxSinkScope const noWarnings(AxWarn);
+    AxDiagnostics::Sink previous = AxDiagnostics::setSink({}); // all was told when the record was read
+    reader.getSelf(AxEnvironmentPtr(), withNames(*myElement), AxReaderWriter::nullFilenames(),
+                   AxReaderWriter::nullVariableReference());
+    AxDiagnostics::setSink(std::move(previous));
+    return Source(reader.cells());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string_view>
 
@@ -23,6 +24,10 @@ public:
     AxEnvValue const* reference(std::string_view variable) const;
     /// The first attribute `name="value"`.
     AxEnvValue const* attribute(std::string_view name, std::string_view value) const;
+    /// Shows `visit` each system and component that has the name of one in front of it in its list.
+    void forEachRepeatedName(std::function<void(AxEnvObject const& element)> const& visit) const;
+    /// The element as the parameter text that says the same, with the places of the elements that it stands for.
+    Source text() const;
 
 private:
     AxEnvObjectPtr myElement;

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "CheckedFiles.h"
-#include "ElementSource.h"
 
 namespace
 {

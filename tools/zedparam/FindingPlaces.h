@@ -6,6 +6,7 @@
 
 #include "AxDiagnostic.h"
 #include "AxEnvironment.h"
+#include "ElementSource.h"
 #include "Source.h"
 
 class CheckedFiles;
@@ -22,6 +23,7 @@ public:
     std::string const& file(std::size_t number) const { return myFiles[number]; }
     std::vector<std::string> const& files() const { return myFiles; }
     bool isElement(std::size_t file) const { return file == 0 && myElement; }
+    ElementSource element() const { return ElementSource(myElement); }
 
     /// A warning without a place in the file.
     AxDiagnostic warning(char const* code, std::size_t file, std::string text) const;

@@ -140,10 +140,8 @@ private:
     {
         for (std::size_t const file : myFilesWithRows)
         {
-            if (!myPlaces.isElement(file))
-            {
-                checkRows(myPlaces.file(file), myFiles, myFindings);
-            }
+            myPlaces.isElement(file) ? checkRows(myPlaces.file(file), myPlaces.element().text(), myFindings)
+                                     : checkRows(myPlaces.file(file), myFiles, myFindings);
         }
     }
 
@@ -290,18 +288,23 @@ private:
     {
         if (myPlaces.isElement(myFile))
         {
+            myPlaces.element().forEachRepeatedName(
+                [this](AxEnvObject const& element)
+                { reportName(element.name().string(), element.line(), element.column()); });
             return;
         }
         scanNames(myFiles.text(myPlaces.file(myFile)),
-                  [this](std::string_view name, unsigned line, unsigned column)
-                  {
-                      AxDiagnostic finding = myPlaces.warning("repeated-name", myFile,
-                                                              "another element of the list is called \"" +
-                                                                  std::string(name) + "\"; this one takes its place");
-                      finding.line = line;
-                      finding.column = column;
-                      myFindings.add(std::move(finding));
-                  });
+                  [this](std::string_view name, unsigned line, unsigned column) { reportName(name, line, column); });
+    }
+
+    void reportName(std::string_view name, unsigned line, unsigned column)
+    {
+        AxDiagnostic finding = myPlaces.warning("repeated-name", myFile,
+                                                "another element of the list is called \"" + std::string(name) +
+                                                    "\"; this one takes its place");
+        finding.line = line;
+        finding.column = column;
+        myFindings.add(std::move(finding));
     }
 
     void checkType(AxReaderWriter const& rw)

@@ -197,10 +197,14 @@ void forEachRange(std::function<bool(double range)> const& goOn)
 
 void checkRows(std::string const& file, CheckedFiles& files, Findings& findings)
 {
-    if (!files.enterRows(file))
+    if (files.enterRows(file))
     {
-        return;
+        checkRows(file, files.source(file), findings);
     }
+}
+
+void checkRows(std::string const& file, Source const& source, Findings& findings)
+{
     CellReport const report = [&](char const* code, AxlObj const& place, std::string text)
     {
         AxDiagnostic finding;
@@ -212,7 +216,6 @@ void checkRows(std::string const& file, CheckedFiles& files, Findings& findings)
         findings.add(std::move(finding));
     };
     AxSourceScope const scope{AxFilename(file)};
-    Source const& source = files.source(file);
     auto const isDamageTable = [&](AxlObj const& list) {
         return list.car()->text().ends_with("-damage-file") ||
                (file.ends_with(".dmg") && &list == &source.expression());

@@ -7,6 +7,7 @@
 class AxlObj;
 class CheckedFiles;
 class Findings;
+class Source;
 
 /// Receives what is odd about a cell.
 using CellReport = std::function<void(char const* code, AxlObj const& place, std::string text)>;
@@ -18,6 +19,8 @@ AxlObj const* itemOf(AxlObj const& list, std::string_view head);
 /// 0 to 1, rows and outcomes that are missing, repeated or out of order, angles of incidence that nothing covers or an
 /// earlier one hides, outcomes of damage that add up to more than 1, elements that others hide. Once for each file.
 void checkRows(std::string const& file, CheckedFiles& files, Findings& findings);
+/// The same in what stands in one object of an entity file.
+void checkRows(std::string const& file, Source const& source, Findings& findings);
 
 /// Shows `goOn` the target and, in steps that grow with the range, what is around it, as far as it answers true.
 void forEachRange(std::function<bool(double range)> const& goOn);

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "AxSymbolString.h"
 #include "AxlObj.h"
@@ -29,6 +30,7 @@ class Source
 public:
     /// Without an expression, and without a report, when the file cannot be read.
     explicit Source(std::string const& file);
+    explicit Source(AxlObjPtr expression) : myExpression(std::move(expression)) {}
 
     /// Nil when there is none.
     AxlObj const& expression() const { return *myExpression; }
