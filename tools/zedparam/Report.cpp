@@ -74,8 +74,9 @@ public:
         collect();
         check();
         Findings muted(Findings::Print::Never); // told already
-        bool isWritten = writeRecords() && writeTables() && writeIndex() && writeFindings();
-        isWritten = isWritten && myFolder.writeText("search.js", "window.zedSearch = " + mySearch.endArray().text());
+        bool isWritten = myFolder.notePages() && writeRecords() && writeTables() && writeIndex() && writeFindings();
+        isWritten = isWritten && myFolder.writeText("search.js", "window.zedSearch = " + mySearch.endArray().text()) &&
+                    myFolder.removeOldPages();
         if (!isWritten)
         {
             return CouldNotRun;
@@ -430,5 +431,6 @@ void addReportCommand(CommandLine& line)
              "Writes pages that show a database in a browser: types, records, tables, connections and findings.",
              [options] { return report(options->database, options->folder); })
         .required("DB", options->database, "The database file (.opd)")
-        .required("-o,--output", options->folder, "The folder to write: new, empty, or with an older report");
+        .required("-o,--output", options->folder,
+                  "The folder to write: new, empty, or with an older report, whose pages go");
 }

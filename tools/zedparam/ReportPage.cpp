@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdio>
+#include <fstream>
+#include <utility>
 
 #include "AxFilename.h"
 #include "AxReadWholeFile.h"
@@ -30,6 +32,26 @@ std::string filled(std::string_view text, std::map<std::string_view, std::string
 }
 
 constexpr std::size_t theLongestName = 100;
+constexpr char thePageList[] = "pages.txt";
+constexpr std::string_view theFolders[] = {"records/", "tables/"};
+
+/// Whether it is the name of a page in one of the folders, and leads nowhere else.
+bool isPage(std::string_view name)
+{
+    auto const isIn = [name](std::string_view folder)
+    { return name.starts_with(folder) && name.find('/', folder.size()) == std::string_view::npos; };
+    return std::ranges::any_of(theFolders, isIn) && name.ends_with(".html");
+}
+
+std::string lines(std::set<std::string> const& names)
+{
+    std::string text;
+    for (std::string const& name : names)
+    {
+        text.append(name) += '\n';
+    }
+    return text;
+}
 } // namespace
 
 ReportFolder::ReportFolder(fs::path folder, std::string database)
@@ -87,7 +109,37 @@ std::string ReportFolder::newPage(std::string const& folder, std::string_view wi
         name, [](char c) { return std::isalnum(static_cast<unsigned char>(c)) == 0 && c != '-' && c != '.'; }, '_');
     name = folder + "/" + name;
     int const earlier = myNames[name]++;
-    return name + (earlier == 0 ? "" : "_" + std::to_string(earlier + 1)) + ".html";
+    name += (earlier == 0 ? "" : "_" + std::to_string(earlier + 1)) + ".html";
+    return *myOwnPages.insert(std::move(name)).first;
+}
+
+bool ReportFolder::notePages()
+{
+    std::ifstream list(myFolder / thePageList);
+    for (std::string page; std::getline(list, page);)
+    {
+        if (isPage(page) && !myOwnPages.contains(page))
+        {
+            myOldPages.insert(std::move(page));
+        }
+    }
+    return writeText(thePageList, lines(myOwnPages) + lines(myOldPages));
+}
+
+bool ReportFolder::removeOldPages()
+{
+    for (std::string const& page : myOldPages)
+    {
+        std::error_code error;
+        fs::remove(myFolder / page, error);
+        if (error)
+        {
+            std::fprintf(stderr, "zedparam: cannot remove \"%s\": %s\n", (myFolder / page).c_str(),
+                         error.message().c_str());
+            return false;
+        }
+    }
+    return writeText(thePageList, lines(myOwnPages));
 }
 
 void ReportFolder::setPageOf(std::string const& file, std::string const& page)

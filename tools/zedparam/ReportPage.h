@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,11 @@ public:
     /// A page name in a folder that no page has yet, made from `wish`.
     std::string newPage(std::string const& folder, std::string_view wish);
 
+    /// Notes in the folder all pages that were named, and those that an earlier report has noted there.
+    bool notePages();
+    /// Removes the pages of earlier reports that this one has not.
+    bool removeOldPages();
+
     /// From now on the page tells about that file, unless another one does.
     void setPageOf(std::string const& file, std::string const& page);
     /// Empty when there is none.
@@ -36,6 +42,8 @@ private:
     std::string myDatabase;
     std::map<std::string, std::string> myPages; // by file as it is shown
     std::map<std::string, int> myNames;
+    std::set<std::string> myOwnPages;
+    std::set<std::string> myOldPages;
     std::size_t myFindings = 0;
 };
 
