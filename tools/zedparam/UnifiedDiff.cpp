@@ -1,6 +1,7 @@
 #include "UnifiedDiff.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -46,9 +47,14 @@ std::vector<Step> stepsBetween(std::vector<Line> const& before, std::vector<Line
     std::vector<Step> steps;
     auto left = before.begin();
     auto right = after.begin();
-    while (left != before.end() || right != after.end())
+    // What both end with stays, even where XML changed more than blanks in front of it.
+    auto const [leftTail, rightTail] = std::mismatch(before.rbegin(), before.rend(), after.rbegin(), after.rend(),
+                                                     [](Line const& a, Line const& b) { return a.text == b.text; });
+    auto const leftEnd = leftTail.base();
+    auto const rightEnd = rightTail.base();
+    while (left != leftEnd || right != rightEnd)
     {
-        bool const hasBoth = left != before.end() && right != after.end();
+        bool const hasBoth = left != leftEnd && right != rightEnd;
         if (hasBoth && left->position == right->position && left->text == right->text)
         {
             steps.push_back({' ', left->text});
@@ -58,11 +64,15 @@ std::vector<Step> stepsBetween(std::vector<Line> const& before, std::vector<Line
         }
         // Of two that begin at one place an empty line goes first.
         bool const isSamePlace = hasBoth && left->position == right->position;
-        bool const takesRight = left == before.end() ||
-                                (hasBoth && (isSamePlace ? solidBytes(left->text) != 0 && solidBytes(right->text) == 0
-                                                         : right->position < left->position));
+        bool const takesRight =
+            left == leftEnd || (hasBoth && (isSamePlace ? solidBytes(left->text) != 0 && solidBytes(right->text) == 0
+                                                        : right->position < left->position));
         steps.push_back(takesRight ? Step{'+', right++->text} : Step{'-', left++->text});
     }
+    std::transform(leftEnd, before.end(), std::back_inserter(steps),
+                   [](Line const& line) {
+                       return Step{' ', line.text};
+                   });
     // Within a change, what goes stands before what comes.
     for (auto from = steps.begin(); from != steps.end();)
     {
