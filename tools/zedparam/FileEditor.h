@@ -36,6 +36,8 @@ public:
         std::string after;   ///< empty for what was taken out
     };
     std::vector<Change> const& changes() const { return myChanges; }
+    /// What the library finds fault with in the text as it is now.
+    std::vector<AxDiagnostic> const& findings() const { return myFindings; }
 
 protected:
     FileEditor(std::string file, std::string text, bool force)
@@ -61,6 +63,7 @@ protected:
     bool force() const { return myForce; }
 
     std::string myText;
+    std::vector<AxDiagnostic> myFindings; // of the text
 
 private:
     std::string myFile;

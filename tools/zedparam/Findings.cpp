@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -119,4 +120,20 @@ void Findings::write(JsonWriter& json, std::vector<AxDiagnostic> const& findings
         json.endObject();
     }
     json.endArray();
+}
+
+std::vector<AxDiagnostic> Findings::errorsAmong(std::vector<AxDiagnostic> const& findings)
+{
+    std::vector<AxDiagnostic> errors;
+    std::ranges::copy_if(findings, std::back_inserter(errors),
+                         [](AxDiagnostic const& finding) { return finding.severity == AxSeverity::Error; });
+    return errors;
+}
+
+void Findings::print(std::vector<AxDiagnostic> const& findings)
+{
+    for (AxDiagnostic const& finding : findings)
+    {
+        std::fprintf(stderr, "%s\n", finding.format().c_str());
+    }
 }

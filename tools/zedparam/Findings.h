@@ -38,6 +38,10 @@ public:
     std::vector<AxDiagnostic> sorted() const { return {myFindings.begin(), myFindings.end()}; }
 
     static void write(JsonWriter& json, std::vector<AxDiagnostic> const& findings);
+    /// Those that are errors.
+    static std::vector<AxDiagnostic> errorsAmong(std::vector<AxDiagnostic> const& findings);
+    /// Each on the standard error stream.
+    static void print(std::vector<AxDiagnostic> const& findings);
 
 private:
     struct Less

@@ -11,7 +11,9 @@
 
 #include "AxReadWholeFile.h"
 #include "CommandLine.h"
+#include "Database.h"
 #include "Findings.h"
+#include "RecordFile.h"
 #include "TextLayout.h"
 #include "UnifiedDiff.h"
 #include "WriteFile.h"
@@ -44,8 +46,20 @@ bool readInput(std::string const& file, std::string& text)
     return true;
 }
 
-/// False, after a line that says why, when the file is not formatted.
-bool layOut(std::string const& file, std::string const& text, std::string& out)
+/// What the library reports of the objects in an entity file.
+std::vector<AxDiagnostic> findingsOfObjects(std::string const& file)
+{
+    Findings findings(Findings::Print::Never);
+    if (file.ends_with(".entity"))
+    {
+        readRecords(file, {}, *Database::openNone());
+    }
+    return findings.sorted();
+}
+
+/// False, after a line that says why, when the file is not formatted. `errors` are those that the library reports of
+/// it; they hinder nobody from laying it out.
+bool layOut(std::string const& file, std::string const& text, std::string& out, std::vector<AxDiagnostic>& errors)
 {
     if (isXml(text))
     {
@@ -56,6 +70,7 @@ bool layOut(std::string const& file, std::string const& text, std::string& out)
             std::fprintf(stderr, "zedparam: \"%s\" is left as it is: %s\n", file.c_str(), reason.c_str());
             return false;
         }
+        errors = Findings::errorsAmong(findingsOfObjects(file));
         return true;
     }
     TextTree const tree(text);
@@ -73,6 +88,7 @@ bool layOut(std::string const& file, std::string const& text, std::string& out)
     }
     TextReading reading(file);
     out = laidOut(tree, reading);
+    errors = Findings::errorsAmong(reading.findingsOfFile());
     if (!haveSameContent(tree, TextTree(out)))
     {
         std::fprintf(stderr, "zedparam: \"%s\" is left as it is: it would not read back the same\n", file.c_str());
@@ -85,10 +101,13 @@ int format(std::string const& file, FmtOptions const& options)
 {
     std::string text;
     std::string out;
-    if (!readInput(file, text) || !layOut(file, text, out))
+    std::vector<AxDiagnostic> errors;
+    if (!readInput(file, text) || !layOut(file, text, out, errors))
     {
         return CouldNotRun;
     }
+    Findings::print(errors);
+    int const asFound = errors.empty() ? Fine : HasFindings;
     bool const isReport = options.check || options.diff;
     if (options.diff)
     {
@@ -102,18 +121,18 @@ int format(std::string const& file, FmtOptions const& options)
     else if (!options.check && file == theStandardInput)
     {
         std::fwrite(out.data(), 1, out.size(), stdout);
-        return Fine;
+        return asFound;
     }
     if (isReport || out == text)
     {
-        return isReport && out != text ? HasFindings : Fine;
+        return isReport && out != text ? HasFindings : asFound;
     }
     if (!writeFile(file, out))
     {
         return CouldNotRun;
     }
     std::printf("formatted %s\n", file.c_str());
-    return Fine;
+    return asFound;
 }
 
 /// What went worst.
@@ -135,5 +154,7 @@ void addFmtCommand(CommandLine& line)
              [options] { return formatAll(*options); })
         .required("FILE", options->files, "Parameter text or XML; - reads standard input and writes standard output")
         .flag("--check", options->check, "Write nothing; name the files that would change")
-        .flag("--diff", options->diff, "Write nothing; show what would change");
+        .flag("--diff", options->diff, "Write nothing; show what would change")
+        .footer("Exit codes: 0 fine, 1 not formatted (--check, --diff) or not readable in all of its items, 2 could "
+                "not run.");
 }

@@ -70,7 +70,8 @@ Opened open(SetOptions const& options, std::string const& text)
     return opened;
 }
 
-void printJson(SetOptions const& options, std::vector<FileEditor::Change> const& changes, AxDiagnostic const* fault)
+void printJson(SetOptions const& options, std::vector<FileEditor::Change> const& changes,
+               std::vector<AxDiagnostic> const& findings)
 {
     auto const text = [](JsonWriter& json, char const* key, std::string const& value)
     {
@@ -90,7 +91,7 @@ void printJson(SetOptions const& options, std::vector<FileEditor::Change> const&
         json.endObject();
     }
     json.endArray().key("findings");
-    Findings::write(json, fault != nullptr ? std::vector{*fault} : std::vector<AxDiagnostic>());
+    Findings::write(json, findings);
     json.endObject().print();
 }
 
@@ -116,7 +117,7 @@ int edit(SetOptions const& options, bool (*apply)(FileEditor& editor, std::strin
         {
             if (options.json)
             {
-                printJson(options, {}, &editor.fault());
+                printJson(options, {}, {editor.fault()});
             }
             else
             {
@@ -129,10 +130,11 @@ int edit(SetOptions const& options, bool (*apply)(FileEditor& editor, std::strin
     {
         return CouldNotRun;
     }
+    std::vector<AxDiagnostic> const errors = Findings::errorsAmong(editor.findings());
     if (options.json)
     {
-        printJson(options, editor.changes(), nullptr);
-        return Fine;
+        printJson(options, editor.changes(), errors);
+        return errors.empty() ? Fine : HasFindings;
     }
     for (FileEditor::Change const& change : editor.changes())
     {
@@ -142,7 +144,8 @@ int edit(SetOptions const& options, bool (*apply)(FileEditor& editor, std::strin
                                                               change.before + " -> " + change.after;
         std::printf("%s:%u:%u: %s\n", options.file.c_str(), change.line, change.column, what.c_str());
     }
-    return Fine;
+    Findings::print(errors);
+    return errors.empty() ? Fine : HasFindings;
 }
 
 void addEditCommand(CommandLine& line, char const* name, char const* help, char const* argument,
@@ -158,7 +161,9 @@ void addEditCommand(CommandLine& line, char const* name, char const* help, char 
         .optional("--object", options->object, "Of an entity file, the object of this name")
         .flag("--force", options->force, "Also change what is not known, or would be found fault with")
         .flag("--dry-run", options->dryRun, "Tell the changes, write nothing")
-        .flag("--json", options->json, "Print JSON");
+        .flag("--json", options->json, "Print JSON")
+        .footer(
+            "Exit codes: 0 changed, 1 changed, but the library cannot read all of the file, 2 nothing was changed.");
 }
 } // namespace
 

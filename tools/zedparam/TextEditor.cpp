@@ -50,7 +50,7 @@ TextEditor::TextEditor(std::string const& file, std::string text, TextReading& r
 {
     TextTree const tree(myText);
     myReading.read(tree);
-    myKnownFindings = myReading.findings();
+    myFindings = myReading.findings();
 }
 
 bool TextEditor::set(std::string const& path, std::string const& value)
@@ -264,12 +264,12 @@ bool TextEditor::apply(TextTree const& tree, std::vector<Patch> const& patches)
         return refuseAt(place, "unreadable",
                         findings.empty() ? "the library would no longer know what the file is" : findings.front().text);
     }
-    AxDiagnostic const* const finding = firstNew(myReading.findings(), myKnownFindings);
+    AxDiagnostic const* const finding = firstNew(myReading.findings(), myFindings);
     if (finding != nullptr && !force())
     {
         return refuseAt(place, finding->code, finding->text, finding->hint);
     }
-    myKnownFindings = myReading.findings();
+    myFindings = myReading.findings();
     myText = std::move(text);
     return true;
 }

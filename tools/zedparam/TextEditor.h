@@ -37,5 +37,4 @@ private:
     bool refuseAt(TextItem place, std::string code, std::string text, std::string hint = {});
 
     TextReading& myReading;
-    std::vector<AxDiagnostic> myKnownFindings; // of the text before the change
 };

@@ -153,6 +153,7 @@ AxReaderWriter* TextReading::read(TextTree const& tree)
     {
         noteUnboundVariables(*myRoot, myFile, myFindings);
     }
+    myFindingsOfFile = myFindings;
     return myRoot.get();
 }
 

@@ -29,6 +29,8 @@ public:
     AxReaderWriter* read(TextTree const& tree);
     /// What the library reported of the last reading; of a whole file also the variables that nothing binds.
     std::vector<AxDiagnostic> const& findings() const { return myFindings; }
+    /// What it reported of the file as a whole.
+    std::vector<AxDiagnostic> const& findingsOfFile() const { return myFindingsOfFile; }
 
     /// The member, element or content of `parent` that reads `list`, having read it anew; what was read into that
     /// member, or into other elements, before is gone. Null when the library would only keep the list.
@@ -46,4 +48,5 @@ private:
     std::unique_ptr<AxReaderWriter> myRoot;
     AxBindingsList myBindings; // of the file itself, then of the database
     std::vector<AxDiagnostic> myFindings;
+    std::vector<AxDiagnostic> myFindingsOfFile;
 };

@@ -123,7 +123,7 @@ XmlEditor::XmlEditor(std::string const& file, std::string text, std::string obje
     : FileEditor(file, std::move(text), force), myObject(std::move(object)), myContext(context)
 {
     std::unique_ptr<Document> const document = read(myText);
-    myKnownFindings = document != nullptr ? document->findings : std::vector<AxDiagnostic>();
+    myFindings = document != nullptr ? document->findings : std::vector<AxDiagnostic>();
 }
 
 XmlEditor::~XmlEditor() = default;
@@ -543,12 +543,12 @@ bool XmlEditor::apply(Document const& document, AxEnvValue const& place, std::si
         return changed == nullptr ? refuse(line, column, "unreadable", fault().text)
                                   : refuse(line, column, "unreadable", "the change would alter what stands beside it");
     }
-    AxDiagnostic const* const finding = firstNew(changed->findings, myKnownFindings);
+    AxDiagnostic const* const finding = firstNew(changed->findings, myFindings);
     if (finding != nullptr && !force())
     {
         return refuse(line, column, finding->code, finding->text, finding->hint);
     }
-    myKnownFindings = changed->findings;
+    myFindings = changed->findings;
     myText = std::move(text);
     return true;
 }

@@ -45,5 +45,4 @@ private:
 
     std::string myObject;
     ReadContext const& myContext;
-    std::vector<AxDiagnostic> myKnownFindings;
 };
