@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <boost/make_shared.hpp>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -40,6 +41,61 @@ AxEnvObjectPtr restOf(AxEnvObject const& part, bool reports)
     return part.type() == AxSystemElement::theVariablesTag  ? AxSystemElement::restOfVariables(part, reports)
            : part.type() == AxObjectElement::thePlatformTag ? AxEnvObjectPtr()
                                                             : AxXmlFragment::restOf(part, nullptr, reports);
+}
+
+bool isObject(AxEnvValue const& node)
+{
+    return node.isObject() && static_cast<AxEnvObject const&>(node).type() == AxObjectElement::theTag;
+}
+
+bool holdsObject(AxEnvValue const& node)
+{
+    auto const* const parent = node.isObject() ? static_cast<AxEnvObject const*>(&node) : nullptr;
+    return parent && std::ranges::any_of(parent->children(), [](AxEnvValuePtr const& child)
+                                         { return isObject(*child) || holdsObject(*child); });
+}
+
+/// A copy of `from` in which only the object at the end of the path is left, empty. `isNews` becomes true when
+/// something else stands in it that is no comment.
+AxEnvObjectPtr copyAround(AxEnvObject const& from, std::span<AxEnvValue const* const> path, bool& isNews)
+{
+    auto const copy = boost::make_shared<AxEnvObject>(from.type());
+    isNews = isNews || from.hasName() || !from.attributes().empty();
+    if (from.hasName())
+    {
+        copy->setName(from.name());
+    }
+    for (AxEnvObject::Attribute const& attribute : from.attributes())
+    {
+        copy->setAttribute(attribute.name, attribute.value->value());
+    }
+    for (AxEnvValuePtr const& child : from.children())
+    {
+        auto const* const object = child->isObject() ? static_cast<AxEnvObject const*>(child.get()) : nullptr;
+        if (child.get() == path.front())
+        {
+            copy->add(path.size() == 1 ? boost::make_shared<AxEnvObject>(AxObjectElement::theTag)
+                                       : copyAround(*object, path.subspan(1), isNews));
+        }
+        else if (!isObject(*child) && !holdsObject(*child))
+        {
+            isNews = isNews || !object || !object->isReserved();
+            copy->add(AxXmlFragment::copyOf(*child));
+        }
+    }
+    return copy;
+}
+
+/// The first object in the tree; null when there is none.
+AxEnvObjectPtr firstObject(AxEnvValuePtr const& node)
+{
+    AxEnvObjectPtr const object = node->castToObject();
+    AxEnvObjectPtr found = isObject(*node) ? object : AxEnvObjectPtr();
+    for (std::size_t i = 0; !found && object && i < object->count(); ++i)
+    {
+        found = firstObject(object->children()[i]);
+    }
+    return found;
 }
 
 /// Whether the element in what was kept is the rest of one that is written.
@@ -209,4 +265,45 @@ void AxObjectElement::addOthers(AxEnvObject& element, AxEnvObject& others)
         element.insert(isInFront ? static_cast<std::size_t>(platform - element.children().begin()) : element.count(),
                        node);
     }
+}
+
+AxEnvObjectPtr AxObjectElement::fileOf(AxEnvValuePtr const& element)
+{
+    std::vector<AxEnvValue const*> path;
+    AxEnvListPtr root;
+    for (AxEnvValuePtr node = element; node && node->parent(); node = root)
+    {
+        path.insert(path.begin(), node.get());
+        root = node->parent()->castToList();
+    }
+    AxEnvObjectPtr const outermost = root ? root->castToObject() : AxEnvObjectPtr();
+    bool isNews = false;
+    AxEnvObjectPtr const copy = outermost ? copyAround(*outermost, path, isNews) : AxEnvObjectPtr();
+    if (!isNews)
+    {
+        return {};
+    }
+    auto const file = boost::make_shared<AxEnvObject>(theFileTag);
+    file->add(copy);
+    return file;
+}
+
+void AxObjectElement::restoreFile(AxEnvironment& env, AxEnvObjectPtr const& element, AxEnvObject& others)
+{
+    AxEnvObjectPtr const file = AxElement::first(others.shared_from_this(), theFileTag);
+    AxEnvObjectPtr const root =
+        file && file->count() == 1 ? file->children().front()->castToObject() : AxEnvObjectPtr();
+    AxEnvObjectPtr const placeholder = root ? firstObject(root) : AxEnvObjectPtr();
+    if (!placeholder || placeholder == root || !isEmpty(*placeholder) || !(env.root() == element))
+    {
+        return;
+    }
+    env.setRoot({});
+    AxEnvListPtr const siblings = placeholder->parent()->castToList();
+    auto const place = std::ranges::find(siblings->children(), placeholder) - siblings->children().begin();
+    siblings->insert(static_cast<std::size_t>(place), element);
+    siblings->remove(placeholder);
+    file->remove(root);
+    others.remove(file);
+    env.setRoot(root);
 }

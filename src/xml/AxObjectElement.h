@@ -18,6 +18,8 @@ inline constexpr char const* theTypesTag = "objectTypes";
 inline constexpr char const* thePlatformTag = "platform";
 inline constexpr char const* theGuiTag = "guiInformation";
 inline constexpr char const* theFurtherTypes = "additional-match-types";
+/// Holds a copy of what stands around an object in its file, in which an empty object stands for it.
+inline constexpr char const* theFileTag = "file";
 
 /// What cannot be read, or stands again, is told if `reports`.
 AxObjectType objectTypeOf(AxEnvValuePtr const& element, bool reports);
@@ -30,6 +32,11 @@ void reportRests(AxEnvValuePtr const& element);
 /// A copy of what it holds besides; null when there is none.
 AxEnvObjectPtr othersOf(AxEnvValuePtr const& element);
 bool isEmpty(AxEnvObject const& others);
+/// A copy of what stands around the element, other objects left out; null when that is neither attributes, elements nor
+/// texts.
+AxEnvObjectPtr fileOf(AxEnvValuePtr const& element);
+/// Moves that from `others` around the element, if it is the root.
+void restoreFile(AxEnvironment& env, AxEnvObjectPtr const& element, AxEnvObject& others);
 /// Takes the further types out.
 void removeFurtherTypes(AxEnvObject& others);
 /// Whether the item of a record's text is what it keeps of its element.

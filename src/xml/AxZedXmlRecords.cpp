@@ -9,6 +9,7 @@
 #include "AxZedXmlUtils.h"
 
 #include <algorithm>
+#include <boost/make_shared.hpp>
 #include <exception>
 #include <memory>
 
@@ -142,6 +143,7 @@ void addRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr const& element, AxZed
     moveSystems(env, platform, element, record.systemDescriptorList());
     if (others)
     {
+        AxObjectElement::restoreFile(*env, element, *others);
         AxObjectElement::addOthers(*element, *others);
     }
 }
@@ -224,7 +226,12 @@ AxEnvValuePtr AxZedXmlUtils::addObject(AxEnvironmentPtr const& env, AxEnvValuePt
 void AxZedXmlUtils::keepOthers(AxZedObjectParameters& record, bool isOneOfMany)
 {
     AxEnvValuePtr const& element = record.objectNode();
-    AxEnvObjectPtr const others = AxObjectElement::othersOf(element);
+    AxEnvObjectPtr others = AxObjectElement::othersOf(element);
+    if (AxEnvObjectPtr const file = AxObjectElement::fileOf(element))
+    {
+        others = others ? others : boost::make_shared<AxEnvObject>(AxObjectElement::theTag);
+        others->add(file);
+    }
     if (!others || std::ranges::any_of(record.keptItems(),
                                        [](auto const& kept) { return AxObjectElement::isOthersItem(kept.second); }))
     {
