@@ -109,7 +109,7 @@ TEST(UnifiedDiff, ShowsChangedLinesWithTheirSurroundings)
     EXPECT_EQ(unifiedDiff("f", "1\n2\n3\n4\n5 6\n7\n8\n9\n10\n", "1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n"),
               "--- f\n+++ f\n@@ -2,7 +2,8 @@\n 2\n 3\n 4\n-5 6\n+5\n+6\n 7\n 8\n 9\n");
     EXPECT_EQ(unifiedDiff("f", "a", "a\n"), "--- f\n+++ f\n@@ -1 +1 @@\n-a\n\\ No newline at end of file\n+a\n");
-    EXPECT_EQ(unifiedDiff("f", "a\n\n\nb\n", "a\n\nb\n"), "--- f\n+++ f\n@@ -1,4 +1,3 @@\n a\n \n-\n b\n");
+    EXPECT_EQ(unifiedDiff("f", "a\n\n\nb\n", "a\n\nb\n"), "--- f\n+++ f\n@@ -1,4 +1,3 @@\n a\n-\n \n b\n");
     std::string far;
     for (int i = 0; i < 20; ++i)
     {
