@@ -19,6 +19,25 @@ std::string_view keyOf(std::string_view element)
                                                                      : "";
 }
 
+/// The head of the first element of a table in the list; empty when it is no table.
+std::string_view elementWordIn(AxlObj const& list)
+{
+    std::string_view word;
+    for (AxlObj const* rest = list.cdr(); rest->isPair() && word.empty(); rest = rest->cdr())
+    {
+        std::string_view const head = rest->car()->car()->text();
+        word = keyOf(head).empty() ? std::string_view() : head;
+    }
+    return word;
+}
+
+/// Tables take items of any head for elements, but for ranges, which must have a determinant.
+bool isElement(AxlObj const& item, std::string_view word)
+{
+    std::string_view const head = item.car()->text();
+    return item.isPair() && (head == word || (word != "entity-range" && !head.empty() && head != "xml-item"));
+}
+
 /// False for a type that is not a row of plain numbers, in an entity file joined by ":".
 bool readType(AxlObj const* item, AxEntityType& type)
 {
@@ -80,11 +99,11 @@ void checkElements(AxlObj const& list, CellReport const& report)
 {
     std::vector<std::pair<AxEntityType, AxlObj const*>> byType;
     std::vector<std::pair<AxSimMunition, AxlObj const*>> byMunition;
+    std::string_view const word = elementWordIn(list);
     for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
     {
         AxlObj const& element = *rest->car();
-        std::string_view const head = element.car()->text();
-        std::string_view const key = keyOf(head);
+        std::string_view const key = isElement(element, word) ? keyOf(word) : std::string_view();
         AxlObj const* const item = key.empty() ? nullptr : itemOf(element, key);
         bool const isMunition = key == "ammo";
         AxEntityType type;

@@ -13,14 +13,19 @@
 #include <vector>
 
 #include "Ax1DRegularTableFn.h"
+#include "AxAmmoSelectTable.h"
 #include "AxComponentDescriptor.h"
 #include "AxComponentSystemDefinition.h"
 #include "AxComponentSystemDescriptor.h"
+#include "AxDmgMunitionTable.h"
+#include "AxDmgSurfaceTable.h"
 #include "AxPrbCoefficientList.h"
 #include "AxPrbRangeList.h"
+#include "AxRangeProbabilityTable.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwProperty.h"
 #include "AxRwVariableBindings.h"
+#include "AxTargetPriorityList.h"
 #include "AxZedObjectParameters.h"
 #include "CheckedFiles.h"
 #include "FindingPlaces.h"
@@ -43,6 +48,12 @@ std::string placeOf(AxReaderWriter const& rw)
         place += " of \"" + registry->owner()->name().string().string() + "\"";
     }
     return place;
+}
+
+template <class... Classes>
+bool isAny(AxReaderWriter const& rw)
+{
+    return ((dynamic_cast<Classes const*>(&rw) != nullptr) || ...);
 }
 
 /// What a class is. Each is asked once, for the casts would cost more than all other work on a record.
@@ -80,8 +91,8 @@ Traits const& traitsOf(AxReaderWriter const& rw)
                          dynamic_cast<AxRwProperty const*>(&rw) != nullptr,
                          dynamic_cast<Ax1DRegularTableFn const*>(&rw) != nullptr,
                          dynamic_cast<AxComponentDescriptor const*>(&rw) != nullptr,
-                         dynamic_cast<AxPrbRangeList const*>(&rw) != nullptr ||
-                             dynamic_cast<AxPrbCoefficientList const*>(&rw) != nullptr,
+                         isAny<AxPrbRangeList, AxPrbCoefficientList, AxRangeProbabilityTable, AxAmmoSelectTable,
+                               AxDmgMunitionTable, AxDmgSurfaceTable, AxTargetPriorityList>(rw),
                          numberIn(rw, ignored),
                          rw.isValue() || Supplies::areToldBy(rw)};
     }
