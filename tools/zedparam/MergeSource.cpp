@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr std::string_view theBlanks = " \t\r\n";
+constexpr std::string_view theSpaces = " \t\r\n";
 
 class TextSource : public MergeSource
 {
@@ -143,7 +143,7 @@ public:
         layout.body = XmlText::tagEnd(myText, begin);
         bool const isEmpty = myText[layout.body - 2] == '/';
         layout.shape.append(myEncoding).append(at(layout.head)).append(isEmpty ? " /" : " ").append(list.text);
-        std::size_t const first = myText.find_first_not_of(theBlanks, layout.head.end);
+        std::size_t const first = myText.find_first_not_of(theSpaces, layout.head.end);
         if (std::string_view(myText).substr(first, myText.find_first_of("= \t\r\n", first) - first) == "name")
         {
             layout.head.end = XmlText::attributeValue(myText, first).end + 1;
@@ -155,7 +155,7 @@ public:
             Unit& unit = layout.units[&item];
             if (!isElement(its.begin))
             {
-                unit = {{myText.find_last_not_of(theBlanks, its.begin - 1) + 1, its.begin}, {its.end, its.end}, true};
+                unit = {{myText.find_last_not_of(theSpaces, its.begin - 1) + 1, its.begin}, {its.end, its.end}, true};
             }
             else
             {
@@ -175,12 +175,12 @@ protected:
     {
         std::string_view piece = at(stretch);
         std::vector<Token> result;
-        bool isInTag = !piece.empty() && piece[0] != '<' && theBlanks.find(piece[0]) == std::string_view::npos;
+        bool isInTag = !piece.empty() && piece[0] != '<' && theSpaces.find(piece[0]) == std::string_view::npos;
         while (!piece.empty())
         {
             std::size_t const size = tokenSize(piece, isInTag);
             std::string_view const token = piece.substr(0, size);
-            bool const isBlank = token.find_first_not_of(theBlanks) == std::string_view::npos;
+            bool const isBlank = token.find_first_not_of(theSpaces) == std::string_view::npos;
             result.push_back({token, isBlank ? Kind::Blank : Kind::Other});
             isInTag = token == ">" || token == "/>" || isMarked(token) ? false : isInTag || token[0] == '<';
             piece.remove_prefix(size);
@@ -215,7 +215,7 @@ private:
                           : piece[1] == '?'                ? "?>"
                                                            : ">");
         }
-        std::size_t const solid = std::min(piece.find_first_not_of(theBlanks), piece.size());
+        std::size_t const solid = std::min(piece.find_first_not_of(theSpaces), piece.size());
         if (solid != 0 && (isInTag || solid == piece.size() || piece[solid] == '<'))
         {
             return solid;
@@ -229,7 +229,7 @@ private:
             return piece[0] == '>' ? 1 : 2;
         }
         std::size_t at = 1;
-        while (at < piece.size() && theBlanks.find(piece[at]) == std::string_view::npos && piece[at] != '>' &&
+        while (at < piece.size() && theSpaces.find(piece[at]) == std::string_view::npos && piece[at] != '>' &&
                piece.substr(at, 2) != "/>")
         {
             bool const isQuote = piece[at] == '"' || piece[at] == '\'';
@@ -280,7 +280,7 @@ std::string MergeSource::tokensOf(Stretch const& stretch) const
 
 std::size_t MergeSource::solidBegin(Stretch const& stretch) const
 {
-    return std::min(text().find_first_not_of(theBlanks, stretch.begin), stretch.end);
+    return std::min(text().find_first_not_of(theSpaces, stretch.begin), stretch.end);
 }
 
 std::string MergeSource::indented(Stretch const& stretch, std::size_t from, std::string const& indent) const
