@@ -11,7 +11,8 @@
 /// binds its members by in-class initialisers. Without a type name it keeps that of `Base`. A class whose constructor
 /// assigns defaults declares `(AxSymbolString, AxReaderWriterRegistry*)` itself, which serves all forms of names, and
 /// leaves the `using` out. The copy constructor `(Derived const& other, AxReaderWriterRegistry* registry)` delegates to
-/// that of a name and calls `assign(other)`, once the members are there to be assigned.
+/// that of a name and calls `assign(other)`, once the members are there to be assigned. A clone may be made without a
+/// constructor when all that the class holds is bound; so one that counts or enters its objects overrides `clone`.
 template <class Derived, class Base, AxFixedText typeName = "">
 class AxDescriptorOf : public Base
 {
@@ -51,6 +52,10 @@ public:
     }
     AxComponentDescriptor* clone(AxReaderWriterRegistry* registry) const override
     {
+        if (Derived* const copy = this->template plainCopy<Derived>(registry))
+        {
+            return copy;
+        }
         auto* made = new Derived(this->AxReaderWriter::name(), registry);
         made->assign(*this);
         return made;

@@ -87,6 +87,7 @@ public:
 
 private:
     friend class AxReaderWriter;
+    friend class AxRecord;
     friend class AxTextReader;
     friend class AxXmlReader;
 

@@ -49,6 +49,39 @@ public:
             return use(static_cast<AxRwReal&>(a), static_cast<AxRwReal const&>(b));
         }
     }
+    /// What the member in `slot` of `owner` takes up; 0 for what is no plain value.
+    static std::size_t sizeOf(AxRegistryTable::Slot const& slot, AxReaderWriter const& owner)
+    {
+        auto& member = const_cast<AxReaderWriter&>(memberOf(slot, owner));
+        Reading const reading = slot.readingOf(member);
+        return isPlain(reading) ? visit(reading, member, member, [](auto& as, auto const&) { return sizeof as; }) : 0;
+    }
+    /// Whether all members of `owner`, plain values, have no state but value and flags that copies carry.
+    static bool haveOnlyValues(AxRegistryTable const& table, AxReaderWriter const& owner)
+    {
+        unsigned flags = 0;
+        for (AxRegistryTable::Slot const& slot : table.slots)
+        {
+            flags |= memberOf(slot, owner).myFlags;
+        }
+        return (flags & ~static_cast<unsigned>(theCarried | AxReaderWriter::Value | AxReaderWriter::Scalar)) == 0;
+    }
+    /// Makes the members of `copy` its own, which are the bytes of those of `from`.
+    static void settleCopies(AxRegistryTable const& table, AxReaderWriter& copy, AxReaderWriter const& from,
+                             std::uint32_t stamp)
+    {
+        for (AxRegistryTable::Slot const& slot : table.slots)
+        {
+            auto& member = const_cast<AxReaderWriter&>(memberOf(slot, copy));
+            member.myStampOrNumber = stamp;
+            if (slot.reading == Reading::String)
+            {
+                // Made once more, since a text counts those that hold it.
+                new (&static_cast<AxRwString&>(member).myValue)
+                    AxSharedText(static_cast<AxRwString const&>(memberOf(slot, from)).myValue);
+            }
+        }
+    }
     /// For all members that are copied at once; 0 when stamps come from a source of the host's.
     static std::uint32_t nextStamp() { return AxReaderWriter::ourHasTimeSource ? 0 : ++AxReaderWriter::ourStamp; }
     /// Assigns one member of two different objects that share `slot`; false when that takes the general way.
@@ -62,7 +95,6 @@ public:
         }
         constexpr auto special = static_cast<std::uint16_t>(AxReaderWriter::VariableReference |
                                                             AxReaderWriter::KeepsItems | AxReaderWriter::RestApart);
-        constexpr auto carried = static_cast<std::uint16_t>(AxReaderWriter::Specified | AxReaderWriter::Inherited);
         if (((to.myFlags | from.myFlags) & special) != 0) [[unlikely]]
         {
             return false;
@@ -75,7 +107,7 @@ public:
         {
             visit(reading, to, from, [](auto& target, auto const& source) { target.myValue = source.myValue; });
         }
-        to.myFlags = static_cast<std::uint16_t>((to.myFlags & ~carried) | (from.myFlags & carried));
+        to.myFlags = static_cast<std::uint16_t>((to.myFlags & ~theCarried) | (from.myFlags & theCarried));
         to.myStampOrNumber = stamp;
         return true;
     }
@@ -167,6 +199,13 @@ public:
     }
 
 private:
+    static constexpr auto theCarried =
+        static_cast<std::uint16_t>(AxReaderWriter::Specified | AxReaderWriter::Inherited);
+
+    static AxReaderWriter const& memberOf(AxRegistryTable::Slot const& slot, AxReaderWriter const& owner)
+    {
+        return *reinterpret_cast<AxReaderWriter const*>(reinterpret_cast<char const*>(&owner) + slot.distance);
+    }
     template <class Member>
     static auto const& valueOf(AxReaderWriter const& member)
     {

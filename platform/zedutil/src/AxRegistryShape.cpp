@@ -1,5 +1,8 @@
 #include "AxRegistryShape.h"
 
+#include "AxPlainValue.h"
+#include "AxRecord.h"
+
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -155,6 +158,21 @@ AxRegistryTable::AxRegistryTable(AxRegistryShape const& last)
         myPlaces.resize(std::max(myPlaces.size(), place + 1));
         myPlaces[place] = static_cast<std::uint16_t>(i + 1);
     }
+}
+
+std::size_t AxRegistryTable::findPlainSize(AxReaderWriter const& owner) const
+{
+    std::size_t size = sizeof(AxRecord);
+    for (Slot const& slot : slots)
+    {
+        std::size_t const itsSize = slot.distance == size ? AxPlainValue::sizeOf(slot, owner) : 0;
+        if (itsSize == 0)
+        {
+            return myPlainSize = 0;
+        }
+        size += itsSize;
+    }
+    return myPlainSize = size;
 }
 
 std::size_t AxRegistryTable::find(AxSymbolString keyword) const

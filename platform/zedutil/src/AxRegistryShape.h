@@ -103,11 +103,20 @@ struct AxRegistryTable
 
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
     std::vector<Slot> slots;
+    /// Of an object that is nothing but a record and, in a row behind it, the plain values of the table; 0 when members
+    /// are of other kinds or do not stand so.
+    std::size_t plainSize(AxReaderWriter const& owner) const
+    {
+        return myPlainSize != none ? myPlainSize : findPlainSize(owner);
+    }
 
 private:
     std::vector<std::uint16_t> myBuckets; // slot + 1, 0 for free
     std::size_t myMask = 0;
     std::vector<std::uint16_t> myPlaces; // slot + 1, 0 for none
+    mutable std::size_t myPlainSize = none;
+
+    std::size_t findPlainSize(AxReaderWriter const& owner) const;
 };
 
 /// What binding and leaving need seldom.

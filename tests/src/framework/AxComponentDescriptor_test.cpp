@@ -1,6 +1,7 @@
 #include "AxComponentDescriptor.h"
 
 #include "AxActuatorComponentDescriptor.h"
+#include "AxLaserDetectorDescriptor.h"
 #include "DescriptorFixture.h"
 
 #include <memory>
@@ -125,6 +126,63 @@ TEST_F(AxComponentDescriptorTest, CopiesValuesAndFlagsUnderTheSameName)
     EXPECT_FALSE(copy == source);
     copy = source;
     EXPECT_EQ(copy, source);
+}
+
+TEST_F(AxComponentDescriptorTest, ACloneIsWhatAssigningToANewOneMakes)
+{
+    using Change = void (*)(AxLaserDetectorDescriptor&);
+    Change const changes[] = {
+        [](AxLaserDetectorDescriptor&) {},
+        [](AxLaserDetectorDescriptor& source) { source.setComponentType("a type of its own"); },
+        [](AxLaserDetectorDescriptor& source)
+        { readInto(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (min-tick-period $a))"); },
+        [](AxLaserDetectorDescriptor& source)
+        { readInto(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (feathers 2))"); },
+        [](AxLaserDetectorDescriptor& source)
+        { readInto(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (is-enabled 7))"); },
+        [](AxLaserDetectorDescriptor& source) { source.registry()->lookup("is-enabled")->setReadonly(true); },
+        [](AxLaserDetectorDescriptor& source) { source.registry()->lookup("is-enabled")->addAlias("enabled"); },
+        [](AxLaserDetectorDescriptor& source) { source.registry()->lookup("is-enabled")->setInherited(true); },
+        [](AxLaserDetectorDescriptor& source) { source.registry()->createMember("AxRwReal", "own"); },
+        [](AxLaserDetectorDescriptor& source) { source.setName("renamed"); },
+        [](AxLaserDetectorDescriptor& source) { source.setInvalid(true); },
+        [](AxLaserDetectorDescriptor& source) { source.setValueSpecified(true, false); }};
+    for (Change const change : changes)
+    {
+        auto source = std::make_unique<AxLaserDetectorDescriptor>("wing", nullptr);
+        change(*source);
+        SCOPED_TRACE(source->writtenText(true));
+        AxLaserDetectorDescriptor assigned(source->name(), nullptr);
+        assigned.assign(*source);
+        AxReaderWriterRegistry owner;
+        std::unique_ptr<AxComponentDescriptor> const clone(source->clone(&owner));
+        source.reset(); // its texts must not go with it
+        EXPECT_EQ(typeid(*clone), typeid(assigned));
+        EXPECT_EQ(clone->parentRegistry(), &owner);
+        EXPECT_EQ(owner.lookup(assigned.name()), clone.get());
+        EXPECT_EQ(clone->writtenText(), assigned.writtenText());
+        EXPECT_EQ(clone->writtenText(true), assigned.writtenText(true));
+        EXPECT_EQ(clone->keptItems(), assigned.keptItems());
+        EXPECT_EQ(clone->invalid(), assigned.invalid());
+        EXPECT_EQ(clone->registry()->localData(), assigned.registry()->localData());
+        ASSERT_EQ(clone->registry()->size(), assigned.registry()->size());
+        for (std::size_t i = 0; i < assigned.registry()->size(); ++i)
+        {
+            AxReaderWriter const& made = *clone->registry()->entry(i).member;
+            AxReaderWriter const& wanted = *assigned.registry()->entry(i).member;
+            EXPECT_EQ(made.name(), wanted.name());
+            EXPECT_EQ(made.parentRegistry(), clone->registry());
+            EXPECT_EQ(made.valueSpecified(), wanted.valueSpecified());
+            EXPECT_EQ(made.inherited(), wanted.inherited());
+            EXPECT_EQ(made.readonly(), wanted.readonly());
+            EXPECT_EQ(made.aliases(), wanted.aliases());
+            EXPECT_EQ(made.isVariableReference(), wanted.isVariableReference());
+            EXPECT_GT(made.recordUpdateTime(), 0.0);
+        }
+        clone->reset();
+        assigned.reset();
+        EXPECT_EQ(clone->writtenText(true), assigned.writtenText(true));
+    }
 }
 
 TEST_F(AxComponentDescriptorTest, MakesTheClassThatTheTextTells)
