@@ -180,12 +180,21 @@ AxReaderWriter* AxReaderWriterRegistry::lookup(AxSymbolString keyword) const
 
 AxReaderWriter* AxReaderWriterRegistry::lookupByAlias(AxSymbolString alias) const
 {
-    for (std::size_t i = 0; i < size(); ++i)
+    for (AxRegistryTable::Slot const& slot : table().slots)
     {
-        AxRegistryEntry const candidate = entry(i);
-        if (!candidate.content && candidate.member->hasAlias(alias))
+        if (AxReaderWriter* const member = at(slot.distance); member->hasAlias(alias))
         {
-            return candidate.member;
+            return member;
+        }
+    }
+    if (myOwn)
+    {
+        for (AxRegistryEntry const& candidate : myOwn->entries)
+        {
+            if (!candidate.content && candidate.member->hasAlias(alias))
+            {
+                return candidate.member;
+            }
         }
     }
     return nullptr;

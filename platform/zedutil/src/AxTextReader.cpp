@@ -1,5 +1,6 @@
 #include "AxTextReader.h"
 
+#include "AxDecimal.h"
 #include "AxDiagnostic.h"
 #include "AxNumberText.h"
 #include "AxReadFrame.h"
@@ -14,6 +15,7 @@
 #include "AxRwUnsigned.h"
 #include "AxRwVector.h"
 #include "AxTreeCells.h"
+#include "AxWordText.h"
 #include "AxXmlReader.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
@@ -78,13 +80,6 @@ char const* pastBlanks(char const* at)
     return at;
 }
 
-std::uint64_t eightBytes(char const* at)
-{
-    std::uint64_t word = 0;
-    std::memcpy(&word, at, sizeof word);
-    return word;
-}
-
 /// The same between items, where lines begin with many spaces.
 char const* pastIndentation(char const* at, char const* end)
 {
@@ -92,7 +87,7 @@ char const* pastIndentation(char const* at, char const* end)
     while (end - at >= 8)
     {
         constexpr std::uint64_t spaces = 0x2020202020202020U;
-        std::uint64_t const others = eightBytes(at) ^ spaces;
+        std::uint64_t const others = axEightBytes(at) ^ spaces;
         if (others != 0)
         {
             constexpr bool isFirstLow = std::endian::native == std::endian::little;
@@ -107,21 +102,7 @@ char const* pastIndentation(char const* at, char const* end)
 /// Whether the text at `at`, which ends at `end`, begins with `word`.
 bool beginsWith(char const* at, char const* end, std::string_view word)
 {
-    std::size_t const size = word.size();
-    if (static_cast<std::size_t>(end - at) < size)
-    {
-        return false;
-    }
-    if (size < 8)
-    {
-        return std::memcmp(at, word.data(), size) == 0;
-    }
-    std::uint64_t different = eightBytes(at + size - 8) ^ eightBytes(word.data() + size - 8);
-    for (std::size_t i = 0; i + 8 < size && different == 0; i += 8)
-    {
-        different = eightBytes(at + i) ^ eightBytes(word.data() + i);
-    }
-    return different == 0;
+    return static_cast<std::size_t>(end - at) >= word.size() && axSameBytes(at, word);
 }
 
 bool isDigit(char byte)
@@ -643,51 +624,17 @@ bool AxTextReader::readMember(AxReaderWriter& member, AxTypeInfo::Reading readin
 
 bool AxTextReader::scanReal(double& value)
 {
-    static constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                        1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    char const* at = myAt;
-    bool const isNegative = *at == '-';
-    at += isNegative ? 1 : 0;
-    char const* const first = at;
-    std::uint64_t digits = 0;
-    while (isDigit(*at))
+    char const* const end = axTakeDecimal(myAt, value);
+    if (end && kindOf(*end) != Word)
     {
-        digits = digits * 10 + static_cast<std::uint64_t>(*at++ - '0');
-    }
-    std::ptrdiff_t count = at - first;
-    std::ptrdiff_t decimals = 0;
-    if (*at == '.')
-    {
-        char const* const point = ++at;
-        while (isDigit(*at))
-        {
-            digits = digits * 10 + static_cast<std::uint64_t>(*at++ - '0');
-        }
-        decimals = at - point;
-        count += decimals;
-    }
-    // Up to 15 digits the quotient of two exact numbers is the nearest double.
-    if (kindOf(*at) != Word && count > 0 && count <= 15)
-    {
-        double const magnitude = static_cast<double>(digits) / powers[decimals];
-        value = isNegative ? -magnitude : magnitude;
-        myAt = at;
+        myAt = end;
         return true;
     }
-    if (kindOf(*at) != Word && count > 0)
-    {
-        auto const [end, error] = std::from_chars(myAt, at, value);
-        if (error == std::errc() && end == at && value != 0.0)
-        {
-            myAt = at;
-            return true;
-        }
-    }
-    char const* const end = endOfWord(at);
-    if (!axParseReal({myAt, static_cast<std::size_t>(end - myAt)}, value))
+    char const* const behind = endOfWord(myAt);
+    if (!axParseReal({myAt, static_cast<std::size_t>(behind - myAt)}, value))
     {
         return false;
     }
-    myAt = end;
+    myAt = behind;
     return true;
 }

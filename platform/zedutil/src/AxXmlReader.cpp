@@ -5,6 +5,7 @@
 #include "AxRegistryShape.h"
 #include "AxRwList.h"
 #include "AxTreeCells.h"
+#include "AxWordText.h"
 #include "AxXmlValue.h"
 
 #include <algorithm>
@@ -59,6 +60,10 @@ AxlCellPool::Place cellPlace(Document::Place place)
 /// An attribute or child of a record.
 struct AxXmlReader::Item
 {
+    Item(Attribute const* itsAttribute, std::uint32_t itsNode, std::uint32_t itsPosition, std::size_t itsPlace)
+        : attribute(itsAttribute), node(itsNode), position(itsPosition), place(itsPlace)
+    {
+    }
     Attribute const* attribute; ///< null for a child
     std::uint32_t node;
     std::uint32_t position;
@@ -550,7 +555,7 @@ void AxXmlReader::addAttributes(Record& record) const
         // Members that are no attributes stand between those that are.
         for (std::size_t at = expected; at < std::min(expected + 4, slots.size()); ++at)
         {
-            if (slots[at].keyword.view() == keyword)
+            if (slots[at].word.size() == keyword.size() && axSameBytes(keyword.data(), slots[at].word))
             {
                 place = at;
                 break;
@@ -558,9 +563,14 @@ void AxXmlReader::addAttributes(Record& record) const
         }
         place = place != none ? place : placeOf(record.table, keyword);
         expected = place != none ? place + 1 : expected;
-        bool const leads = record.leads(keyword, place);
-        record.items.insert(leads ? record.items.begin() + leading : record.items.end(), Item{one, node, 0, place});
-        leading += leads ? 1 : 0;
+        if (record.leads(keyword, place))
+        {
+            record.items.emplace(record.items.begin() + leading++, one, node, 0, place);
+        }
+        else
+        {
+            record.items.emplace_back(one, node, 0, place);
+        }
     }
 }
 
@@ -579,8 +589,8 @@ void AxXmlReader::addChildren(Record& record)
         Attribute const* const name = document.nameOf(node); // not coded
         std::string_view const keyword = name ? document.rawValue(*name) : document.tag(node);
         bool const isText = document.tag(node) == AxTreeCells::theTextTag;
-        record.items.push_back(
-            {nullptr, node, position, isText ? AxRegistryTable::none : placeOf(record.table, keyword)});
+        record.items.emplace_back(nullptr, node, position,
+                                  isText ? AxRegistryTable::none : placeOf(record.table, keyword));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "AxXmlValue.h"
 
+#include "AxDecimal.h"
 #include "AxNumberText.h"
 #include "AxRwBoolean.h"
 #include "AxRwInt.h"
@@ -40,8 +41,21 @@ bool mayBeNumber(std::string_view text)
 
 std::string_view trimmed(std::string_view text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    return text.substr(0, text.find_last_not_of(' ') + 1);
+    while (text.starts_with(' '))
+    {
+        text.remove_prefix(1);
+    }
+    while (text.ends_with(' '))
+    {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+/// A number that is the whole of a text, behind which another byte stands.
+bool readReal(std::string_view text, double& value)
+{
+    return axTakeDecimal(text.data(), value) == text.data() + text.size() || axParseReal(text, value);
 }
 
 /// Plain decimal digits, few enough for any of the whole numbers.
@@ -74,7 +88,7 @@ bool AxXmlValue::readAttribute(AxReaderWriter& member, Reading reading, std::str
     case Reading::Real:
     {
         double value = 0.0;
-        if (!axParseReal(word, value))
+        if (!readReal(word, value))
         {
             return false;
         }
@@ -127,7 +141,7 @@ bool AxXmlValue::readElement(AxReaderWriter& member, Reading reading, std::strin
     {
         text = trimmed(text);
         std::string_view const word = text.substr(0, text.find(' '));
-        if (word.empty() || !(isDigit(word.front()) || word.front() == '-') || !axParseReal(word, value))
+        if (word.empty() || !(isDigit(word.front()) || word.front() == '-') || !readReal(word, value))
         {
             return false;
         }
