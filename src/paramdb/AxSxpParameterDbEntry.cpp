@@ -274,7 +274,9 @@ AxSxpParameterDbEntry::FilePtr AxSxpParameterDbEntry::openFile(AxFilename const&
         }
         AxDiagnostics::reportStated(std::move(fault),
                                     axFormat("Could not open parameter file %s: %s\n", file.c_str(), reason));
+        return open;
     }
+    std::setvbuf(open.get(), nullptr, _IONBF, 0); // it is read at once
     return open;
 }
 

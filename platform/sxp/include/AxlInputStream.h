@@ -23,7 +23,11 @@ public:
     bool isValid() const { return myValid; }
 
     /// Line of the next byte, from 1.
-    int lineCount() const { return static_cast<int>(myLine); }
+    int lineCount() const
+    {
+        countLines();
+        return static_cast<int>(myLine);
+    }
     void incLineCount() { ++myLine; }
     /// Column of the next byte, from 1.
     std::uint32_t column() const;
@@ -52,9 +56,13 @@ protected:
 private:
     friend class AxlScanner;
 
+    /// Lines are counted when somebody asks for one.
+    void countLines() const;
+
     std::string myText;
     std::size_t myPosition = 0;
-    std::size_t myLineStart = 0;
-    std::uint32_t myLine = 1;
+    mutable std::size_t myCounted = 0; // where line and its begin are those of
+    mutable std::size_t myLineStart = 0;
+    mutable std::uint32_t myLine = 1;
     bool myValid = true;
 };

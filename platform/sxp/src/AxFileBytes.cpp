@@ -15,10 +15,10 @@ namespace
 {
 constexpr std::size_t theFirstSize = 16 * 1024;
 
-/// Reads with `readSome(to, size)`, which answers bytes read, 0 at the end, below 0 on failure. `expected` is a hint.
-/// Answers 0 or an errno value.
+/// Reads with `readSome(to, size)`, which answers bytes read, 0 at the end, below 0 on failure; where `fills`, less
+/// than asked for only at the end. `expected` is a hint. Answers 0 or an errno value.
 template <typename ReadSome>
-int readAll(std::string& out, std::size_t expected, ReadSome readSome)
+int readAll(std::string& out, std::size_t expected, bool fills, ReadSome readSome)
 {
     std::size_t size = 0;
     // One byte more than expected, so that the end of the file is seen without growing.
@@ -35,7 +35,7 @@ int readAll(std::string& out, std::size_t expected, ReadSome readSome)
         {
             return EFBIG;
         }
-        if (count == 0)
+        if (count == 0 || (fills && size < out.size()))
         {
             out.resize(size);
             return 0;
@@ -69,7 +69,7 @@ int readDescriptor(int descriptor, std::string& out)
     {
         return EFBIG;
     }
-    return readAll(out, expectedSize(status),
+    return readAll(out, expectedSize(status), false,
                    [descriptor](char* to, std::size_t size)
                    {
                        ssize_t count = 0;
@@ -99,13 +99,13 @@ bool axReadRest(std::FILE* file, std::string& out)
     {
         return false;
     }
-    int error = readAll(out, known ? expectedSize(status) : 0,
+    int error = readAll(out, known ? expectedSize(status) : 0, true,
                         [file](char* to, std::size_t size)
                         {
                             errno = 0;
                             std::size_t count = std::fread(to, 1, size, file);
-                            return count == 0 && std::ferror(file) != 0 ? std::ptrdiff_t(-1)
-                                                                        : static_cast<std::ptrdiff_t>(count);
+                            return count < size && std::ferror(file) != 0 ? std::ptrdiff_t(-1)
+                                                                          : static_cast<std::ptrdiff_t>(count);
                         });
     if (error != 0)
     {

@@ -1,6 +1,7 @@
 #include "AxlInputStream.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 AxlInputStream::AxlInputStream(std::string text)
@@ -18,13 +19,26 @@ void AxlInputStream::setText(std::string text, bool valid)
         myText.erase(0, 3);
     }
     myPosition = 0;
+    myCounted = 0;
     myLineStart = 0;
     myLine = 1;
     myValid = valid;
 }
 
+void AxlInputStream::countLines() const
+{
+    char const* const text = myText.data();
+    while (void const* const newline = std::memchr(text + myCounted, '\n', myPosition - myCounted))
+    {
+        myLineStart = myCounted = static_cast<std::size_t>(static_cast<char const*>(newline) - text) + 1;
+        ++myLine;
+    }
+    myCounted = myPosition;
+}
+
 std::uint32_t AxlInputStream::column() const
 {
+    countLines();
     return static_cast<std::uint32_t>(myPosition - myLineStart) + 1;
 }
 
@@ -34,13 +48,7 @@ int AxlInputStream::fgetc()
     {
         return endOfFile;
     }
-    int byte = static_cast<unsigned char>(myText[myPosition++]);
-    if (byte == '\n')
-    {
-        ++myLine;
-        myLineStart = myPosition;
-    }
-    return byte;
+    return static_cast<unsigned char>(myText[myPosition++]);
 }
 
 int AxlInputStream::peekc() const
@@ -55,6 +63,11 @@ void AxlInputStream::ungetc(int byte)
         return;
     }
     --myPosition;
+    if (myPosition >= myCounted)
+    {
+        return;
+    }
+    myCounted = myPosition;
     if (myText[myPosition] == '\n')
     {
         --myLine;
@@ -84,12 +97,5 @@ void AxlInputStream::flush_until(char last)
 
 void AxlInputStream::moveTo(std::size_t position)
 {
-    position = std::min(position, myText.size());
-    for (std::size_t newline = myText.find('\n', myPosition); newline < position;
-         newline = myText.find('\n', newline + 1))
-    {
-        ++myLine;
-        myLineStart = newline + 1;
-    }
-    myPosition = std::max(myPosition, position);
+    myPosition = std::max(myPosition, std::min(position, myText.size()));
 }

@@ -10,8 +10,8 @@ AxlScanner::AxlScanner(AxlInputStream& stream)
     : myStream(stream),
       myNext(stream.myText.data() + stream.myPosition),
       myEnd(stream.myText.data() + stream.myText.size()),
-      myLineStart(stream.myText.data() + stream.myLineStart),
-      myNextLine(stream.myLine),
+      myLineStart(myNext - (stream.column() - 1)),
+      myNextLine(static_cast<std::uint32_t>(stream.lineCount())),
       myTokenBegin(myNext),
       myTokenLineStart(myLineStart)
 {
@@ -26,6 +26,7 @@ AxlScanner::~AxlScanner()
 {
     char const* begin = myStream.myText.data();
     myStream.myPosition = static_cast<std::size_t>(myNext - begin);
+    myStream.myCounted = myStream.myPosition;
     myStream.myLineStart = static_cast<std::size_t>(myLineStart - begin);
     myStream.myLine = myNextLine;
 }

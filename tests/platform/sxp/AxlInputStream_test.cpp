@@ -49,6 +49,22 @@ TEST(AxlInputStream, CountsLinesBothWays)
     EXPECT_EQ(stream.lineCount(), 2);
 }
 
+TEST(AxlInputStream, CountsLinesWherePlacesAreSkipped)
+{
+    AxlInputStream stream("a\nbc\n(d)\ne");
+    stream.moveTo(4);
+    stream.ungetc('c');
+    EXPECT_EQ(stream.column(), 2U);
+    EXPECT_EQ(stream.lineCount(), 2);
+    stream.moveTo(5);
+    AxlObjPtr const cell = AxcRead(stream);
+    EXPECT_EQ(cell->line(), 3U);
+    EXPECT_EQ(cell->column(), 1U);
+    EXPECT_EQ(stream.fgetc_past_whitespace(), 'e');
+    EXPECT_EQ(stream.lineCount(), 4);
+    EXPECT_EQ(stream.column(), 2U);
+}
+
 TEST(AxlInputStream, SkipsBlanksAndFlushes)
 {
     AxlInputStream stream(" \t\r\n\f\v\xFFrest;more");
