@@ -89,7 +89,8 @@ struct AxTypeInfo
     };
     AxTypeOps const* ops = nullptr;
     Reading reading = Reading::Cells;
-    bool readsTrees = false; ///< a record that overrides the data hook of trees
+    bool readsTrees = false;   ///< a record that overrides the data hook of trees
+    bool takesUnknown = false; ///< overrides the hook for unknown items
 };
 
 #pragma GCC diagnostic push

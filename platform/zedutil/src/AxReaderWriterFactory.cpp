@@ -32,10 +32,11 @@ FunctionTable functionsOf(AxReaderWriter const& rw)
     return *reinterpret_cast<FunctionTable const*>(&rw);
 }
 
-// Places of the hooks of cells and of that of trees; the check of the slot order guards them.
+// Places of the hooks of cells and of those of trees; the check of the slot order guards them.
 constexpr std::size_t getSelfOfCells = 7;
 constexpr std::size_t getDataOfTrees = 13;
 constexpr std::size_t getDataOfCells = 14;
+constexpr std::size_t unrecognizedItem = 39;
 constexpr std::size_t getLocalData = 62;
 
 /// Operations by dynamic type. A class without an entry of its own is served by that of the nearest base that has one;
@@ -93,7 +94,9 @@ private:
         info.ops = search(typeid(rw));
         info.reading = readingOf(rw, info.ops);
         AxReaderWriter const plain{AxSymbolString(), nullptr};
-        info.readsTrees = functionsOf(rw)[getDataOfTrees] != functionsOf(plain)[getDataOfTrees];
+        auto const overrides = [&](std::size_t hook) { return functionsOf(rw)[hook] != functionsOf(plain)[hook]; };
+        info.readsTrees = overrides(getDataOfTrees);
+        info.takesUnknown = overrides(unrecognizedItem);
         return info;
     }
     static AxTypeInfo::Reading readingOf(AxReaderWriter const& rw, AxTypeOps const* ops)

@@ -100,10 +100,15 @@ AxDiagnostic diagnostic(AxSeverity severity, char const* code, AxlObj const* pla
     return made;
 }
 
-/// Offers an item to the one hook there is for unknown ones, which takes a tree.
+/// Offers an item to the one hook there is for unknown ones, which takes a tree. That is several times as large as the
+/// item, so it is made only for a class that looks at it.
 bool isConsumed(AxReaderWriter& record, AxlObj const* item, std::string const& word, AxFilenameList const& files,
                 AxBindingsList const& bindings)
 {
+    if (!AxReaderWriterFactory::typeInfo(record).takesUnknown)
+    {
+        return false;
+    }
     AxEnvironmentPtr const env = boost::make_shared<AxEnvironment>();
     AxEnvValuePtr const node = env->addObject(AxString(word), AxString("item"));
     for (AxlObj const* rest = item->cdr(); rest->tag() == AxlObj::Tag::Pair; rest = rest->cdr())

@@ -1,6 +1,7 @@
 #include "AxReaderWriter.h"
 
 #include "AxDiagnostic.h"
+#include "AxEnvObject.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRwBoolean.h"
 #include "AxRwInt.h"
@@ -167,6 +168,28 @@ TEST(AxReaderWriter, SuggestsTheNearestKeyword)
     EXPECT_EQ(findings.all[0].format(),
               "test.ope:1:8: warning: unknown keyword \"mas\" in m1a1 (Vehicle); did you mean \"mass\"? "
               "[unknown-keyword]");
+}
+
+TEST(AxReaderWriter, OffersUnknownItemsToAClassThatTakesThem)
+{
+    struct Taker : Vehicle
+    {
+        using Vehicle::Vehicle;
+        bool unrecognizedItem(AxEnvironmentPtr const&, AxEnvValuePtr const& node, AxFilenameList const&,
+                              AxBindingsList const&) override
+        {
+            auto const& item = dynamic_cast<AxEnvObject const&>(*node);
+            offered += item.name().string() + ':' + std::to_string(item.count()) + ' ';
+            return item.name() == "wings";
+        }
+        std::string offered;
+    };
+    Findings findings;
+    Taker taker;
+    EXPECT_TRUE(read(taker, "(v (wings 1 (2 3)) (seats 2) (keel))"));
+    EXPECT_EQ(taker.offered, "wings:2 keel:0 ");
+    EXPECT_EQ(findings.codes(), "unknown-keyword@1:31");
+    EXPECT_EQ(taker.writtenText(), "(v\n  (seats 2)\n  (keel))\n");
 }
 
 TEST(AxReaderWriter, AValueThatIsSetReplacesTheUnreadableItem)
