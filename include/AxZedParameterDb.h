@@ -8,6 +8,7 @@
 
 #include <list>
 #include <memory>
+#include <vector>
 
 class AxTypeIndex;
 class AxZedObjectParameters;
@@ -29,7 +30,7 @@ public:
     virtual ~AxZedParameterDb();
     virtual bool init();
     /// Adds an exact entry that owns `params`. The entry is usable until the next change of its type. Null, and a
-    /// warning, for null `params`.
+    /// warning, for null `params`, and without memory for the entry; `params` then stays the caller's.
     virtual AxZedParameterDbEntry* add(AxObjectType const& type, AxZedObjectParameters* params);
     /// The record of the best entry, null when none fits; it dies with its entry. `matchedType` receives the entry's
     /// type and is untouched by a miss. `info` is used by databases on disk.
@@ -87,19 +88,27 @@ private:
     friend class AxZedParameterDbEntry;
 
     AxZedParameterDbEntry* entryOf(AxListItem const* item) const;
+    void insert(AxZedParameterDbEntry& entry);
+    void leaveOutside(AxZedParameterDbEntry& entry);
     void release(AxZedParameterDbEntry& entry);
+    void forgetNumber(AxZedParameterDbEntry const& entry);
+    static void destroy(AxZedParameterDbEntry* entry);
     void typeChanges();
-    void park(AxZedParameterDbEntry* entry);
 
-    struct Parked;
     struct Answer
     {
         AxListItem const* item = nullptr;
         AxZedParameterDbEntry* entry = nullptr;
     };
+    // The entries hold the items of both lists, so that adding and removing one needs no memory.
     AxList myList;
+    AxList myOutside; // what the insertion rule left outside, in ascending order of the types
     std::unique_ptr<AxTypeIndex> myIndex;
-    std::unique_ptr<Parked> myParked; // entries that the insertion rule left outside the list
+    /// All entries as they came, which is how they stand in memory: destroyed in that order they cost less than half.
+    /// Null for those that went; empty without memory for it.
+    std::vector<AxZedParameterDbEntry*> myEntries;
+    std::size_t myNumGone = 0;
+    bool myKnowsEntries = true;
     /// While an entry is inserted, its type: of what is found for it only an equal type counts.
     AxObjectType const* myInsertedType = nullptr;
     /// Of the last look-up: its entry is known without reading the item, which costs a line of memory.

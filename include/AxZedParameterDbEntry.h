@@ -1,10 +1,12 @@
 #pragma once
 
 #include "AxExport.h"
+#include "AxListItem.h"
 #include "AxObjectType.h"
 #include "AxString.h"
 
-class AxListItem;
+#include <cstdint>
+
 class AxZedObjectParameters;
 class AxZedParameterDb;
 
@@ -14,7 +16,8 @@ class AxZedParameterDb;
 class ZEDOBJPARAM_API AxZedParameterDbEntry
 {
 public:
-    AxZedParameterDbEntry() = default;
+    AxZedParameterDbEntry() : myItem(this) {}
+    explicit AxZedParameterDbEntry(AxObjectType const& type) : myObjectType(type), myItem(this) {}
     AxZedParameterDbEntry(AxZedParameterDbEntry const&) = delete;
     AxZedParameterDbEntry& operator=(AxZedParameterDbEntry const&) = delete;
 
@@ -46,7 +49,9 @@ private:
     AxObjectType myObjectType;
     AxZedObjectParameters* myParameters = nullptr;
     AxZedParameterDb* myHolder = nullptr;
-    AxListItem* myItem = nullptr; // null while the holder keeps the entry outside its list
+    AxListItem myItem;          // in a list of the holder's
+    std::uint32_t myNumber = 0; // among the holder's entries, as they came
+    bool myIsOutside = false;   // of the list that answers
     bool myTemporary = false;
     bool myTypeIsMatchType = false;
 };

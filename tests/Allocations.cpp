@@ -105,3 +105,39 @@ void operator delete[](void* memory, std::nothrow_t const&) noexcept
 {
     std::free(memory);
 }
+
+void* operator new(std::size_t size, std::align_val_t alignment)
+{
+    countOrFail();
+    auto const unit = static_cast<std::size_t>(alignment);
+    if (void* const memory = std::aligned_alloc(unit, (size + unit - 1) / unit * unit))
+    {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+
+void* operator new[](std::size_t size, std::align_val_t alignment)
+{
+    return operator new(size, alignment);
+}
+
+void operator delete(void* memory, std::align_val_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t, std::align_val_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::align_val_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t, std::align_val_t) noexcept
+{
+    std::free(memory);
+}

@@ -121,19 +121,22 @@ AxZedParameterDbEntry* AxSxpParameterDb::createParameterEntry() const
 AxSxpParameterDbEntry* AxSxpParameterDb::add(AxObjectType const& type, AxFilename const& file, bool typeIsMatchType,
                                              AxZedObjectParameters* params)
 {
-    std::unique_ptr<AxZedParameterDbEntry> made(createParameterEntry());
-    auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(made.get());
-    if (!entry)
-    {
-        return nullptr;
-    }
-    entry->setObjectType(type);
-    entry->setParameters(params);
-    entry->setFilename(file);
-    entry->setTypeIsMatchType(typeIsMatchType);
-    addParameterDbEntry(entry);
-    static_cast<void>(made.release());
-    return entry;
+    AxSxpParameterDbEntry* const none = nullptr;
+    return axGuarded("add-failed", file, none,
+                     [&]
+                     {
+                         std::unique_ptr<AxZedParameterDbEntry> made(createParameterEntry());
+                         auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(made.get());
+                         if (entry)
+                         {
+                             entry->setObjectType(type);
+                             entry->setFilename(file);
+                             entry->setTypeIsMatchType(typeIsMatchType);
+                             entry->setParameters(params);
+                             addParameterDbEntry(made.release());
+                         }
+                         return entry;
+                     });
 }
 
 AxZedObjectParameters* AxSxpParameterDb::lookup(AxObjectType const& type, AxObjectType* matchedType,
@@ -151,7 +154,12 @@ AxZedObjectParameters* AxSxpParameterDb::lookup(AxObjectType const& type, AxObje
     }
     if (info)
     {
-        *info = entry->filename().string();
+        axGuarded("lookup-failed", entry->filename(), false,
+                  [&]
+                  {
+                      *info = entry->filename().string();
+                      return true;
+                  });
     }
     AxZedObjectParameters* const record = getParameters(entry);
     if (record && matchedType)

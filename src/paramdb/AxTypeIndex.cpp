@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <utility>
 
 namespace
@@ -41,34 +42,15 @@ bool hasNegativeField(AxObjectType const& type)
     }
     return all < 0;
 }
-/// a < b, two fields at a time.
-inline bool isBelow(AxObjectType const& a, AxObjectType const& b)
-{
-    for (std::size_t i = 0; i < AxObjectType::theNumFields; i += 2)
-    {
-        auto const pair = [i](AxObjectType const& type)
-        {
-            constexpr std::uint32_t lowest = 0x80000000U;
-            auto const ordered = [](std::int32_t field) { return static_cast<std::uint32_t>(field) ^ lowest; };
-            return std::uint64_t{ordered(type.fields()[i])} << 32 | ordered(type.fields()[i + 1]);
-        };
-        if (pair(a) != pair(b))
-        {
-            return pair(a) < pair(b);
-        }
-    }
-    return false;
-}
 } // namespace
 
 AxTypeIndex::Found AxTypeIndex::bestMatch(AxObjectType const& type)
 {
     arrange();
-    if (!isSorted())
+    if (!isSorted() || !hasTables())
     {
         return found(walk(type));
     }
-    buildTables();
     if (hasNegativeField(type))
     {
         return bestOfUnusual(type);
@@ -76,7 +58,7 @@ AxTypeIndex::Found AxTypeIndex::bestMatch(AxObjectType const& type)
     AxTypeHash hash(type);
     if (AxTypeTable::Slot* const slot = myExact.find(type, hash.mixed()))
     {
-        return answer(slot->first);
+        return slot->first;
     }
     for (unsigned const shape : myShapes)
     {
@@ -86,7 +68,7 @@ AxTypeIndex::Found AxTypeIndex::bestMatch(AxObjectType const& type)
         {
             if (AxTypeTable::Slot* const slot = myPatterns.find(masked(type, shape), mixed))
             {
-                return answer(slot->last);
+                return slot->last;
             }
         }
     }
@@ -97,10 +79,13 @@ AxTypeIndex::Found AxTypeIndex::bestOfUnusual(AxObjectType const& type)
 {
     if (AxTypeTable::Slot* const slot = tableFor(shapeOf(type)).find(type))
     {
-        return answer(slot->first);
+        return slot->first;
     }
     // A field below -1 lets patterns stand above the type that fits them; they come first.
-    buildOrder();
+    if (!hasOrder())
+    {
+        return found(walk(type));
+    }
     auto const above = myOrder.lower_bound(type);
     AxListItem* best = nullptr;
     for (AxListItem* item = above != myOrder.end() ? above->second : nullptr;
@@ -126,7 +111,7 @@ AxTypeIndex::Found AxTypeIndex::greatestBelow(AxObjectType const& type)
         AxTypeTable::Slot* const slot = key < type ? tableFor(shape).find(key) : nullptr;
         if (slot != nullptr && (best.item == nullptr || typeOf(best.item) < key))
         {
-            best = answer(slot->last);
+            best = slot->last;
         }
     };
     consider(0);
@@ -166,162 +151,180 @@ AxListItem* AxTypeIndex::walk(AxObjectType const& type) const
 
 AxTypeIndex::Found AxTypeIndex::firstOf(AxObjectType const& type)
 {
-    if (!isSorted())
+    if (!isSorted() || !hasTables())
     {
+        arrange();
         AxListItem* const best = walk(type);
         return best != nullptr && typeOf(best) == type ? found(best) : Found();
     }
-    if (myList.isEmpty() || greatest() < type)
+    if (count() == 0 || greatest() < type)
     {
         return {};
     }
-    buildTables();
     AxTypeTable::Slot* const slot = tableFor(shapeOf(type)).find(type);
-    return slot != nullptr ? answer(slot->first) : Found();
+    return slot != nullptr ? slot->first : Found();
 }
 
-AxListItem* AxTypeIndex::insert(void* data, AxObjectType const& type)
+bool AxTypeIndex::insert(void* data, AxObjectType const& type)
 {
-    arrange();
-    if (!isSorted())
+    Place const place = placeOf(type);
+    if (place.isThere)
     {
-        return insertByWalk(data, type);
+        enter(myList.insertBefore(place.before, data), type);
     }
-    AxListItem* place = nullptr;
-    if (!myList.isEmpty() && !(typeOf(myList.last()) < type))
-    {
-        buildOrder();
-        auto const above = myOrder.upper_bound(type);
-        if (above == myOrder.end())
-        {
-            return nullptr;
-        }
-        place = above->second;
-    }
-    AxListItem* const item = makeItem(place, data);
-    enter(item, type);
-    return item;
+    return place.isThere;
 }
 
-bool AxTypeIndex::insertLater(void* data, AxObjectType const& type)
+bool AxTypeIndex::link(AxListItem& item, AxObjectType const& type)
+{
+    Place const place = placeOf(type);
+    if (place.isThere)
+    {
+        myList.link(item, place.before);
+        enter(&item, type);
+    }
+    return place.isThere;
+}
+
+bool AxTypeIndex::linkLater(AxListItem& item, AxObjectType const& type)
 {
     bool const isInPlace = myUnplaced.empty() && (myList.isEmpty() || greatest() < type);
     if (!isSorted() || isInPlace || myHasOrder)
     {
-        return insert(data, type) != nullptr;
+        return link(item, type);
     }
     if (greatest() == type)
     {
         return false;
     }
-    buildTables();
-    enterInTables({nullptr, data}, type);
-    myGreatest = std::max(greatest(), type);
-    myUnplaced.push_back({type, data});
+    try
+    {
+        myUnplaced.push_back(&item);
+    }
+    catch (std::bad_alloc const&)
+    {
+        return link(item, type);
+    }
+    if (!hasTables() || !enterInTables(&item, type))
+    {
+        myUnplaced.pop_back();
+        return link(item, type);
+    }
+    myGreatest = myUnplaced.size() == 1 ? std::max(typeOf(myList.last()), type) : std::max(myGreatest, type);
     return true;
 }
 
 void AxTypeIndex::expect(std::size_t count)
 {
-    if (isSorted())
+    try
     {
-        buildTables();
-        myExact.reserve(myExact.count() + count);
+        if (isSorted() && hasTables())
+        {
+            myExact.reserve(myExact.count() + count);
+        }
+    }
+    catch (std::bad_alloc const&)
+    {
+        // They will find room one by one, or not.
     }
 }
 
-AxListItem* AxTypeIndex::makeItem(AxListItem* before, void* data)
+AxTypeIndex::Place AxTypeIndex::placeOf(AxObjectType const& type)
 {
-    AxListItem* const item = myList.insertBefore(before, data);
-    if (myItemOf != nullptr)
+    arrange();
+    AxObjectType const* const last = myList.isEmpty() ? nullptr : myTypeOf(myList.last()->data());
+    if (myList.isEmpty() || (last != nullptr && *last < type))
     {
-        myItemOf(data) = item;
+        return {true, nullptr};
+    }
+    AxListItem* const above = firstAbove(type);
+    return {above != nullptr, above};
+}
+
+AxListItem* AxTypeIndex::firstAbove(AxObjectType const& type)
+{
+    if (isSorted() && hasOrder())
+    {
+        auto const above = myOrder.upper_bound(type);
+        return above != myOrder.end() ? above->second : nullptr;
+    }
+    AxListItem* item = myList.first();
+    while (item != nullptr && (myTypeOf(item->data()) == nullptr || !(type < typeOf(item))))
+    {
+        item = item->next();
     }
     return item;
 }
 
-/// What was entered before it had its item.
-AxTypeIndex::Found const& AxTypeIndex::answer(Found& found) const
-{
-    if (found.item == nullptr)
-    {
-        found.item = myItemOf(found.data);
-    }
-    return found;
-}
-
 void AxTypeIndex::placeAll()
 {
-    std::vector<Unplaced> unplaced = std::exchange(myUnplaced, {});
-    std::stable_sort(unplaced.begin(), unplaced.end(),
-                     [](Unplaced const& a, Unplaced const& b) { return isBelow(a.type, b.type); });
+    std::vector<AxListItem*> unplaced = std::exchange(myUnplaced, {});
+    axSortByType(unplaced, myTypeOf);
     bool const areFew = unplaced.size() < static_cast<std::size_t>(myList.count()) / 8;
-    // The items are made in their order, so that a walk over them goes through memory in order, too.
+    constexpr std::size_t theReach = 8; // how far ahead memory is asked for
     AxListItem* above = myList.first();
-    for (Unplaced const& next : unplaced)
+    for (std::size_t i = 0; i < unplaced.size(); ++i)
     {
-        while (above != nullptr && !isBelow(next.type, typeOf(above)))
+        __builtin_prefetch(unplaced[std::min(i + theReach, unplaced.size() - 1)], 1);
+        while (above != nullptr && !(typeOf(unplaced[i]) < typeOf(above)))
         {
             above = above->next();
         }
-        makeItem(above, next.data);
+        myList.link(*unplaced[i], above);
     }
     myChangeCount = myList.changeCount();
     if (areFew)
     {
-        buildOrder(); // more single ones may follow, each asked for at once
+        hasOrder(); // more single ones may follow, each asked for at once
     }
 }
 
+/// Of an item that has its place. What finds no memory for it is forgotten and built anew.
 void AxTypeIndex::enter(AxListItem* item, AxObjectType const& type)
 {
-    myChangeCount = myList.changeCount();
-    if (myHasOrder)
+    if (!myIsKnown || !myIsSorted)
     {
-        // An item behind one of equal type finds its key taken.
-        myOrder.emplace_hint(item->next() == nullptr ? myOrder.end() : myOrder.upper_bound(type), type, item);
+        myIsKnown = false;
+        return;
     }
-    if (myHasTables)
+    myChangeCount = myList.changeCount();
+    if ((myHasOrder && !enterInOrder(item, type)) || (myHasTables && !enterInTables(item, type)))
     {
-        enterInTables(found(item), type);
+        forget();
     }
 }
 
-void AxTypeIndex::enterInTables(Found const& found, AxObjectType const& type)
+bool AxTypeIndex::enterInOrder(AxListItem* item, AxObjectType const& type)
+try
+{
+    bool const isLast = myOrder.empty() || myOrder.rbegin()->first < type;
+    // An item behind one of equal type finds its key taken.
+    myOrder.emplace_hint(isLast ? myOrder.end() : myOrder.upper_bound(type), type, item);
+    return true;
+}
+catch (std::bad_alloc const&)
+{
+    return false;
+}
+
+bool AxTypeIndex::enterInTables(AxListItem* item, AxObjectType const& type)
+try
 {
     unsigned const shape = shapeOf(type);
     AxTypeTable& table = tableFor(shape);
     std::uint64_t const hash = AxTypeHash(type).mixed();
     if (AxTypeTable::Slot* const slot = table.find(type, hash))
     {
-        slot->last = found; // it stands behind those of equal type
-        return;
+        slot->last = found(item); // it stands behind those of equal type
+        return true;
     }
-    table.add(type, found, hash);
+    table.add(type, found(item), hash);
     countShape(shape, 1);
+    return true;
 }
-
-AxListItem* AxTypeIndex::insertByWalk(void* data, AxObjectType const& type)
+catch (std::bad_alloc const&)
 {
-    AxObjectType const* const last = myTypeOf(myList.last()->data());
-    AxListItem* place = nullptr;
-    if (last == nullptr || !(*last < type))
-    {
-        for (place = myList.first(); place != nullptr; place = place->next())
-        {
-            AxObjectType const* const standing = myTypeOf(place->data());
-            if (standing != nullptr && type < *standing)
-            {
-                break;
-            }
-        }
-        if (place == nullptr)
-        {
-            return nullptr;
-        }
-    }
-    invalidate();
-    return makeItem(place, data);
+    return false;
 }
 
 void AxTypeIndex::remove(AxListItem* item)
@@ -329,6 +332,15 @@ void AxTypeIndex::remove(AxListItem* item)
     arrange();
     bool const isKept = isSorted() && leave(item);
     myList.remove(item);
+    myChangeCount = myList.changeCount();
+    myIsKnown = isKept;
+}
+
+void AxTypeIndex::unlink(AxListItem& item)
+{
+    arrange();
+    bool const isKept = isSorted() && leave(&item);
+    myList.unlink(item);
     myChangeCount = myList.changeCount();
     myIsKnown = isKept;
 }
@@ -389,12 +401,18 @@ void AxTypeIndex::start()
 
 void AxTypeIndex::forget()
 {
+    forgetTables();
+    myOrder.clear();
+    myHasOrder = false;
+}
+
+void AxTypeIndex::forgetTables()
+{
     myExact.clear();
     myPatterns.clear();
     myShapes.clear();
     myShapeCounts.fill(0);
-    myOrder.clear();
-    myHasTables = myHasOrder = false;
+    myHasTables = false;
 }
 
 bool AxTypeIndex::isSorted()
@@ -425,12 +443,9 @@ bool AxTypeIndex::scanIsSorted() const
     return true;
 }
 
-void AxTypeIndex::buildTables()
+bool AxTypeIndex::buildTables()
+try
 {
-    if (myHasTables)
-    {
-        return;
-    }
     std::size_t patterns = 0;
     for (AxListItem const* item = myList.first(); item != nullptr; item = item->next())
     {
@@ -438,27 +453,35 @@ void AxTypeIndex::buildTables()
     }
     myExact.reserve(static_cast<std::size_t>(myList.count()) - patterns);
     myPatterns.reserve(patterns);
-    bool const hadOrder = myHasOrder;
-    myHasOrder = false;
+    myShapes.reserve(myShapeCounts.size());
     myHasTables = true;
-    for (AxListItem* item = myList.first(); item != nullptr; item = item->next())
+    for (AxListItem* item = myList.first(); item != nullptr && myHasTables; item = item->next())
     {
-        enter(item, typeOf(item));
+        if (!enterInTables(item, typeOf(item)))
+        {
+            forgetTables();
+        }
     }
-    myHasOrder = hadOrder;
+    return myHasTables;
+}
+catch (std::bad_alloc const&)
+{
+    forgetTables();
+    return false;
 }
 
-void AxTypeIndex::buildOrder()
+bool AxTypeIndex::buildOrder()
 {
-    if (myHasOrder)
-    {
-        return;
-    }
     myHasOrder = true;
-    for (AxListItem* item = myList.first(); item != nullptr; item = item->next())
+    for (AxListItem* item = myList.first(); item != nullptr && myHasOrder; item = item->next())
     {
-        myOrder.emplace_hint(myOrder.end(), typeOf(item), item);
+        if (!enterInOrder(item, typeOf(item)))
+        {
+            myOrder.clear();
+            myHasOrder = false;
+        }
     }
+    return myHasOrder;
 }
 
 void AxTypeIndex::countShape(unsigned shape, int change)
@@ -484,7 +507,7 @@ AxListItem* AxTypeIndex::ancestorOf(AxListItem const* item)
 {
     arrange();
     AxObjectType const& type = typeOf(item);
-    if (!isSorted())
+    if (!isSorted() || !hasTables() || !hasOrder())
     {
         AxListItem* before = item->previous();
         while (before != nullptr && !type.matchPattern(typeOf(before)) &&
@@ -494,7 +517,6 @@ AxListItem* AxTypeIndex::ancestorOf(AxListItem const* item)
         }
         return before;
     }
-    buildTables();
     AxListItem* const fitting = greatestBelow(type).item;
     AxListItem* const catchAll = lastCatchAllBefore(type);
     if (fitting == nullptr || catchAll == nullptr)
@@ -509,7 +531,6 @@ AxListItem* AxTypeIndex::lastCatchAllBefore(AxObjectType const& type)
     AxObjectType::Fields behindAll;
     behindAll.fill(std::numeric_limits<std::int32_t>::min());
     behindAll[0] = AxObjectType::theCatchAllSuperType + 1;
-    buildOrder();
     auto const end = myOrder.lower_bound(std::min(type, AxObjectType(behindAll)));
     if (end == myOrder.begin())
     {

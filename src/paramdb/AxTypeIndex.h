@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AxList.h"
+#include "AxTypeSort.h"
 #include "AxTypeTable.h"
 
 #include <map>
@@ -13,18 +14,14 @@
 /// fitting types the one whose set of wildcards is least: exact types stand in one hash table, patterns in a second,
 /// asked shape by shape in ascending order. Other types go through the ordered map. Built when first needed; a list
 /// that was changed behind the index, or whose types were, is looked at anew, and walked while it is out of order.
+///
+/// Tables and map are there for speed alone: without memory for them they are forgotten, and what is asked is answered
+/// by a walk. Nothing here throws but `insert` of data, for want of memory for the list's item, and then nothing
+/// changed.
 class AxTypeIndex
 {
 public:
-    /// The type of an item's data; null when it has none.
-    using TypeOf = AxObjectType const* (*)(void const* data);
-    /// Where data keep a note of their item, null when there is none yet.
-    using ItemOf = AxListItem*& (*)(void* data);
-
-    /// Without `itemOf` nothing can be inserted later.
-    AxTypeIndex(AxList& list, TypeOf ofData, ItemOf itemOf = nullptr) : myList(list), myTypeOf(ofData), myItemOf(itemOf)
-    {
-    }
+    AxTypeIndex(AxList& list, AxTypeOf ofData) : myList(list), myTypeOf(ofData) {}
 
     using Found = AxTypeTable::Found;
     Found bestMatch(AxObjectType const& type);
@@ -32,12 +29,14 @@ public:
     AxListItem* walk(AxObjectType const& type) const;
     /// The first item of exactly this type, null when there is none.
     Found firstOf(AxObjectType const& type);
-    /// Puts `data` in front of the first item above its type, or at the end when the last item is below it. Null when
+    /// Puts `data` in front of the first item above its type, or at the end when the last item is below it. False when
     /// neither is to be had, because an item of equal type is the last.
-    AxListItem* insert(void* data, AxObjectType const& type);
-    /// The same for many in a row, false instead of null: there is an item, in its place, when the order is asked for,
-    /// by `arrange` or by any other operation but this, `count` and `firstOf`, which may tell of data without an item.
-    bool insertLater(void* data, AxObjectType const& type);
+    bool insert(void* data, AxObjectType const& type);
+    /// The same for data that hold their item, which `remove` leaves to them.
+    bool link(AxListItem& item, AxObjectType const& type);
+    /// The same for many in a row: the item stands in the list when the order is asked for, by `arrange` or by any
+    /// other operation but this, `count` and `firstOf`.
+    bool linkLater(AxListItem& item, AxObjectType const& type);
     void expect(std::size_t count);
     std::size_t count() const { return static_cast<std::size_t>(myList.count()) + myUnplaced.size(); }
     void arrange()
@@ -48,21 +47,9 @@ public:
         }
     }
     void remove(AxListItem* item);
-    /// Gives the data of each item to `take`, in no order.
-    template <class Take>
-    void removeAll(Take const& take)
-    {
-        for (Unplaced const& unplaced : myUnplaced)
-        {
-            take(unplaced.data);
-        }
-        while (AxListItem* const item = myList.first())
-        {
-            take(item->data());
-            myList.remove(item);
-        }
-        start();
-    }
+    void unlink(AxListItem& item);
+    /// The list is empty now, and what was linked later is gone.
+    void start();
     /// A type was changed behind the index.
     void invalidate()
     {
@@ -74,43 +61,47 @@ public:
     AxListItem* ancestorOf(AxListItem const* item);
 
 private:
-    struct Unplaced
+    /// In front of an item, at the end, or nowhere.
+    struct Place
     {
-        AxObjectType type;
-        void* data;
+        bool isThere;
+        AxListItem* before;
     };
 
     static Found found(AxListItem* item) { return {item, item != nullptr ? item->data() : nullptr}; }
     AxObjectType const& typeOf(AxListItem const* item) const { return *myTypeOf(item->data()); }
     AxObjectType const& greatest() const { return myUnplaced.empty() ? typeOf(myList.last()) : myGreatest; }
+    Place placeOf(AxObjectType const& type);
+    AxListItem* firstAbove(AxObjectType const& type);
     void placeAll();
     bool isSorted();
     bool scanIsSorted() const;
-    void start();
     void forget();
-    void buildTables();
-    void buildOrder();
+    void forgetTables();
+    // These answer false, and what they were to fill is not there, when there is no memory for it.
+    bool hasTables() { return myHasTables || buildTables(); }
+    bool buildTables();
+    bool hasOrder() { return myHasOrder || buildOrder(); }
+    bool buildOrder();
+    bool enterInTables(AxListItem* item, AxObjectType const& type);
+    bool enterInOrder(AxListItem* item, AxObjectType const& type);
+
     AxTypeTable& tableFor(unsigned shape) { return shape == 0 ? myExact : myPatterns; }
     void countShape(unsigned shape, int change);
-    AxListItem* makeItem(AxListItem* before, void* data);
-    Found const& answer(Found& found) const;
     void enter(AxListItem* item, AxObjectType const& type);
-    void enterInTables(Found const& found, AxObjectType const& type);
     bool leave(AxListItem const* item);
     Found bestOfUnusual(AxObjectType const& type);
     Found greatestBelow(AxObjectType const& type);
-    AxListItem* insertByWalk(void* data, AxObjectType const& type);
     AxListItem* lastCatchAllBefore(AxObjectType const& type);
 
     AxList& myList;
-    TypeOf myTypeOf;
-    ItemOf myItemOf;
+    AxTypeOf myTypeOf;
     AxTypeTable myExact;
     AxTypeTable myPatterns;
     std::vector<std::uint8_t> myShapes; // of the patterns, ascending
     std::array<std::uint32_t, 256> myShapeCounts{};
     std::map<AxObjectType, AxListItem*> myOrder; // the first item of each type
-    std::vector<Unplaced> myUnplaced;            // in the tables only, as they came
+    std::vector<AxListItem*> myUnplaced;         // in the tables only, as they came
     AxObjectType myGreatest;                     // while there are such
     std::uint32_t myChangeCount = 0;             // of the list as the index knows it
     bool myIsKnown = true;

@@ -20,8 +20,10 @@ void AxTypeTable::reserve(std::size_t count)
 void AxTypeTable::resize(unsigned groupBits)
 {
     std::size_t const count = std::size_t{1} << groupBits;
-    auto const slots = std::exchange(mySlots, std::make_unique_for_overwrite<Slot[]>(count * theGroupSize));
-    auto const groups = std::exchange(myGroups, std::vector<Group>(count));
+    auto slots = std::make_unique_for_overwrite<Slot[]>(count * theGroupSize);
+    std::vector<Group> groups(count);
+    mySlots.swap(slots);
+    myGroups.swap(groups);
     myMask = count - 1;
     myShift = 64 - groupBits;
     myNumErased = 0;

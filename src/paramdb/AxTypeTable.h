@@ -101,6 +101,7 @@ public:
     /// False when no entry can have this hash; true says nothing. Not for an empty table.
     bool mayHold(std::uint64_t hash) const { return (myGroups[hash >> myShift].filter >> (hash & 63) & 1) != 0; }
 
+    // Nothing is changed when one of these throws std::bad_alloc.
     void reserve(std::size_t count);
     /// `type` is not there yet; `hash` is its.
     void add(AxObjectType const& type, Found const& found, std::uint64_t hash);

@@ -1,13 +1,14 @@
 #include "AxZedParameterDb.h"
 
 #include "AxDiagnostic.h"
+#include "AxGuarded.h"
 #include "AxReaderWriterFileExtensible.h"
 #include "AxTypeIndex.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedParameterDbEntry.h"
 
+#include <new>
 #include <utility>
-#include <vector>
 
 namespace
 {
@@ -16,26 +17,21 @@ AxObjectType const* typeOfEntry(void const* data)
     return data != nullptr ? &static_cast<AxZedParameterDbEntry const*>(data)->objectType() : nullptr;
 }
 
-void reportMisuse(char const* code, char const* text, std::string const& statedLine)
+void reportMisuse(char const* code, char const* text, char const* statedLine)
 {
-    AxDiagnostic misuse;
-    misuse.code = code;
-    misuse.text = text;
-    AxDiagnostics::reportStated(std::move(misuse), statedLine);
+    axGuarded(code, AxFilename::nullFilename(), false,
+              [&]
+              {
+                  AxDiagnostic misuse;
+                  misuse.code = code;
+                  misuse.text = text;
+                  AxDiagnostics::reportStated(std::move(misuse), statedLine);
+                  return true;
+              });
 }
 } // namespace
 
-struct AxZedParameterDb::Parked
-{
-    std::map<AxObjectType, AxZedParameterDbEntry*> entries;
-};
-
-AxZedParameterDb::AxZedParameterDb()
-{
-    auto const itemOfEntry = [](void* entry) -> AxListItem*&
-    { return static_cast<AxZedParameterDbEntry*>(entry)->myItem; };
-    myIndex = std::make_unique<AxTypeIndex>(myList, typeOfEntry, itemOfEntry);
-}
+AxZedParameterDb::AxZedParameterDb() : myIndex(std::make_unique<AxTypeIndex>(myList, typeOfEntry)) {}
 
 AxZedParameterDb::~AxZedParameterDb()
 {
@@ -55,14 +51,19 @@ AxZedParameterDbEntry* AxZedParameterDb::add(AxObjectType const& type, AxZedObje
                      "AxZedParameterDb::addParameters() : Attempt to add NULL parameter entry\n");
         return nullptr;
     }
-    AxZedParameterDbEntry* const entry = createParameterEntry();
-    if (entry != nullptr)
-    {
-        entry->setObjectType(type);
-        entry->setParameters(params);
-    }
-    addParameterDbEntry(entry);
-    return entry;
+    AxZedParameterDbEntry* const none = nullptr;
+    return axGuarded("add-failed", AxFilename::nullFilename(), none,
+                     [&]
+                     {
+                         AxZedParameterDbEntry* const entry = createParameterEntry();
+                         if (entry != nullptr)
+                         {
+                             entry->setObjectType(type);
+                             entry->setParameters(params);
+                         }
+                         addParameterDbEntry(entry);
+                         return entry;
+                     });
 }
 
 AxZedObjectParameters* AxZedParameterDb::lookup(AxObjectType const& type, AxObjectType* matchedType, AxString*) const
@@ -82,25 +83,42 @@ void AxZedParameterDb::remove(AxObjectType const& type)
 
 void AxZedParameterDb::removeAll()
 {
-    std::vector<AxZedParameterDbEntry*> entries;
-    entries.reserve(myIndex->count());
     myAnswer = {};
-    myIndex->removeAll([&](void* entry) { entries.push_back(static_cast<AxZedParameterDbEntry*>(entry)); });
-    if (myParked != nullptr)
+    AxList going;
+    for (AxList* const list : {&myList, &myOutside})
     {
-        for (auto const& [type, entry] : myParked->entries)
+        if (myKnowsEntries)
         {
-            entries.push_back(entry);
+            list->unlinkAll();
+            continue;
+        }
+        myIndex->arrange();
+        while (!list->isEmpty())
+        {
+            list->moveTo(going, list->first());
         }
     }
-    myParked.reset();
-    for (AxZedParameterDbEntry* const entry : entries)
+    myIndex->start();
+    myKnowsEntries = true;
+    myNumGone = 0;
+    for (AxZedParameterDbEntry* const entry : std::exchange(myEntries, {}))
     {
-        if (entry != nullptr)
-        {
-            entry->myHolder = nullptr;
-            delete entry;
-        }
+        destroy(entry);
+    }
+    while (AxListItem* const item = going.first())
+    {
+        going.unlink(*item);
+        destroy(static_cast<AxZedParameterDbEntry*>(item->data()));
+    }
+}
+
+/// An entry that is in none of the lists.
+void AxZedParameterDb::destroy(AxZedParameterDbEntry* entry)
+{
+    if (entry != nullptr)
+    {
+        entry->myHolder = nullptr;
+        delete entry;
     }
 }
 
@@ -183,27 +201,74 @@ void AxZedParameterDb::addParameterDbEntry(AxZedParameterDbEntry* entry)
     }
     if (entry->myHolder != nullptr)
     {
-        AxDiagnostic held;
-        held.code = "entry-held";
-        held.text = "the entry for " + entry->objectType().string().string() + " is in a database already";
-        AxDiagnostics::report(std::move(held));
+        axGuarded("entry-held", AxFilename::nullFilename(), false,
+                  [entry]
+                  {
+                      AxDiagnostic held;
+                      held.code = "entry-held";
+                      held.text =
+                          "the entry for " + entry->objectType().string().string() + " is in a database already";
+                      AxDiagnostics::report(std::move(held));
+                      return true;
+                  });
         return;
     }
     AxObjectType const& type = entry->objectType();
-    myInsertedType = &type;
-    AxZedParameterDbEntry const* const old = entryOf(lookupParameters(type));
+    // A derived search or removal may throw; the entry has its place all the same.
+    axGuarded("lookup-failed", AxFilename::nullFilename(), false,
+              [&]
+              {
+                  myInsertedType = &type;
+                  AxZedParameterDbEntry const* const old = entryOf(lookupParameters(type));
+                  myInsertedType = nullptr;
+                  bool const isReplaced = old != nullptr && old->objectType() == type &&
+                                          (old->typeIsMatchType() || !entry->typeIsMatchType());
+                  if (isReplaced)
+                  {
+                      removeParameters(type);
+                  }
+                  return isReplaced;
+              });
     myInsertedType = nullptr;
-    myAnswer = {}; // may be of an entry that has no item yet
-    bool const isReplaced =
-        old != nullptr && old->objectType() == type && (old->typeIsMatchType() || !entry->typeIsMatchType());
-    if (isReplaced)
+    myAnswer = {};
+    insert(*entry);
+}
+
+void AxZedParameterDb::insert(AxZedParameterDbEntry& entry)
+{
+    entry.myHolder = this;
+    if (myKnowsEntries)
     {
-        removeParameters(type);
+        try
+        {
+            entry.myNumber = static_cast<std::uint32_t>(myEntries.size());
+            myEntries.push_back(&entry);
+        }
+        catch (std::bad_alloc const&)
+        {
+            myKnowsEntries = false;
+            std::exchange(myEntries, {});
+        }
     }
-    entry->myHolder = this;
-    if (!myIndex->insertLater(entry, type))
+    entry.myIsOutside = !myIndex->linkLater(entry.myItem, entry.objectType());
+    if (entry.myIsOutside)
     {
-        park(entry);
+        leaveOutside(entry);
+    }
+}
+
+/// One entry of a type; those that come later seldom sort below.
+void AxZedParameterDb::leaveOutside(AxZedParameterDbEntry& entry)
+{
+    AxListItem* before = myOutside.last();
+    while (before != nullptr && entry.objectType() < *typeOfEntry(before->data()))
+    {
+        before = before->previous();
+    }
+    myOutside.link(entry.myItem, before != nullptr ? before->next() : myOutside.first());
+    if (before != nullptr && *typeOfEntry(before->data()) == entry.objectType())
+    {
+        delete static_cast<AxZedParameterDbEntry*>(before->data());
     }
 }
 
@@ -227,6 +292,10 @@ AxZedParameterDb::Match AxZedParameterDb::entryForLookup(AxObjectType const& typ
 
 AxZedParameterDbEntry* AxZedParameterDb::entryOf(AxListItem const* item) const
 {
+    if (item == nullptr)
+    {
+        return nullptr;
+    }
     return item == myAnswer.item ? myAnswer.entry : static_cast<AxZedParameterDbEntry*>(item->data());
 }
 
@@ -234,16 +303,38 @@ void AxZedParameterDb::release(AxZedParameterDbEntry& entry)
 {
     myAnswer = {};
     entry.myHolder = nullptr;
-    myIndex->arrange(); // gives every entry of the list its item
-    if (entry.myItem != nullptr)
+    forgetNumber(entry);
+    if (entry.myIsOutside)
     {
-        myIndex->remove(entry.myItem);
-        entry.myItem = nullptr;
+        myOutside.unlink(entry.myItem);
+    }
+    else
+    {
+        myIndex->unlink(entry.myItem);
+    }
+}
+
+void AxZedParameterDb::forgetNumber(AxZedParameterDbEntry const& entry)
+{
+    if (!myKnowsEntries)
+    {
         return;
     }
-    if (myParked)
+    myEntries[entry.myNumber] = nullptr;
+    ++myNumGone;
+    while (!myEntries.empty() && myEntries.back() == nullptr)
     {
-        std::erase_if(myParked->entries, [&entry](auto const& parked) { return parked.second == &entry; });
+        myEntries.pop_back();
+        --myNumGone;
+    }
+    if (myNumGone > myEntries.size() / 2)
+    {
+        std::erase(myEntries, nullptr);
+        for (std::size_t number = 0; number < myEntries.size(); ++number)
+        {
+            myEntries[number]->myNumber = static_cast<std::uint32_t>(number);
+        }
+        myNumGone = 0;
     }
 }
 
@@ -255,19 +346,4 @@ void AxZedParameterDb::expectEntries(std::size_t count)
 void AxZedParameterDb::typeChanges()
 {
     myIndex->invalidate();
-}
-
-void AxZedParameterDb::park(AxZedParameterDbEntry* entry)
-{
-    if (myParked == nullptr)
-    {
-        myParked = std::make_unique<Parked>();
-    }
-    AxZedParameterDbEntry*& place = myParked->entries[entry->objectType()];
-    AxZedParameterDbEntry* const former = std::exchange(place, entry);
-    if (former != nullptr)
-    {
-        former->myHolder = nullptr;
-        delete former;
-    }
 }

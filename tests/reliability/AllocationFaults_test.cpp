@@ -4,12 +4,85 @@
 #include "AxReaderWriterFile.h"
 #include "AxZedObjectParametersDB.h"
 #include "src/paramdb/DatabaseFixture.h"
+#include "src/paramdb/DatabaseWalk.h"
 
 #include <functional>
+#include <random>
 
 namespace
 {
 using Reach = AllocationFault::Reach;
+
+/// Entries that come, go and are asked for, and what is to come of it by the walk.
+class ComingAndGoing
+{
+public:
+    ComingAndGoing()
+    {
+        std::mt19937 source(3);
+        auto const below = [&source](unsigned bound) { return static_cast<int>(source() % bound); };
+        for (int number = 0; number < 300; ++number)
+        {
+            AxObjectType const type(1, below(2), 225, below(number < 200 ? 12 : 3) - 1, below(4) - 1, 1, below(3) - 2);
+            // First many, then single ones.
+            int const kind = number < 120 ? below(10) < 8 ? 0 : 3 : below(4);
+            Step step{kind, type, nullptr};
+            if (kind == 0 || kind == 1)
+            {
+                step.entry = newEntry(type, below(3) == 0);
+                myWalk.insert(step.entry);
+            }
+            else if (kind == 2)
+            {
+                myWalk.remove(type);
+            }
+            else
+            {
+                step.expected = myWalk.found(type);
+            }
+            mySteps.push_back(step);
+        }
+    }
+
+    /// Allocates nothing itself.
+    bool isHeldBy(WalkedDatabase& database)
+    {
+        bool isHeld = true;
+        for (Step const& step : mySteps)
+        {
+            if (step.entry)
+            {
+                database.addParameterDbEntry(step.entry);
+            }
+            else if (step.kind == 2)
+            {
+                database.remove(step.type);
+            }
+            else
+            {
+                isHeld = database.found(step.type) == step.expected && isHeld;
+            }
+        }
+        std::size_t count = 0;
+        for (AxListItem const* item = database.parameterList().first(); item; item = item->next())
+        {
+            isHeld = count < myWalk.entries.size() && item->data() == myWalk.entries[count++] && isHeld;
+        }
+        database.removeAll();
+        return isHeld && count == myWalk.entries.size() && database.numParameterEntries() == 0;
+    }
+
+private:
+    struct Step
+    {
+        int kind; // 0, 1: comes; 2: goes; 3: is asked for
+        AxObjectType type;
+        AxZedParameterDbEntry* entry;
+        AxZedParameterDbEntry const* expected = nullptr;
+    };
+    Walk myWalk;
+    std::vector<Step> mySteps;
+};
 
 /// Lets every single allocation of a job fail, and all from every one on. The job runs on an object of its own, says
 /// whether it succeeded, and must do so when it is repeated with the same object.
@@ -130,6 +203,59 @@ TEST_F(AllocationFaults, RecordOfAnEntityFile)
             forces->add(tank, file, false, nullptr);
             EXPECT_TRUE(forces->lookupParameterDbEntry(tank, nullptr));
             return [this, forces] { return forces->lookup(tank) != nullptr; };
+        });
+}
+
+TEST_F(AllocationFaults, EntriesComeGoAndAreFoundWithoutMemory)
+{
+    for (Reach const reach : {Reach::One, Reach::AllFromThere})
+    {
+        bool isHit = true;
+        for (std::size_t n = 1; isHit; ++n)
+        {
+            ComingAndGoing all;
+            WalkedDatabase database;
+            bool isHeld = false;
+            {
+                AllocationFault const fault(n, reach);
+                isHeld = all.isHeldBy(database);
+            }
+            isHit = AllocationFault::wasHit();
+            ASSERT_TRUE(isHeld) << (reach == Reach::One ? "only " : "from ") << n;
+        }
+    }
+    EXPECT_EQ(warned(), "");
+}
+
+TEST_F(AllocationFaults, DatabaseFile)
+{
+    std::string entries =
+        entry(theTanks, "force/m1.ope") + entry(theTank, "force/m1.ope") +
+        "(parameter-entry (object-type 1 1 1 225 1 2 3 0) (filename \"$(camp)/m1.ope\") (unknown 1))\n";
+    for (int number = 0; number < 20; ++number)
+    {
+        entries += entry("1 1 1 " + std::to_string(40 - number) + " 1 1 -1 -1", "a-name-that-is-not-short.ope");
+    }
+    AxObjectType const other = typeOf("1:1:1:30:1:1:5:5");
+    AxFilename const file = put("many.opd", database(entries, "(variable-bindings (camp \"red\")) (version 101)"));
+    hold(
+        [&]() -> Job
+        {
+            auto const forces = std::make_shared<AxSxpParameterDb>();
+            forces->init();
+            return [this, forces, file, other]
+            {
+                forces->removeAll();
+                if (!forces->load(file) || forces->numParameterEntries() != 23)
+                {
+                    return false;
+                }
+                AxObjectType found;
+                bool const isFound = forces->lookupParameterDbEntry(other, &found) && found.country() == 30 &&
+                                     entryOf(*forces, tank)->objectType() == tank;
+                forces->remove(tank);
+                return isFound && entryOf(*forces, tank)->objectType() == tanks;
+            };
         });
 }
 

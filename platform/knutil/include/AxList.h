@@ -35,6 +35,28 @@ public:
         return insert(item, item != nullptr ? item->myNext : myFirst, data);
     }
 
+    /// Puts in an item that is part of another object, in front of `before`; null means the end. Allocates nothing. It
+    /// leaves the list by `unlink`, `unlinkAll` or `moveTo`, and must do so before the list is emptied or ends.
+    void link(AxListItem& item, AxListItem* before)
+    {
+        join(&item, before != nullptr ? before->myPrevious : myLast, before);
+    }
+    /// Takes an item of this list out without destroying it.
+    void unlink(AxListItem& item)
+    {
+        (item.myPrevious != nullptr ? item.myPrevious->myNext : myFirst) = item.myNext;
+        (item.myNext != nullptr ? item.myNext->myPrevious : myLast) = item.myPrevious;
+        --myCount;
+        ++myChangeCount;
+    }
+    /// All items at once; their neighbours are no longer to be asked for.
+    void unlinkAll()
+    {
+        myChangeCount += static_cast<std::uint32_t>(myCount);
+        myFirst = myLast = nullptr;
+        myCount = 0;
+    }
+
     /// Takes an item of this list out and destroys it; its data stays. Null is ignored.
     void remove(AxListItem* item)
     {
@@ -42,15 +64,15 @@ public:
         {
             return;
         }
-        unlink(item);
+        unlink(*item);
         delete item;
     }
 
     /// Moves an item of this list to the end of `other`. The item stays valid; nothing is allocated.
     void moveTo(AxList& other, AxListItem* item)
     {
-        unlink(item);
-        other.link(item, other.myLast, nullptr);
+        unlink(*item);
+        other.join(item, other.myLast, nullptr);
     }
 
     /// Destroys all items; their data stays.
@@ -63,10 +85,10 @@ public:
 private:
     AxListItem* insert(AxListItem* previous, AxListItem* next, void* data)
     {
-        return link(new AxListItem(data), previous, next);
+        return join(new AxListItem(data), previous, next);
     }
 
-    AxListItem* link(AxListItem* item, AxListItem* previous, AxListItem* next)
+    AxListItem* join(AxListItem* item, AxListItem* previous, AxListItem* next)
     {
         item->myPrevious = previous;
         item->myNext = next;
@@ -75,14 +97,6 @@ private:
         ++myCount;
         ++myChangeCount;
         return item;
-    }
-
-    void unlink(AxListItem* item)
-    {
-        (item->myPrevious != nullptr ? item->myPrevious->myNext : myFirst) = item->myNext;
-        (item->myNext != nullptr ? item->myNext->myPrevious : myLast) = item->myPrevious;
-        --myCount;
-        ++myChangeCount;
     }
 
     void clear()

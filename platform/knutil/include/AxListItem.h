@@ -2,10 +2,12 @@
 
 #include "AxExport.h"
 
-/// A place in an AxList. Made and destroyed by the list alone; lives until it is removed or the list ends.
+/// A place in an AxList. Made by the list, and lives until it is removed or the list ends; or a part of the object that
+/// it stands for, which links and unlinks it.
 class ZEDOBJPARAM_API AxListItem
 {
 public:
+    explicit AxListItem(void* data) : myData(data) {}
     AxListItem(AxListItem const&) = delete;
     AxListItem& operator=(AxListItem const&) = delete;
 
@@ -19,9 +21,6 @@ public:
 
 private:
     friend class AxList;
-
-    explicit AxListItem(void* data) : myData(data) {}
-    ~AxListItem() = default;
 
     AxListItem* myPrevious = nullptr;
     AxListItem* myNext = nullptr;
