@@ -111,6 +111,8 @@ public:
     static AxFilename const& theOldParameterDbDirectory();
 
 private:
+    friend class AxSxpParameterDbReader;
+
     AxFilename fileTableName(AxFilename const& file) const;
 
     std::unique_ptr<AxSxpParameterDbReader> myReader;

@@ -4,8 +4,10 @@
 #include "AxZedParameterDbEntry.h"
 
 #include <boost/shared_ptr.hpp>
+#include <boost/smart_ptr/intrusive_ptr.hpp>
 #include <cstdio>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 class AxSxpParameterDbFileEntry;
@@ -17,6 +19,8 @@ class ZEDOBJPARAM_API AxSxpParameterDbEntry : public AxZedParameterDbEntry
 {
 public:
     AxSxpParameterDbEntry();
+    /// One that stands at this place of a database file.
+    AxSxpParameterDbEntry(AxObjectType const& type, std::string_view file, unsigned line, unsigned column);
     ~AxSxpParameterDbEntry() override;
 
     /// Reads the record from `filename()`.
@@ -54,6 +58,9 @@ public:
     void setDatabaseDirectory(AxFilename const& directory);
     /// Where the entry stands in that file, for what is wrong with the file that it names.
     void setPlace(boost::shared_ptr<AxFilename const> const& databaseFile, unsigned line, unsigned column);
+    /// From 1; 0 for an entry that stands in none.
+    unsigned line() const { return myLine; }
+    unsigned column() const { return myColumn; }
     /// Whether the entry stands for an object in a file below the data root, and not in the database file.
     bool isFromDataRoot() const;
     /// Where the record's file is found now: along the search paths, the path, the database's directory, as named.
@@ -67,14 +74,15 @@ public:
     /// Version, path, search paths, variables, directory and name of the database file: entries of one file share them
     /// until one is given others.
     struct Origin;
-    using OriginPtr = boost::shared_ptr<Origin>;
+    using OriginPtr = boost::intrusive_ptr<Origin>;
     OriginPtr const& origin() const { return myOrigin; }
-    void setOrigin(OriginPtr const& origin) { myOrigin = origin; }
+    void setOrigin(OriginPtr const& origin);
 
 private:
     struct Sources;
     struct Reading;
 
+    static OriginPtr const& noOrigin();
     /// That of this entry alone.
     template <class Change>
     void changeOrigin(Change const& change);

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "AxRwTemplatedListPtr.h"
+#include "AxSxpParameterDbEntry.h"
 #include "AxSxpParameterDbFileEntry.h"
 
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// The entries of a parameter database file. Elements that are no readable "parameter-entry" are reported and kept
@@ -15,19 +18,17 @@ public:
     using AxRwTemplatedListPtr::operator=;
     ~AxSxpParameterDbFileEntryList() override;
 
-    /// An entry in the usual shape, a type and a file name without variables, that was read without an object of its
-    /// own.
+    /// An entry in the usual shape, a type and a file name without variables, that was read without an object of this
+    /// list: it waits for its database.
     struct Plain
     {
-        AxObjectType type;
-        std::string filename;
-        unsigned line;
-        unsigned column;
+        std::unique_ptr<AxSxpParameterDbEntry> entry;
         int numBefore; ///< how many of the list's objects stand in front of it
     };
     /// Lets entries be read so.
     void takePlainEntries() { myTakesPlain = true; }
-    std::vector<Plain> const& plainEntries() const { return myPlain; }
+    /// Hands them over.
+    std::vector<Plain> takenEntries() const { return std::exchange(myPlain.entries, {}); }
 
     using AxRwTemplatedListPtr::getData;
     AxlObjPtr getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings) override;
@@ -38,15 +39,26 @@ public:
     void keepUnread(std::string const& text);
 
 private:
+    /// A copy of the list has none.
+    struct Waiting
+    {
+        Waiting() = default;
+        Waiting(Waiting const&) {}
+        Waiting& operator=(Waiting const&) { return *this; }
+        ~Waiting() = default;
+
+        std::vector<Plain> entries;
+    };
     struct Entry;
     static Entry const ourEntry;
 
-    /// Behind the plain entry that begins there; null when there is none.
+    /// Takes the plain entries from there on, up to another or the end. Behind the last of them; null when there is
+    /// none.
     char const* takePlain(char const* begin, unsigned line, unsigned column);
     void leaveOut(AxlObj const* item, unsigned line, unsigned column);
     void keep(AxlObj const* item);
 
     std::vector<std::string> myUnread;
-    std::vector<Plain> myPlain;
+    mutable Waiting myPlain; // until their database takes them
     bool myTakesPlain = false;
 };

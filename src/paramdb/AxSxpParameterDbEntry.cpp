@@ -1,6 +1,7 @@
 #include "AxSxpParameterDbEntry.h"
 
 #include "AxEntityFiles.h"
+#include "AxEntryOrigin.h"
 #include "AxExtFileInputStream.h"
 #include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
@@ -15,7 +16,6 @@
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
-#include <boost/make_shared.hpp>
 #include <cerrno>
 #include <cstring>
 #include <exception>
@@ -23,8 +23,6 @@
 
 namespace
 {
-constexpr int theCurrentVersion = 101;
-
 /// Whether a record's text names its type: in the second element, or in a later item of that head.
 bool namesType(AxlObj const* object)
 {
@@ -45,22 +43,6 @@ bool namesType(AxlObj const* object)
     return false;
 }
 } // namespace
-
-struct AxSxpParameterDbEntry::Origin
-{
-    AxFilename path{};
-    int version = theCurrentVersion;
-    boost::shared_ptr<AxRwVariableBindings> variableBindings{};
-    std::vector<AxFilename> searchPaths{};
-    AxFilename databaseDirectory{};
-    boost::shared_ptr<AxFilename const> databaseFile{};
-
-    static OriginPtr const& none()
-    {
-        static OriginPtr const none = boost::make_shared<Origin>();
-        return none;
-    }
-};
 
 /// One reading of the record: the file found and where the record begins in it.
 struct AxSxpParameterDbEntry::Reading
@@ -109,14 +91,26 @@ struct AxSxpParameterDbEntry::Sources
     AxBindingsList bindings;
 };
 
-AxSxpParameterDbEntry::AxSxpParameterDbEntry() : myOrigin(Origin::none()) {}
+AxSxpParameterDbEntry::OriginPtr const& AxSxpParameterDbEntry::noOrigin()
+{
+    static OriginPtr const none(new Origin);
+    return none;
+}
+
+AxSxpParameterDbEntry::AxSxpParameterDbEntry() : myOrigin(noOrigin()) {}
+
+AxSxpParameterDbEntry::AxSxpParameterDbEntry(AxObjectType const& type, std::string_view file, unsigned line,
+                                             unsigned column)
+    : AxZedParameterDbEntry(type), myFilename(file), myOrigin(noOrigin()), myLine(line), myColumn(column)
+{
+}
 
 template <class Change>
 void AxSxpParameterDbEntry::changeOrigin(Change const& change)
 {
-    if (myOrigin.use_count() != 1)
+    if (myOrigin->use_count() != 1)
     {
-        myOrigin = boost::make_shared<Origin>(*myOrigin);
+        myOrigin.reset(new Origin(*myOrigin));
     }
     change(*myOrigin);
 }
@@ -191,6 +185,11 @@ std::vector<AxFilename> const& AxSxpParameterDbEntry::searchPaths() const
 void AxSxpParameterDbEntry::setSearchPaths(std::vector<AxFilename> const& paths)
 {
     changeOrigin([&](Origin& origin) { origin.searchPaths = paths; });
+}
+
+void AxSxpParameterDbEntry::setOrigin(OriginPtr const& origin)
+{
+    myOrigin = origin;
 }
 
 void AxSxpParameterDbEntry::setFileEntry(AxSxpParameterDbFileEntry const& entry)

@@ -3,10 +3,12 @@
 #include "AxDummyParameterDb.h"
 #include "AxExtFileInputStream.h"
 #include "AxParameterDbFiles.h"
+#include "AxPlainScanner.h"
 #include "AxReaderWriterFactory.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <exception>
@@ -71,8 +73,26 @@ void readVersion(AxlInputStream& stream, AxDummyParameterDb& db, std::uint32_t l
     throw AxlSyntaxError::unclosedList(line, column);
 }
 
+/// Reads the version where most files have it, right at the start, without reading the rest of them.
+bool readLeadingVersion(std::FILE* open, int& version)
+{
+    std::array<char, 128> text{};
+    text[std::fread(text.data(), 1, text.size() - 1, open)] = '\0';
+    std::rewind(open);
+    AxPlainScanner scanner(text.data(), 1, 1);
+    std::int32_t number = 0;
+    bool const isThere = scanner.takes("(parameter-database") && scanner.takes("(version") && scanner.skipBlanks() &&
+                         scanner.takesNumber(number) && scanner.takes(")") && number <= theNewestVersion;
+    version = isThere ? number : version;
+    return isThere;
+}
+
 bool readVersion(AxFilename const& file, std::FILE* open, int& version)
 {
+    if (readLeadingVersion(open, version))
+    {
+        return true;
+    }
     AxExtFileInputStream stream(open, file);
     if (!stream.isValid())
     {

@@ -2,87 +2,13 @@
 
 #include "AxDiagnostic.h"
 #include "AxParameterDbFiles.h"
+#include "AxPlainScanner.h"
 #include "AxReaderWriterFactory.h"
 #include "AxTextReader.h"
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cstring>
 #include <memory>
-
-namespace
-{
-/// Goes through text that ends in a zero byte.
-class PlainScanner
-{
-public:
-    explicit PlainScanner(char const* at) : myAt(at) {}
-
-    char const* place() const { return myAt; }
-
-    /// These characters, behind any blanks.
-    bool takes(std::string_view text)
-    {
-        skipBlanks();
-        bool const isThere = std::strncmp(myAt, text.data(), text.size()) == 0;
-        myAt += isThere ? text.size() : 0;
-        return isThere;
-    }
-    /// Seven or eight whole numbers, each behind a blank.
-    bool takesType(AxObjectType& type)
-    {
-        AxObjectType::Fields fields{};
-        std::size_t count = 0;
-        for (; count < fields.size() && skipBlanks() && *myAt != ')'; ++count)
-        {
-            char const* end = *myAt == '-' ? myAt + 1 : myAt;
-            while (*end >= '0' && *end <= '9')
-            {
-                ++end;
-            }
-            auto const [last, error] = std::from_chars(myAt, end, fields[count]);
-            if (error != std::errc() || last != end)
-            {
-                return false;
-            }
-            myAt = end;
-        }
-        if (count + 1 == fields.size())
-        {
-            std::move_backward(fields.begin(), fields.end() - 1, fields.end());
-            fields[0] = 0;
-        }
-        type = AxObjectType(fields);
-        return count + 1 >= fields.size();
-    }
-    /// Up to the quote; without escapes and variables.
-    bool takesText(std::string& text)
-    {
-        char const* const begin = myAt;
-        while (*myAt != '"' && *myAt != '\\' && *myAt != '\0' && !(*myAt == '$' && myAt[1] == '('))
-        {
-            ++myAt;
-        }
-        text.assign(begin, myAt);
-        return *myAt == '"';
-    }
-
-private:
-    bool skipBlanks()
-    {
-        char const* const begin = myAt;
-        while (*myAt == ' ' || *myAt == '\n' || *myAt == '\t' || *myAt == '\r')
-        {
-            ++myAt;
-        }
-        return myAt != begin;
-    }
-
-    char const* myAt;
-};
-} // namespace
 
 /// The entries of a database are read without cells; only one that cannot be understood is looked at again.
 struct AxSxpParameterDbFileEntryList::Entry : AxTypeEntry<AxSxpParameterDbFileEntryList>
@@ -134,19 +60,28 @@ AxSxpParameterDbFileEntryList::~AxSxpParameterDbFileEntryList() = default;
 
 char const* AxSxpParameterDbFileEntryList::takePlain(char const* begin, unsigned line, unsigned column)
 {
-    PlainScanner scanner(begin);
-    Plain plain{{}, {}, line, column, count()};
-    bool const isPlain = scanner.takes("(") && scanner.takes("parameter-entry") && scanner.takes("(") &&
-                         scanner.takes("object-type") && scanner.takesType(plain.type) && scanner.takes(")") &&
-                         scanner.takes("(") && scanner.takes("filename") && scanner.takes("\"") &&
-                         scanner.takesText(plain.filename) && scanner.takes("\"") && scanner.takes(")") &&
-                         scanner.takes(")");
-    if (!isPlain)
+    AxPlainScanner scanner(begin, line, column);
+    char const* end = nullptr;
+    do
     {
-        return nullptr;
-    }
-    myPlain.push_back(std::move(plain));
-    return scanner.place();
+        unsigned const entryLine = scanner.line();
+        unsigned const entryColumn = scanner.column();
+        AxObjectType type;
+        std::string_view filename;
+        bool const isPlain = scanner.takes("(parameter-entry") && scanner.takes("(object-type") &&
+                             scanner.takesType(type) && scanner.takes(")") && scanner.takes("(filename") &&
+                             scanner.takes("\"") && scanner.takesText(filename) && scanner.takes("\"") &&
+                             scanner.takes(")") && scanner.takes(")");
+        if (!isPlain)
+        {
+            break;
+        }
+        auto entry = std::make_unique<AxSxpParameterDbEntry>(type, filename, entryLine, entryColumn);
+        myPlain.entries.push_back({std::move(entry), count()});
+        end = scanner.place();
+        scanner.skipBlanks();
+    } while (*scanner.place() == '(');
+    return end;
 }
 
 AxlObjPtr AxSxpParameterDbFileEntryList::getData(AxlObjPtr const& item, AxFilenameList const& files,

@@ -1,5 +1,6 @@
 #include "AxSxpParameterDbReader.h"
 
+#include "AxEntryOrigin.h"
 #include "AxExtFileInputStream.h"
 #include "AxObjectElement.h"
 #include "AxParameterDbFiles.h"
@@ -82,11 +83,19 @@ void readData(AxlInputStream& stream, AxSxpParameterDbFileData& data, AxFilename
 struct AxSxpParameterDbReader::Adding
 {
     AxSxpParameterDb& db;
-    AxFilename const& basePath;
-    boost::shared_ptr<AxRwVariableBindings> const& variables;
-    boost::shared_ptr<AxFilename const> const& databaseFile;
-    AxFilename const& databaseDirectory;
     AxSxpParameterDbEntry::OriginPtr origin;
+
+    Adding(AxSxpParameterDb& to, AxFilename const& basePath, boost::shared_ptr<AxRwVariableBindings> const& variables,
+           AxSxpParameterDbReader const& reader)
+        : db(to), origin(new AxSxpParameterDbEntry::Origin)
+    {
+        origin->version = db.versionNumber();
+        origin->path = basePath;
+        origin->variableBindings = variables;
+        origin->searchPaths = db.searchPaths();
+        origin->databaseDirectory = reader.myDatabaseDirectory;
+        origin->databaseFile = reader.myDatabaseFile;
+    }
 
     AxSxpParameterDbEntry* add(AxObjectType const& type, AxFilename const& file, bool typeIsMatchType, unsigned line,
                                unsigned column)
@@ -97,25 +106,31 @@ struct AxSxpParameterDbReader::Adding
             return nullptr;
         }
         // A derived entry may look at what it is given; others share it.
-        bool const isPlain = typeid(*entry) == typeid(AxSxpParameterDbEntry);
-        if (isPlain && origin)
+        if (typeid(*entry) == typeid(AxSxpParameterDbEntry))
         {
             entry->setOrigin(origin);
         }
         else
         {
-            entry->setVersion(db.versionNumber());
-            entry->setPath(basePath);
-            entry->setVariableBindings(variables);
-            entry->setSearchPaths(db.searchPaths());
-            entry->setDatabaseDirectory(databaseDirectory);
+            entry->setVersion(origin->version);
+            entry->setPath(origin->path);
+            entry->setVariableBindings(origin->variableBindings);
+            entry->setSearchPaths(origin->searchPaths);
+            entry->setDatabaseDirectory(origin->databaseDirectory);
         }
-        entry->setPlace(databaseFile, line, column);
-        if (isPlain && !origin)
-        {
-            origin = entry->origin();
-        }
+        entry->setPlace(origin->databaseFile, line, column);
         return entry;
+    }
+
+    void add(AxSxpParameterDbFileEntryList::Plain& plain)
+    {
+        if (typeid(db) != typeid(AxSxpParameterDb)) // makes entries of its own
+        {
+            add(plain.entry->objectType(), plain.entry->filename(), false, plain.entry->line(), plain.entry->column());
+            return;
+        }
+        plain.entry->setOrigin(origin);
+        db.addParameterDbEntry(plain.entry.release());
     }
 };
 
@@ -301,8 +316,8 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
     auto const shared = boost::make_shared<AxRwVariableBindings>(AxSymbolString("variable-bindings"));
     shared->addAllFrom(data.variableBindings());
     db->addVariableBindings(shared);
-    Adding adding{*db, basePath, shared, myDatabaseFile, myDatabaseDirectory, nullptr};
-    std::vector<AxSxpParameterDbFileEntryList::Plain> const& plainEntries = data.entryList().plainEntries();
+    Adding adding(*db, basePath, shared, *this);
+    std::vector<AxSxpParameterDbFileEntryList::Plain> plainEntries = data.entryList().takenEntries();
     auto plain = plainEntries.begin();
     db->expectEntries(plainEntries.size() + static_cast<std::size_t>(data.entryList().count()));
     int count = 0;
@@ -310,7 +325,7 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
     {
         for (; plain != plainEntries.end() && plain->numBefore <= numBefore; ++plain)
         {
-            adding.add(plain->type, AxFilename(plain->filename), false, plain->line, plain->column);
+            adding.add(*plain);
         }
     };
     for (AxSxpParameterDbFileEntry* fileEntry : data.entryList())
