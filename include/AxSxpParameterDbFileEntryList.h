@@ -54,7 +54,7 @@ private:
 
     /// Takes the plain entries from there on, up to another or the end. Behind the last of them; null when there is
     /// none.
-    char const* takePlain(char const* begin, unsigned line, unsigned column);
+    char const* takePlain(char const* begin, char const* textEnd, unsigned line, unsigned column);
     void leaveOut(AxlObj const* item, unsigned line, unsigned column);
     void keep(AxlObj const* item);
 

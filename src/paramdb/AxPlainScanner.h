@@ -3,8 +3,10 @@
 #include "AxObjectType.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 /// Goes through text that ends in a zero byte as long as it stands in the usual shape: what database files consist of,
@@ -12,9 +14,9 @@
 class AxPlainScanner
 {
 public:
-    /// `line` and `column`, from 1, are those of `at`.
-    AxPlainScanner(char const* at, std::uint32_t line, std::uint32_t column)
-        : myAt(at), myLineStart(at - (column - 1)), myLine(line)
+    /// `end` is the zero byte; `line` and `column`, from 1, are those of `at`.
+    AxPlainScanner(char const* at, char const* end, std::uint32_t line, std::uint32_t column)
+        : myAt(at), myEnd(end), myLineStart(at - (column - 1)), myLine(line)
     {
     }
 
@@ -28,43 +30,44 @@ public:
         char const* const begin = myAt;
         for (;; ++myAt)
         {
+            while (*myAt == ' ')
+            {
+                ++myAt;
+            }
             if (*myAt == '\n')
             {
                 ++myLine;
                 myLineStart = myAt + 1;
             }
-            else if (*myAt != ' ' && *myAt != '\t' && *myAt != '\r')
+            else if (*myAt != '\t' && *myAt != '\r')
             {
                 return myAt != begin;
             }
         }
     }
     /// These characters, behind any blanks.
-    bool takes(std::string_view text)
+    template <std::size_t size>
+    bool takes(char const (&text)[size])
     {
         skipBlanks();
-        for (std::size_t i = 0; i < text.size(); ++i)
-        {
-            if (myAt[i] != text[i])
-            {
-                return false;
-            }
-        }
-        myAt += text.size();
-        return true;
+        bool const isThere =
+            static_cast<std::size_t>(myEnd - myAt) >= size - 1 && std::memcmp(myAt, text, size - 1) == 0;
+        myAt += isThere ? size - 1 : 0;
+        return isThere;
     }
     /// A whole number of up to nine digits.
     bool takesNumber(std::int32_t& number)
     {
         bool const isNegative = *myAt == '-';
         char const* const begin = myAt + isNegative;
-        std::int32_t value = 0;
-        for (myAt = begin; *myAt >= '0' && *myAt <= '9' && myAt - begin < 9; ++myAt)
+        auto const digit = [](char character) { return static_cast<std::uint32_t>(character) - '0'; };
+        std::uint32_t value = 0;
+        for (myAt = begin; digit(*myAt) <= 9; ++myAt)
         {
-            value = value * 10 + (*myAt - '0');
+            value = value * 10 + digit(*myAt);
         }
-        number = isNegative ? -value : value;
-        return myAt != begin && !(*myAt >= '0' && *myAt <= '9');
+        number = static_cast<std::int32_t>(isNegative ? 0 - value : value);
+        return myAt != begin && myAt - begin <= 9;
     }
     /// Seven or eight whole numbers, each behind a blank.
     bool takesType(AxObjectType& type)
@@ -90,7 +93,7 @@ public:
     bool takesText(std::string_view& text)
     {
         char const* const begin = myAt;
-        while (*myAt != '"' && *myAt != '\\' && *myAt != '\0' && *myAt != '\n' && !(*myAt == '$' && myAt[1] == '('))
+        while (!endsText(*myAt) || (*myAt == '$' && myAt[1] != '('))
         {
             ++myAt;
         }
@@ -99,7 +102,22 @@ public:
     }
 
 private:
+    static bool endsText(char character)
+    {
+        static constexpr auto isEnd = []
+        {
+            std::array<bool, 256> table{};
+            for (char const end : {'"', '\\', '$', '\n', '\0'})
+            {
+                table[static_cast<unsigned char>(end)] = true;
+            }
+            return table;
+        }();
+        return isEnd[static_cast<unsigned char>(character)];
+    }
+
     char const* myAt;
+    char const* myEnd;
     char const* myLineStart;
     std::uint32_t myLine;
 };

@@ -77,9 +77,9 @@ void readVersion(AxlInputStream& stream, AxDummyParameterDb& db, std::uint32_t l
 bool readLeadingVersion(std::FILE* open, int& version)
 {
     std::array<char, 128> text{};
-    text[std::fread(text.data(), 1, text.size() - 1, open)] = '\0';
+    std::size_t const size = std::fread(text.data(), 1, text.size() - 1, open);
     std::rewind(open);
-    AxPlainScanner scanner(text.data(), 1, 1);
+    AxPlainScanner scanner(text.data(), text.data() + size, 1, 1);
     std::int32_t number = 0;
     bool const isThere = scanner.takes("(parameter-database") && scanner.takes("(version") && scanner.skipBlanks() &&
                          scanner.takesNumber(number) && scanner.takes(")") && number <= theNewestVersion;

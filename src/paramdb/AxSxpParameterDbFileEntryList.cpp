@@ -31,7 +31,7 @@ struct AxSxpParameterDbFileEntryList::Entry : AxTypeEntry<AxSxpParameterDbFileEn
             std::uint32_t line = 0;
             std::uint32_t column = 0;
             reader.locate(begin, line, column);
-            if (char const* const end = list.myTakesPlain ? list.takePlain(begin, line, column) : nullptr)
+            if (char const* const end = list.myTakesPlain ? list.takePlain(begin, reader.end(), line, column) : nullptr)
             {
                 reader.moveTo(end);
                 return true;
@@ -58,9 +58,10 @@ AxSxpParameterDbFileEntryList::Entry const AxSxpParameterDbFileEntryList::ourEnt
 
 AxSxpParameterDbFileEntryList::~AxSxpParameterDbFileEntryList() = default;
 
-char const* AxSxpParameterDbFileEntryList::takePlain(char const* begin, unsigned line, unsigned column)
+char const* AxSxpParameterDbFileEntryList::takePlain(char const* begin, char const* textEnd, unsigned line,
+                                                     unsigned column)
 {
-    AxPlainScanner scanner(begin, line, column);
+    AxPlainScanner scanner(begin, textEnd, line, column);
     char const* end = nullptr;
     do
     {

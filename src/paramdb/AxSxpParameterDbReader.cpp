@@ -17,6 +17,7 @@
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
+#include <algorithm>
 #include <boost/filesystem/operations.hpp>
 #include <boost/make_shared.hpp>
 #include <cerrno>
@@ -323,8 +324,10 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
     int count = 0;
     auto const addPlainUpTo = [&](int numBefore)
     {
+        constexpr std::ptrdiff_t theReach = 6; // how far ahead memory is asked for
         for (; plain != plainEntries.end() && plain->numBefore <= numBefore; ++plain)
         {
+            __builtin_prefetch(plain[std::min(theReach, plainEntries.end() - plain - 1)].entry.get(), 1);
             adding.add(*plain);
         }
     };

@@ -30,6 +30,8 @@ public:
 
     /// Where reading goes on, for `cellsSince`.
     char const* place() const { return myAt; }
+    /// The zero byte behind the text.
+    char const* end() const { return myEnd; }
     /// Goes on there, behind what the caller has read himself.
     void moveTo(char const* place) { myAt = place; }
     /// Line and column of a place that was read, from 1. Places that are asked for in their order cost one pass.
