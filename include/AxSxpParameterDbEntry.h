@@ -7,7 +7,6 @@
 #include <boost/smart_ptr/intrusive_ptr.hpp>
 #include <cstdio>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 class AxSxpParameterDbFileEntry;
@@ -19,8 +18,13 @@ class ZEDOBJPARAM_API AxSxpParameterDbEntry : public AxZedParameterDbEntry
 {
 public:
     AxSxpParameterDbEntry();
-    /// One that stands at this place of a database file.
-    AxSxpParameterDbEntry(AxObjectType const& type, std::string_view file, unsigned line, unsigned column);
+    /// One that stands at this place of a database file, its name at that place among the names of its origin.
+    struct NamePlace
+    {
+        unsigned begin;
+        unsigned length;
+    };
+    AxSxpParameterDbEntry(AxObjectType const& type, NamePlace name, unsigned line, unsigned column);
     ~AxSxpParameterDbEntry() override;
 
     /// Reads the record from `filename()`.
@@ -97,7 +101,11 @@ private:
     /// What is wrong with the file that the entry names, at the place of the entry.
     AxDiagnostic faultOfFile(char const* code, AxFilename const& file, std::string const& text) const;
 
-    AxFilename myFilename;
+    /// Takes the name from its place.
+    void takeName() const;
+
+    mutable AxFilename myFilename;
+    mutable NamePlace myName{}; // until it is asked for; most never are
     OriginPtr myOrigin;
     unsigned myLine = 0;
     unsigned myColumn = 0;

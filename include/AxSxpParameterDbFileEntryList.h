@@ -27,8 +27,13 @@ public:
     };
     /// Lets entries be read so.
     void takePlainEntries() { myTakesPlain = true; }
+    struct PlainEntries
+    {
+        std::vector<Plain> entries;
+        std::string names; ///< of their files, for their origin
+    };
     /// Hands them over.
-    std::vector<Plain> takenEntries() const { return std::exchange(myPlain.entries, {}); }
+    PlainEntries takenEntries() const { return std::exchange(myPlain.all, {}); }
 
     using AxRwTemplatedListPtr::getData;
     AxlObjPtr getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings) override;
@@ -47,7 +52,7 @@ private:
         Waiting& operator=(Waiting const&) { return *this; }
         ~Waiting() = default;
 
-        std::vector<Plain> entries;
+        PlainEntries all;
     };
     struct Entry;
     static Entry const ourEntry;

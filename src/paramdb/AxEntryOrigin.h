@@ -15,4 +15,5 @@ struct AxSxpParameterDbEntry::Origin : boost::intrusive_ref_counter<Origin, boos
     std::vector<AxFilename> searchPaths{};
     AxFilename databaseDirectory{};
     boost::shared_ptr<AxFilename const> databaseFile{};
+    std::shared_ptr<std::string const> names{}; // of the files of its entries, one behind the other
 };

@@ -16,6 +16,7 @@
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <exception>
@@ -99,9 +100,8 @@ AxSxpParameterDbEntry::OriginPtr const& AxSxpParameterDbEntry::noOrigin()
 
 AxSxpParameterDbEntry::AxSxpParameterDbEntry() : myOrigin(noOrigin()) {}
 
-AxSxpParameterDbEntry::AxSxpParameterDbEntry(AxObjectType const& type, std::string_view file, unsigned line,
-                                             unsigned column)
-    : AxZedParameterDbEntry(type), myFilename(file), myOrigin(noOrigin()), myLine(line), myColumn(column)
+AxSxpParameterDbEntry::AxSxpParameterDbEntry(AxObjectType const& type, NamePlace name, unsigned line, unsigned column)
+    : AxZedParameterDbEntry(type), myName(name), myOrigin(noOrigin()), myLine(line), myColumn(column)
 {
 }
 
@@ -124,17 +124,35 @@ AxZedObjectParameters* AxSxpParameterDbEntry::load()
 
 AxString AxSxpParameterDbEntry::uniqueIdentifier() const
 {
-    return myFilename.string();
+    return filename().string();
 }
 
 void AxSxpParameterDbEntry::setFilename(AxFilename const& file)
 {
     myFilename = file;
+    myName = {};
 }
 
 AxFilename const& AxSxpParameterDbEntry::filename() const
 {
+    if (myName.length != 0)
+    {
+        takeName();
+    }
     return myFilename;
+}
+
+void AxSxpParameterDbEntry::takeName() const
+{
+    axGuarded("no-filename", AxFilename::nullFilename(), false,
+              [this]
+              {
+                  std::string_view const names = myOrigin->names ? *myOrigin->names : std::string_view();
+                  myFilename =
+                      AxFilename(names.substr(std::min<std::size_t>(myName.begin, names.size()), myName.length));
+                  myName = {};
+                  return true;
+              });
 }
 
 void AxSxpParameterDbEntry::setPath(AxFilename const& path)
@@ -343,12 +361,12 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readTextFile(AxFilename const& fil
 AxZedObjectParameters* AxSxpParameterDbEntry::readParameterEntry(std::FILE* file, AxEnvironmentPtr const& env,
                                                                  AxEnvValuePtr* value)
 {
-    AxFilename const& name = myReading != nullptr ? myReading->file : myFilename;
+    AxFilename const& name = myReading != nullptr ? myReading->file : filename();
     AxExtFileInputStream stream(file, name);
     if (!stream.isValid())
     {
         AxDiagnostics::reportStated(axUnreadable(name, file),
-                                    axFormat("couldn't create lisp stream for %s\n", myFilename.c_str()));
+                                    axFormat("couldn't create lisp stream for %s\n", filename().c_str()));
         return nullptr;
     }
     try

@@ -77,8 +77,12 @@ char const* AxSxpParameterDbFileEntryList::takePlain(char const* begin, char con
         {
             break;
         }
-        auto entry = std::make_unique<AxSxpParameterDbEntry>(type, filename, entryLine, entryColumn);
-        myPlain.entries.push_back({std::move(entry), count()});
+        std::string& names = myPlain.all.names;
+        AxSxpParameterDbEntry::NamePlace const name{static_cast<unsigned>(names.size()),
+                                                    static_cast<unsigned>(filename.size())};
+        names += filename;
+        auto entry = std::make_unique<AxSxpParameterDbEntry>(type, name, entryLine, entryColumn);
+        myPlain.all.entries.push_back({std::move(entry), count()});
         end = scanner.place();
         scanner.skipBlanks();
     } while (*scanner.place() == '(');

@@ -125,12 +125,12 @@ struct AxSxpParameterDbReader::Adding
 
     void add(AxSxpParameterDbFileEntryList::Plain& plain)
     {
+        plain.entry->setOrigin(origin);
         if (typeid(db) != typeid(AxSxpParameterDb)) // makes entries of its own
         {
             add(plain.entry->objectType(), plain.entry->filename(), false, plain.entry->line(), plain.entry->column());
             return;
         }
-        plain.entry->setOrigin(origin);
         db.addParameterDbEntry(plain.entry.release());
     }
 };
@@ -318,7 +318,9 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
     shared->addAllFrom(data.variableBindings());
     db->addVariableBindings(shared);
     Adding adding(*db, basePath, shared, *this);
-    std::vector<AxSxpParameterDbFileEntryList::Plain> plainEntries = data.entryList().takenEntries();
+    AxSxpParameterDbFileEntryList::PlainEntries taken = data.entryList().takenEntries();
+    std::vector<AxSxpParameterDbFileEntryList::Plain>& plainEntries = taken.entries;
+    adding.origin->names = std::make_shared<std::string const>(std::move(taken.names));
     auto plain = plainEntries.begin();
     db->expectEntries(plainEntries.size() + static_cast<std::size_t>(data.entryList().count()));
     int count = 0;

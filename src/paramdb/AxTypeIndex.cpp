@@ -232,6 +232,7 @@ void AxTypeIndex::expect(std::size_t count)
 AxTypeIndex::Place AxTypeIndex::placeOf(AxObjectType const& type)
 {
     arrange();
+    isSorted(); // lest a change behind the index goes unseen
     AxObjectType const* const last = myList.isEmpty() ? nullptr : myTypeOf(myList.last()->data());
     if (myList.isEmpty() || (last != nullptr && *last < type))
     {
