@@ -4,6 +4,9 @@
 #include "AxZedParameterDbEntry.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <map>
 #include <vector>
 
 /// A database that shows its entries and what answers for a type.
@@ -103,4 +106,62 @@ private:
         }
         return best;
     }
+};
+
+/// The same answers for types without fields below -1, fast enough to ask for all types of a large list: what fits such
+/// a type never stands behind it, so that the last that fits answers, and only entries that agree in the first fields
+/// or leave them open can fit.
+class GroupedWalk
+{
+public:
+    using Entry = Walk::Entry;
+
+    explicit GroupedWalk(std::vector<Entry> entries) : myEntries(std::move(entries))
+    {
+        for (std::size_t at = 0; at < myEntries.size(); ++at)
+        {
+            myGroups[first(myEntries[at]->objectType(), 0)].push_back(at);
+        }
+    }
+
+    Entry found(AxObjectType const& type) const
+    {
+        std::size_t best = myEntries.size();
+        for (unsigned open = 0; open < 1U << theNumFields; ++open)
+        {
+            auto const group = myGroups.find(first(type, open));
+            if (group == myGroups.end())
+            {
+                continue;
+            }
+            for (std::size_t const at : group->second)
+            {
+                AxObjectType const& standing = myEntries[at]->objectType();
+                if (standing == type)
+                {
+                    return myEntries[at];
+                }
+                bool const isLater = best == myEntries.size() || at > best;
+                best = isLater && type.matchPattern(standing) ? at : best;
+            }
+        }
+        return best < myEntries.size() ? myEntries[best] : nullptr;
+    }
+
+private:
+    static constexpr std::size_t theNumFields = 5;
+    using Fields = std::array<int, theNumFields>;
+
+    static Fields first(AxObjectType const& type, unsigned open)
+    {
+        Fields fields;
+        for (std::size_t i = 0; i < fields.size(); ++i)
+        {
+            fields[i] = (open >> i & 1U) != 0 ? AxObjectType::theWildcard : type.fields()[i];
+        }
+        return fields;
+    }
+
+    std::vector<Entry> myEntries;
+    std::map<Fields, std::vector<std::size_t>> myGroups;
 };
