@@ -4,12 +4,14 @@
 #include "AxDmgAngleOfIncidenceRangeCalcTable.h"
 #include "AxDmgAngleOfIncidenceRangeLookupTable.h"
 #include "AxDmgMunitionTable.h"
+#include "AxRangeProbabilityTable.h"
 
 #include <benchmark/benchmark.h>
 
 #include <array>
 #include <memory>
 #include <random>
+#include <string>
 #include <vector>
 
 namespace
@@ -109,9 +111,55 @@ struct DamageSet
     AxPrbRangeTableEntry row;
 };
 
+/// A table of hits, or of detections, which has the same form: general patterns before what is derived from them.
+struct HitSet
+{
+    struct Question
+    {
+        AxEntityType type;
+        double range;
+    };
+
+    HitSet()
+    {
+        std::string text = "(hits (entity-range (entity-type 1 -1 -1 -1 -1 -1 -1) (range-determinant (coefficients "
+                           "(hit -0.0002 1.0))))";
+        for (int category = 0; category < theNumMunitions; ++category)
+        {
+            char const* const rest = category % 2 == 0 ? " -1 -1 -1)" : " 1 3 0)";
+            text += "(entity-range (entity-type 1 1 225 " + std::to_string(category) + rest +
+                    " (range-determinant (range-list";
+            for (int number = 1; number <= 5; ++number)
+            {
+                text += " (range-entry " + std::to_string(500 * number) + ".0 (hit 0.5))";
+            }
+            text += ")))";
+        }
+        table.readText(text + ")", AxFilename("bench.hit"), AxReaderWriter::nullFilenames(),
+                       AxReaderWriter::nullVariableReference());
+        std::mt19937 source(19);
+        for (int i = 0; i < 1024; ++i)
+        {
+            AxEntityType const type(1, 1, 225, static_cast<int>(source() % (theNumMunitions + 4)), 1, 3, 0);
+            questions.push_back({type, static_cast<double>(source() % 3000)});
+        }
+    }
+
+    bool ask(std::size_t number)
+    {
+        Question const& q = questions[number % questions.size()];
+        return table.getProbabilities(q.type, q.range, &row);
+    }
+
+    AxRangeProbabilityTable table{"hits", nullptr};
+    std::vector<Question> questions;
+    AxPrbRangeTableEntry row;
+};
+
+template <class Set>
 void query(benchmark::State& state)
 {
-    DamageSet set;
+    Set set;
     auto const askAll = [&]
     {
         bool all = true;
@@ -138,5 +186,6 @@ void query(benchmark::State& state)
 
 void registerDamageQueries()
 {
-    benchmark::RegisterBenchmark("damage-query/ours", query);
+    benchmark::RegisterBenchmark("damage-query/ours", query<DamageSet>);
+    benchmark::RegisterBenchmark("hit-query/ours", query<HitSet>);
 }

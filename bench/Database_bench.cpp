@@ -1,6 +1,7 @@
 #include "AxSxpParameterDb.h"
 #include "AxZedParameterDbEntry.h"
 #include "BenchRecord.h"
+#include "Files.h"
 #include "PlainJson.h"
 #include "RecordTexts.h"
 #include "record.pb.h"
@@ -14,11 +15,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <memory>
-#include <stdexcept>
 #include <vector>
 
 namespace
@@ -27,24 +25,6 @@ using google::protobuf::TextFormat;
 
 constexpr int theNumRecords = 10000;
 namespace fs = std::filesystem;
-
-void writeFile(fs::path const& path, std::string const& text)
-{
-    std::ofstream stream(path, std::ios::binary);
-    stream << text;
-    if (!stream.flush())
-    {
-        throw std::runtime_error("cannot write " + path.string());
-    }
-}
-
-std::string readFile(fs::path const& path)
-{
-    std::ifstream stream(path, std::ios::binary);
-    std::string text(static_cast<std::size_t>(fs::file_size(path)), '\0');
-    stream.read(text.data(), static_cast<std::streamsize>(text.size()));
-    return text;
-}
 
 AxObjectType typeOf(int number)
 {
@@ -62,13 +42,7 @@ class Databases
 public:
     Databases()
     {
-        std::string folder = (fs::temp_directory_path() / "zedobjparam-bench-").string() + std::string(6, 'X');
-        if (!mkdtemp(folder.data()))
-        {
-            throw std::runtime_error("cannot make a temporary folder");
-        }
-        myFolder = folder;
-        fs::create_directory(myFolder / "records");
+        fs::create_directory(folder() / "records");
 
         peer::Record message;
         TextFormat::ParseFromString(messageSource, &message);
@@ -120,9 +94,9 @@ public:
             jsonWriter.Key("file");
             jsonWriter.String((name + ".json").c_str());
             jsonWriter.EndObject();
-            writeFile(myFolder / (name + ".ope"), ourText);
-            writeFile(myFolder / (name + ".textproto"), messageText);
-            writeFile(myFolder / (name + ".json"), jsonText);
+            writeFile(folder() / (name + ".ope"), ourText);
+            writeFile(folder() / (name + ".textproto"), messageText);
+            writeFile(folder() / (name + ".json"), jsonText);
         }
         writeFile(ours(), entries + "  )\n)\n");
         std::string databaseText;
@@ -131,13 +105,6 @@ public:
         jsonWriter.EndArray();
         writeFile(jsonPeers(), json.GetString());
     }
-    ~Databases()
-    {
-        std::error_code ignored;
-        fs::remove_all(myFolder, ignored);
-    }
-    Databases(Databases const&) = delete;
-    Databases& operator=(Databases const&) = delete;
 
     static Databases& get()
     {
@@ -145,13 +112,13 @@ public:
         return both;
     }
 
-    fs::path ours() const { return myFolder / "bench.opd"; }
-    fs::path peers() const { return myFolder / "bench.textproto"; }
-    fs::path jsonPeers() const { return myFolder / "bench.json"; }
-    fs::path folder() const { return myFolder; }
+    fs::path ours() const { return folder() / "bench.opd"; }
+    fs::path peers() const { return folder() / "bench.textproto"; }
+    fs::path jsonPeers() const { return folder() / "bench.json"; }
+    fs::path folder() const { return myFolder.path(); }
 
 private:
-    fs::path myFolder;
+    TemporaryFolder myFolder;
 };
 
 std::unique_ptr<AxSxpParameterDb> newDb()

@@ -1,5 +1,6 @@
 #include "BenchRecord.h"
 #include "Damage_bench.h"
+#include "Growth_bench.h"
 #include "Lookup_bench.h"
 #include "Record_bench.h"
 
@@ -35,6 +36,7 @@ int main(int argc, char** argv)
         setUpFactories();
         registerLargestDescriptor();
         registerDamageQueries();
+        registerGrowth();
         registerLookups(typesFile);
         benchmark::RunSpecifiedBenchmarks();
         benchmark::Shutdown();

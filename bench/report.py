@@ -47,6 +47,7 @@ def jobs(found):
     """(what, our job, the peer's or the greatest figure allowed or None, target or None), in the order of the table."""
     yield "read a record", "read/ours", "read/protobuf", least(8)
     yield "read a record", "read/ours", "read/json", least(1.7)
+    yield "read a record", "read/ours", "floor/copy", None
     yield "read its keywords in any order", "read-shuffled/ours", "read-shuffled/protobuf", least(5.5)
     yield "read it by the cell operations", "read-cells/ours", "read/protobuf", least(4)
     yield "write it", "write/ours", "write/protobuf", least(7)
@@ -88,11 +89,21 @@ def jobs(found):
     for size in sizes:
         yield f"memory of one of {size} entries", f"memory-entry-{size}/ours", None, None
     yield "damage query", "damage-query/ours", 1000, most(1)
+    yield "hit or detection query", "hit-query/ours", 1000, most(1)
     yield "database file, per entry", "database-file/ours", "database-file/protobuf", least(8)
     yield "database file, per entry", "database-file/ours", "database-file/json", least(1.6)
     yield "load one of 10000 record files", "record-files/ours", "record-files/protobuf", least(5)
     yield "load one of 10000 record files", "record-files/ours", "record-files/json", least(1.3)
     yield "load one of 10000 record files", "record-files/ours", "record-files/open-read-close", most(6)
+    counts = sorted({int(match[1]) for match in (re.match(r"(?:open|load|save)-(\d+)/ours", name) for name in found) if match})
+    for job, words in (("open", "open a database of {}, an entry"), ("load", "load all of {} record files, each"),
+                       ("save", "save all of {} records, each")):
+        for count in counts:
+            yield words.format(count), f"{job}-{count}/ours", None, None
+    for job, count, growth in (("open", 100000, 2), ("open", 1000000, 3), ("load", 10000, 1.5), ("load", 100000, 1.5)):
+        yield f"growth of {job}, 1000 to {count}", f"{job}-{count}/ours", f"{job}-1000/ours", most(growth)
+    yield "growth of save, 100 to 1000", "save-1000/ours", "save-100/ours", most(1.5)
+    yield "open a database of 1000000, an entry", "open-1000000/ours", "cells-1000000/ours", most(3)
     for command, reading in (("check", "read"), ("find", "read"), ("diff", "read-both")):
         yield f"zedparam {command}, per record file", f"tool-{command}/ours", f"tool-{reading}/ours", most(2)
         yield f"zedparam {command}, memory", f"memory-tool-{command}/all", f"memory-tool-{reading}/all", most(2)

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+/// A folder for the files of a run; goes with the object.
+class TemporaryFolder
+{
+public:
+    TemporaryFolder();
+    TemporaryFolder(TemporaryFolder const&) = delete;
+    TemporaryFolder& operator=(TemporaryFolder const&) = delete;
+    ~TemporaryFolder();
+
+    std::filesystem::path const& path() const { return myPath; }
+
+private:
+    std::filesystem::path myPath;
+};
+
+/// Throws std::runtime_error.
+void writeFile(std::filesystem::path const& path, std::string const& text);
+std::string readFile(std::filesystem::path const& path);
