@@ -180,6 +180,12 @@ void AxReaderWriter::getSelf(AxlObjPtr const& expression, AxFilenameList const& 
     if (!readReference(items, files, bindings))
     {
         dropKeptItems();
+        if (list->car()->tag() == AxlObj::Tag::Pair && !flag(Value) && !flag(List))
+        {
+            std::string first; // stands where the name should, and is no name
+            axAppendCell(first, list->car());
+            keepItem({}, std::move(first));
+        }
         readBody(items, files, bindings);
     }
     if (!flag(Rejected))

@@ -208,6 +208,15 @@ TEST_F(AxDmgMunitionTableTest, NewEntryFitsEveryMunitionAndDoesNothing)
     EXPECT_FALSE(table.getProbabilities(munitionOf(theHeat), "front", 0.0, 0.0, &out, true));
 }
 
+TEST_F(AxDmgMunitionTableTest, KeepsWhatStandsInPlaceOfAName)
+{
+    readFrom(table, "(t ((x 1) (suppression-lof-range 3.0)))");
+    std::string const text = table.writtenText();
+    EXPECT_NE(text.find("(x 1)"), std::string::npos) << text;
+    readFrom(table, text);
+    EXPECT_EQ(table.writtenText(), text);
+}
+
 TEST_F(AxDmgMunitionTableTest, QueryAllocatesNothingOnceTheRowHasHeldTheFullestAnswer)
 {
     readFrom(table, "(t " + entry("(munition-type 2 2 225 2 13 -1 -1)") + entry("(munition-name \"heat\")") + ")");
