@@ -43,6 +43,34 @@ TEST(AxDiagnostic, PrintsWhatIsKnown)
                                    "\\xc0\\x80\\xe4z\\xed\\xa0\\x80\\xe2\\x82");
 }
 
+TEST(AxDiagnostic, PrintsTextAndEscapesWhatIsNone)
+{
+    struct Case
+    {
+        char const* text;
+        char const* printed;
+    };
+    // The outermost characters of each length, and what stands just beyond them.
+    for (auto const& [text, printed] : {Case{"\x7F~", " ~"},
+                                        {"\xC2\xA0\xDF\xBF", "\xC2\xA0\xDF\xBF"},
+                                        {"\xC2\x9F", "\\xc2\\x9f"},
+                                        {"\xC1\xBF", "\\xc1\\xbf"},
+                                        {"\xE0\xA0\x80\xEF\xBF\xBF", "\xE0\xA0\x80\xEF\xBF\xBF"},
+                                        {"\xE0\x9F\xBF", "\\xe0\\x9f\\xbf"},
+                                        {"\xED\x9F\xBF\xEE\x80\x80", "\xED\x9F\xBF\xEE\x80\x80"},
+                                        {"\xED\xA0\x80", "\\xed\\xa0\\x80"},
+                                        {"\xE1\x80\xC0", "\\xe1\\x80\\xc0"},
+                                        {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
+                                        {"\xF0\x8F\xBF\xBF", "\\xf0\\x8f\\xbf\\xbf"},
+                                        {"\xF4\x90\x80\x80", "\\xf4\\x90\\x80\\x80"},
+                                        {"\xF5\x80\x80\x80", "\\xf5\\x80\\x80\\x80"}})
+    {
+        AxDiagnostic diagnostic;
+        diagnostic.text = text;
+        EXPECT_EQ(diagnostic.format(), std::string("error: ") + printed);
+    }
+}
+
 TEST(AxDiagnostics, ReportsToTheSinkAndInOneLine)
 {
     AxSinkScope warnings(AxWarn), information(AxInfo);

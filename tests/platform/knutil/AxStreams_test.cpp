@@ -24,8 +24,8 @@ TEST(AxStreams, WritesEveryKindOfValue)
     AxSinkScope scope(AxInfo);
     char const* const null = nullptr;
     AxInfo << AxString("s") << ' ' << AxSymbolString("y") << ' ' << AxFilename("a\\b") << ' ' << std::string("t")
-           << null << ' ' << -1 << ' ' << 18446744073709551615ULL << ' ' << 0.5 << ' ' << true << AxEndl;
-    EXPECT_EQ(scope.text(), "s y a\\b t -1 18446744073709551615 0.5 true\n");
+           << null << ' ' << -1 << ' ' << 18446744073709551615ULL << ' ' << 0.5 << ' ' << true << false << AxEndl;
+    EXPECT_EQ(scope.text(), "s y a\\b t -1 18446744073709551615 0.5 truefalse\n");
 }
 
 TEST(AxStreams, FormatsTextsOfAnyLength)
@@ -48,7 +48,11 @@ TEST(AxStreams, IsSilentWithoutASinkExceptForWarnings)
     testing::internal::CaptureStderr();
     AxWarn("to the error stream\n");
     AxInfo("dropped\n");
+    AxInfo << "dropped" << 'x' << -1 << 1U << 0.5 << AxEndl << "not kept for a later sink";
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "to the error stream\n");
+    AxSinkScope scope(AxInfo);
+    AxInfo << AxEndl;
+    EXPECT_EQ(scope.text(), "\n");
 }
 
 TEST(AxStreams, OutlivesSinksThatThrowReplaceThemselvesOrWrite)

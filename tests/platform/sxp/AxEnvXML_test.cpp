@@ -2,6 +2,7 @@
 #include "AxEnvXMLWriter.h"
 
 #include <cstdio>
+#include <functional>
 #include <iterator>
 #include <random>
 #include <string>
@@ -67,6 +68,26 @@ TEST(AxEnvXML, DropsBlanksBetweenElementsOnly)
     ASSERT_EQ(root->count(), 2U);
     EXPECT_EQ(root->children()[0]->castToObject()->count(), 0U);
     EXPECT_EQ(root->children()[1]->castToList()->children()[0]->value(), " x ");
+}
+
+TEST(AxEnvXML, TellsTreesApartByWhateverStandsInThem)
+{
+    static constexpr char const* theTexts[] = {"<a/>",           "<b/>",
+                                               "<a name=''/>",   "<a name='n'/>",
+                                               "<a x='1'/>",     "<a x='2'/>",
+                                               "<a y='1'/>",     "<a x='1' y='1'/>",
+                                               "<a>1</a>",       "<a>2</a>",
+                                               "<a><b/></a>",    "<a><b/><b/></a>",
+                                               "<a><b/>1</a>",   "<a><!--1--></a>",
+                                               "<a><?b 1?></a>", "<a><?b 2?></a>",
+                                               "<!--1--><a/>",   "<a/><!--1-->"};
+    for (char const* one : theTexts)
+    {
+        for (char const* other : theTexts)
+        {
+            EXPECT_EQ(equalTrees(read(one), read(other)), one == other) << one << ' ' << other;
+        }
+    }
 }
 
 TEST(AxEnvXML, JoinsNeighbouringTextAndCdata)
@@ -272,6 +293,79 @@ TEST(AxEnvXML, RefusesToWriteWhatXmlCannotHold)
         EXPECT_EQ(text, "");
         EXPECT_NE(warnings.text().find(one.part), std::string::npos) << warnings.text();
     }
+}
+
+TEST(AxEnvXML, CommentsAndInstructionsAreWrittenOrRefusedWithAReason)
+{
+    struct Case
+    {
+        AxString type;
+        char const* name;
+        char const* text;
+        char const* written; // null: refused
+    };
+    AxString const comment = AxEnvObject::commentType();
+    AxString const instruction = AxEnvObject::instructionType();
+    for (Case const& one : {Case{comment, "", " a - b ", "<!-- a - b -->"},
+                            {comment, "", "a--b", nullptr},
+                            {comment, "", "a-", nullptr},
+                            {comment, "", "a\rb", nullptr},
+                            {comment, "", "a\x01", nullptr},
+                            {instruction, "go", "", "<?go?>"},
+                            {instruction, "go", "x ? y >", "<?go x ? y >?>"},
+                            {instruction, "xmk", "x", "<?xmk x?>"},
+                            {instruction, "xnl", "x", "<?xnl x?>"},
+                            {instruction, "yml", "x", "<?yml x?>"},
+                            {instruction, "xml", "x", nullptr},
+                            {instruction, "xMl", "x", nullptr},
+                            {instruction, "two words", "x", nullptr},
+                            {instruction, "go", "x?>", nullptr},
+                            {instruction, "go", "x\ry", nullptr},
+                            {instruction, "go", " x", nullptr}})
+    {
+        AxEnvironmentPtr const env = read("<a/>");
+        auto const object = boost::make_shared<AxEnvObject>(one.name, one.type);
+        ASSERT_TRUE(env->prologue()->add(object));
+        env->addValue(one.text, object);
+        AxSinkScope warnings(AxWarn);
+        EXPECT_EQ(written(env), one.written != nullptr ? theHead + one.written + "\n<a/>\n" : "");
+        EXPECT_EQ(warnings.text().empty(), one.written != nullptr) << one.name << one.text;
+    }
+}
+
+TEST(AxEnvXML, WritesOnlyWhatIsADocument)
+{
+    auto const make = [](AxString const& type) { return boost::make_shared<AxEnvObject>(type); };
+    struct Case
+    {
+        char const* part;
+        std::function<void(AxEnvironment&)> change;
+    };
+    for (auto const& [part, change] :
+         {Case{"root is no element", [](auto& env) { env.setRoot(boost::make_shared<AxEnvValue>("text")); }},
+          {"root is no element", [&](auto& env) { env.setRoot(make(AxEnvObject::commentType())); }},
+          {"outside of the root", [](auto& env) { env.epilogue()->add(boost::make_shared<AxEnvValue>("text")); }},
+          {"outside of the root", [&](auto& env) { env.prologue()->add(make("b")); }},
+          {"more than text", [](auto& env) { env.addObject("b", "c", env.addObject(AxEnvObject::commentType())); }},
+          {"deeper than 256", [](auto& env)
+           {
+               AxEnvValuePtr last = env.root();
+               for (int level = 0; level < 256; ++level)
+               {
+                   last = env.addUnnamedObject("a", last);
+               }
+           }}})
+    {
+        AxEnvironmentPtr const env = read("<a/>");
+        change(*env);
+        AxSinkScope warnings(AxWarn);
+        EXPECT_EQ(written(env), "");
+        EXPECT_NE(warnings.text().find(part), std::string::npos) << part << ": " << warnings.text();
+    }
+
+    AxEnvironmentPtr const env = read("<a/>");
+    env->setRoot(boost::make_shared<AxEnvNamedList>("n"));
+    EXPECT_EQ(written(env), theHead + "<list name=\"n\"/>\n");
 }
 
 TEST(AxEnvXML, WritesAFileOrLeavesTheOldOne)

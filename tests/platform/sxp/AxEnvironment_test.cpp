@@ -90,11 +90,73 @@ TEST(AxEnvironment, MovesANodeFromListToList)
     EXPECT_TRUE(tank->attributes().empty());
 }
 
+TEST(AxEnvironment, APlainTextHoldsNothing)
+{
+    AxEnvironmentPtr env = sample();
+    AxEnvValuePtr const text = env->addValue("text", env->root());
+    for (AxEnvValuePtr const& parent : {text, AxEnvValuePtr()})
+    {
+        EXPECT_EQ(env->addValue("inner", parent), nullptr);
+        EXPECT_EQ(env->addAttribute("a", "1", parent), nullptr);
+        EXPECT_EQ(env->getAttribute("value", parent), nullptr);
+    }
+    EXPECT_EQ(env->addObject("a", "b", text), nullptr);
+    EXPECT_EQ(env->getObject("", "", text), nullptr);
+    AxEnvObjectList found;
+    env->getObjectsByName("m1", found, text);
+    env->getObjectsByType("simObject", found, text);
+    EXPECT_TRUE(found.empty());
+    EXPECT_FALSE(env->remove(nullptr));
+    EXPECT_FALSE(env->root()->castToList()->add(nullptr));
+    env->setRoot(text);
+    EXPECT_EQ(env->root(), text);
+    EXPECT_EQ(text->parent(), nullptr);
+    EXPECT_EQ(env->addObject("a"), nullptr);
+}
+
+TEST(AxEnvironment, ANullParentStandsForTheRoot)
+{
+    AxEnvironmentPtr env = sample();
+    env->addObject("simObject");
+    AxEnvObjectList found;
+    env->getObjectsByName("m2", found, nullptr);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0]->parent(), env->root());
+    env->getObjectsByType("simObject", found, nullptr);
+    EXPECT_EQ(found.size(), 4U);
+    env->getObjectsByName("", found, nullptr);
+    EXPECT_EQ(found.size(), 4U) << "an object without a name has not the empty one";
+
+    env->setRoot(nullptr);
+    found.clear();
+    EXPECT_EQ(env->getObject("", "", nullptr), nullptr);
+    env->getObjectsByName("m2", found, nullptr);
+    env->getObjectsByType("simObject", found, nullptr);
+    env->getObjectsByType("simObject", found);
+    EXPECT_TRUE(found.empty());
+}
+
+TEST(AxEnvironment, RemovesOnlyTheAttributesOfTheObject)
+{
+    AxEnvironmentPtr env = sample();
+    AxEnvObjectPtr tank = env->getObject("m1", "", nullptr);
+    AxEnvObjectPtr other = env->getObject("m2", "", nullptr);
+    EXPECT_FALSE(other->removeAttribute("value"));
+    EXPECT_FALSE(other->removeAttribute(tank->attributeNode("value")));
+    EXPECT_EQ(tank->attributes().size(), 1U);
+    EXPECT_TRUE(tank->removeAttribute("value"));
+    EXPECT_TRUE(tank->removeAttribute("name"));
+    EXPECT_FALSE(tank->removeAttribute("name"));
+    EXPECT_EQ(tank->attribute("name"), nullptr);
+    EXPECT_FALSE(tank->hasName());
+}
+
 TEST(AxEnvironment, CastsANodeToWhatItIsOnly)
 {
     AxEnvValuePtr value = boost::make_shared<AxEnvValue>("text");
     AxEnvValuePtr list = boost::make_shared<AxEnvNamedList>("list");
     EXPECT_EQ(value->castToList(), nullptr);
+    EXPECT_EQ(value->castToNamedList(), nullptr);
     EXPECT_EQ(list->castToNamedList(), list);
     EXPECT_EQ(list->castToObject(), nullptr);
     EXPECT_FALSE(list->isObject());
@@ -114,4 +176,7 @@ TEST(AxEnvironment, ComparesTrees)
     other->addValue("text", tank);
     EXPECT_FALSE(equalTrees(sample(), other));
     EXPECT_FALSE(equalTrees(sample(), nullptr));
+    EXPECT_FALSE(equalTrees(nullptr, sample()->root()));
+    EXPECT_TRUE(equalTrees(AxEnvValuePtr(), AxEnvValuePtr()));
+    EXPECT_TRUE(equalTrees(AxEnvironmentPtr(), AxEnvironmentPtr()));
 }
