@@ -1,5 +1,6 @@
 #include "AxEntityType.h"
 
+#include <unordered_set>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -51,4 +52,33 @@ TEST(AxEntityType, WritesSevenFields)
     EXPECT_EQ(AxEntityType(1, 2, 225, 1, -1, 0, 9).string(" "), "1 2 225 1 -1 0 9");
     EXPECT_TRUE(AxEntityType::nullType().isNull());
     EXPECT_FALSE(AxEntityType(0, 0, 0, 0, 0, 0, 1).isNull());
+}
+
+TEST(AxEntityType, NamesItsFields)
+{
+    AxEntityType type;
+    type.setKind(1);
+    type.setDomain(2);
+    type.setCountry(3);
+    type.setCategory(4);
+    type.setSubcategory(5);
+    type.setSpecific(6);
+    type.setExtra(7);
+    EXPECT_EQ(type, AxEntityType(1, 2, 3, 4, 5, 6, 7));
+}
+
+TEST(AxEntityType, IsFoundAmongManyByItsHash)
+{
+    std::unordered_set<AxEntityType> types;
+    std::unordered_set<std::size_t> hashes;
+    for (int i = 0; i < 2187; ++i)
+    {
+        AxEntityType const type(i % 3, i / 3 % 3, i / 9 % 3, i / 27 % 3, i / 81 % 3, i / 243 % 3, i / 729 % 3 - 1);
+        types.insert(type);
+        hashes.insert(std::hash<AxEntityType>()(type));
+    }
+    EXPECT_EQ(types.size(), 2187U);
+    EXPECT_GT(hashes.size(), 2180U);
+    EXPECT_TRUE(types.contains(AxEntityType(2, 2, 2, 2, 2, 2, -1)));
+    EXPECT_FALSE(types.contains(AxEntityType(2, 2, 2, 2, 2, 2, 2)));
 }

@@ -87,3 +87,18 @@ TEST(AxObjectType, ConvertsFromAndToEntityTypes)
     EXPECT_EQ(AxObjectType(tank, 4), AxObjectType(1, 1, 225, 1, 1, 3, 0, 4));
     EXPECT_EQ(AxObjectType(tank, 4).entityType(), tank);
 }
+
+TEST(AxObjectType, NamesItsFields)
+{
+    AxObjectType type;
+    type.setSuperType(1);
+    type.setKind(2);
+    type.setDomain(3);
+    type.setCountry(4);
+    type.setCategory(5);
+    type.setSubcategory(6);
+    type.setSpecific(7);
+    type.setExtra(8);
+    EXPECT_EQ(type, AxObjectType(AxObjectType::Fields{1, 2, 3, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(type.entityType(), AxEntityType(2, 3, 4, 5, 6, 7, 8));
+}
