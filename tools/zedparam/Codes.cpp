@@ -16,6 +16,7 @@ constexpr auto machine = Code::From::Machine;
 constexpr auto host = Code::From::Host;
 
 constexpr Code theCodes[] = {
+    {"add-failed", error, machine, "There is no memory for an entry that is added."},
     {"attribute-limit", error, reading, "An XML element has more attributes than are read."},
     {"bad-identifier", warning, host, "A text given as an identifier is none; the null identifier is taken."},
     {"bad-name", warning, reading, "A list begins with something else than a name."},
@@ -45,6 +46,7 @@ constexpr Code theCodes[] = {
     {"incomplete-variable", error, reading, "A variable of an entity file has no name or no value."},
     {"invalid-record", error, host, "A record of a class of the host says that it is not complete."},
     {"list-changed", error, host, "Entries came or went while all were being loaded or saved."},
+    {"lookup-failed", error, machine, "A look-up came to an end for want of memory."},
     {"missing-endpoint", warning, reading, "A connection has no source or no destination."},
     {"missing-file", warning, reading, "A file that a record, system or table names cannot be read."},
     {"missing-key", warning, checking, "An element of a table lacks the type or munition that it is asked by."},
@@ -53,6 +55,7 @@ constexpr Code theCodes[] = {
     {"newer-version", warning, reading, "The database is of a newer version than this one."},
     {"no-element", error, reading, "An entity file has no object of the type of its entry."},
     {"no-file", error, host, "A group of objects is to be saved and has no file."},
+    {"no-filename", error, machine, "There is no memory for the file name of an entry."},
     {"no-group", error, reading, "A group file does not hold a group."},
     {"no-list", error, writing, "A value is to be set within something that is no list of items."},
     {"no-object", error, writing, "A file holds no object, or several of which none is named."},
