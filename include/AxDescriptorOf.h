@@ -3,6 +3,8 @@
 #include "AxComponentDescriptor.h"
 #include "AxRecordOf.h"
 
+#include <memory>
+
 /// A component descriptor's class says what it holds; this base supplies its type name, its constructors, its clone
 /// and its creator.
 ///
@@ -56,9 +58,9 @@ public:
         {
             return copy;
         }
-        auto* made = new Derived(this->AxReaderWriter::name(), registry);
+        auto made = std::make_unique<Derived>(this->AxReaderWriter::name(), registry);
         made->assign(*this);
-        return made;
+        return made.release();
     }
     static AxComponentDescriptor* creator() { return new Derived(AxSymbolString(), nullptr); }
 };

@@ -3,6 +3,8 @@
 #include "AxRecordOf.h"
 #include "AxZedStateRepositoryUserExtension.h"
 
+#include <memory>
+
 /// What a project adds to the state repository says what it holds; this base supplies its type name, its constructors,
 /// its clone and its creator.
 ///
@@ -18,9 +20,9 @@ public:
     AxString type() const override { return typeName.text; }
     AxZedStateRepositoryUserExtension* clone(AxSymbolString name, AxReaderWriterRegistry* registry) const override
     {
-        auto* made = new Derived(name, registry);
+        auto made = std::make_unique<Derived>(name, registry);
         made->assign(*this);
-        return made;
+        return made.release();
     }
     static AxZedStateRepositoryUserExtension* creator(AxString const&)
     {

@@ -2,6 +2,8 @@
 
 #include "AxZedStateRepositoryUserExtensionFactory.h"
 
+#include <memory>
+
 namespace
 {
 AxZedStateRepositoryUserExtensionFactory* ourFactory = nullptr;
@@ -29,9 +31,9 @@ AxString AxZedStateRepositoryUserExtension::type() const
 AxZedStateRepositoryUserExtension* AxZedStateRepositoryUserExtension::clone(AxSymbolString name,
                                                                             AxReaderWriterRegistry* registry) const
 {
-    auto* const made = new AxZedStateRepositoryUserExtension(name, registry);
+    auto made = std::make_unique<AxZedStateRepositoryUserExtension>(name, registry);
     made->assign(*this);
-    return made;
+    return made.release();
 }
 
 std::list<AxString> AxZedStateRepositoryUserExtension::scriptObjectKinds() const

@@ -3,6 +3,8 @@
 #include "AxReaderWriterFactory.h"
 #include "AxZedXmlUtils.h"
 
+#include <memory>
+
 static AxTypeEntry<AxModelSetEntry> const modelSetEntryEntry{AxTypeOps::withCreator<AxModelSetEntry>()};
 
 namespace
@@ -30,9 +32,9 @@ AxModelSetEntry& AxModelSetEntry::operator=(AxModelSetEntry const& other)
 
 AxModelSetEntry* AxModelSetEntry::clone() const
 {
-    auto* const made = new AxModelSetEntry(AxReaderWriter::name(), nullptr);
+    auto made = std::make_unique<AxModelSetEntry>(AxReaderWriter::name(), nullptr);
     *made = *this;
-    return made;
+    return made.release();
 }
 
 AxSymbolString AxModelSetEntry::elementWord() const

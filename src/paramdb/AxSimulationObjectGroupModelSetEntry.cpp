@@ -6,6 +6,7 @@
 #include "AxSimulationObjectEnvironmentalState.h"
 
 #include <algorithm>
+#include <memory>
 
 static AxTypeEntry<AxSimulationObjectGroupModelSetEntry> const simulationObjectGroupModelSetEntryEntry{
     AxTypeOps::withCreator<AxSimulationObjectGroupModelSetEntry>()};
@@ -41,9 +42,9 @@ AxSimulationObjectGroupModelSetEntry::operator=(AxSimulationObjectGroupModelSetE
 
 AxSimulationObjectGroupModelSetEntry* AxSimulationObjectGroupModelSetEntry::clone() const
 {
-    auto* const made = new AxSimulationObjectGroupModelSetEntry(AxReaderWriter::name(), nullptr);
+    auto made = std::make_unique<AxSimulationObjectGroupModelSetEntry>(AxReaderWriter::name(), nullptr);
     *made = *this;
-    return made;
+    return made.release();
 }
 
 AxSymbolString AxSimulationObjectGroupModelSetEntry::theElementWord()

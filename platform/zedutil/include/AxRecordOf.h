@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <memory>
 
 /// A text as a template argument.
 template <std::size_t n>
@@ -40,8 +41,8 @@ public:
     /// A copy on the heap under the same name, entered in `registry` when that is given.
     Derived* copy(AxReaderWriterRegistry* registry = nullptr) const
     {
-        auto* made = new Derived(this->AxReaderWriter::name(), registry);
+        auto made = std::make_unique<Derived>(this->AxReaderWriter::name(), registry);
         made->assign(static_cast<Derived const&>(*this));
-        return made;
+        return made.release();
     }
 };
