@@ -293,16 +293,16 @@ void AxObjectElement::restoreFile(AxEnvironment& env, AxEnvObjectPtr const& elem
     AxEnvObjectPtr const file = AxElement::first(others.shared_from_this(), theFileTag);
     AxEnvObjectPtr const root =
         file && file->count() == 1 ? file->children().front()->castToObject() : AxEnvObjectPtr();
-    AxEnvObjectPtr const placeholder = root ? firstObject(root) : AxEnvObjectPtr();
-    if (!placeholder || placeholder == root || !isEmpty(*placeholder) || !(env.root() == element))
+    AxEnvObjectPtr const vacated = root ? firstObject(root) : AxEnvObjectPtr();
+    if (!vacated || vacated == root || !isEmpty(*vacated) || !(env.root() == element))
     {
         return;
     }
     env.setRoot({});
-    AxEnvListPtr const siblings = placeholder->parent()->castToList();
-    auto const place = std::ranges::find(siblings->children(), placeholder) - siblings->children().begin();
+    AxEnvListPtr const siblings = vacated->parent()->castToList();
+    auto const place = std::ranges::find(siblings->children(), vacated) - siblings->children().begin();
     siblings->insert(static_cast<std::size_t>(place), element);
-    siblings->remove(placeholder);
+    siblings->remove(vacated);
     file->remove(root);
     others.remove(file);
     env.setRoot(root);
