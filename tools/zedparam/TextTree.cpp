@@ -50,6 +50,11 @@ struct TextTree::Builder
         {
             add(Kind::Blank, theByteOrderMark.size());
         }
+        if (AxlSyntaxError::isUtf16(text))
+        {
+            noteFault(AxlSyntaxError::utf16());
+            add(Kind::Fault, text.size());
+        }
         while (at < text.size())
         {
             readToken();

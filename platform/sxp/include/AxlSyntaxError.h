@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <exception>
 #include <string>
+#include <string_view>
 
 #include "AxExport.h"
 
@@ -21,6 +22,9 @@ public:
     /// For a text that ends inside the list or the string that begins here.
     static AxlSyntaxError unclosedList(std::uint32_t line, std::uint32_t column);
     static AxlSyntaxError unclosedString(std::uint32_t line, std::uint32_t column);
+    /// For a text that begins with the byte-order mark of UTF-16; see isUtf16.
+    static AxlSyntaxError utf16();
+    static bool isUtf16(std::string_view text) { return text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF"); }
 
     char const* what() const noexcept override { return myText.c_str(); }
     /// "unclosed-list", "unclosed-string", "stray-parenthesis", "control-byte", "utf-16", "nesting-limit" or

@@ -15,10 +15,9 @@ AxlScanner::AxlScanner(AxlInputStream& stream)
       myTokenBegin(myNext),
       myTokenLineStart(myLineStart)
 {
-    std::string_view const text = stream.myText;
-    if (myNext == text.data() && (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")))
+    if (myNext == stream.myText.data() && AxlSyntaxError::isUtf16(stream.myText))
     {
-        throw AxlSyntaxError("utf-16", "expected text in UTF-8, found UTF-16", 1, 1);
+        throw AxlSyntaxError::utf16();
     }
 }
 

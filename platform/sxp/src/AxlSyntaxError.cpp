@@ -22,6 +22,11 @@ AxlSyntaxError AxlSyntaxError::unclosedString(std::uint32_t line, std::uint32_t 
     return {"unclosed-string", "the string is not closed, expected '\"' before the end of the text", line, column};
 }
 
+AxlSyntaxError AxlSyntaxError::utf16()
+{
+    return {"utf-16", "expected text in UTF-8, found UTF-16", 1, 1};
+}
+
 AxDiagnostic AxlSyntaxError::diagnostic() const
 {
     AxDiagnostic diagnostic;

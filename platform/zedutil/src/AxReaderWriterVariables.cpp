@@ -191,6 +191,7 @@ bool AxReaderWriter::readReference(AxlObj const* items, AxFilenameList const& fi
         checkAndSetDefaultRWValue(AxlObjPtr(first), files, bindings);
     }
     readBinding(files, bindings);
+    dropKeptItems(); // the default's and the value's stand where those do
     setFlag(Rejected, false);
     return true;
 }
@@ -227,6 +228,7 @@ bool AxReaderWriter::readBinding(AxFilenameList const& files, AxBindingsList con
     AxSymbolString const name = mine.variableName;
     std::string const written = mine.written;
     readBody(cells->get(), files, bindings);
+    dropKeptItems();
     bool const isBound = !flag(Rejected);
     setFlag(Rejected, false);
     keepReference(name, written, isBound);

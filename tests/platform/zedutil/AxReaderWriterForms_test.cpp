@@ -103,7 +103,8 @@ constexpr char const* theItems[] = {"(mass 5)",
                                     "(engine (power) (foo))",
                                     "(engine (type x) (name y))",
                                     "(engine (power $heavy) stray)",
-
+                                    "(engine $part)",
+                                    "(engine ($part (power 1)))",
                                     "(engine (place 1 2))",
                                     "(spares (left (place 1 2 3)) (\"a b\" (power inf)) (left))",
                                     "(spares)",
@@ -150,7 +151,7 @@ constexpr char const* theItems[] = {"(mass 5)",
                                     "5",
                                     "\"text\"",
                                     "$ref",
-
+                                    "($ref 1)",
                                     "(sexp 5)",
                                     "(sexp \"<a/>\")"};
 
