@@ -90,7 +90,6 @@ private:
     static bool finishElement(AxRwList& list, AxListItem* item, int position, AxEnvironmentPtr const& env,
                               AxEnvObjectPtr const& node, AxFilenameList const& files, AxBindingsList const& bindings);
     static void keepInList(AxRwList& list, std::string const& xml, int position);
-    static void keepXml(AxReaderWriter& record, std::string const& text, std::string const& xml, AxSymbolString after);
 
     static void reportFailure(char const* code, AxEnvValue const* place, std::string const& text);
 };

@@ -37,6 +37,56 @@ AxEnvValuePtr scalarAttribute(AxEnvObject const& object, AxReaderWriter const& s
     }
     return found;
 }
+
+/// Puts the items that a record has kept into the order of the document, with those that only the tree has.
+class KeptOrder
+{
+public:
+    /// `kept` may be null.
+    explicit KeptOrder(std::vector<AxKeptItem>* kept) : myKept(kept) {}
+
+    bool isEmpty() const { return !myKept; }
+    /// The next one with that text, which is behind those taken before; null when it was not kept.
+    AxKeptItem* take(AxlObj const* item)
+    {
+        std::string const text = AxTreeCells::printed(item);
+        for (std::size_t i = 0; i < myKept->size(); ++i)
+        {
+            std::size_t const place = (myNext + i) % myKept->size();
+            if (AxKeptItem& kept = (*myKept)[place]; kept.text == text)
+            {
+                myOrdered.push_back(std::move(kept));
+                kept.text.clear();
+                myNext = place + 1;
+                return &myOrdered.back();
+            }
+        }
+        return nullptr;
+    }
+    void takeAs(std::string const& xml, AxlObj const* item, AxSymbolString after)
+    {
+        if (AxKeptItem* const kept = take(item))
+        {
+            kept->text = AxTreeCells::xmlItem(xml);
+            kept->after = after;
+        }
+    }
+    void add(std::string const& xml, AxSymbolString after) { myOrdered.push_back({after, AxTreeCells::xmlItem(xml)}); }
+    /// What was taken and added, no longer among those kept.
+    std::vector<AxKeptItem> end()
+    {
+        if (myKept)
+        {
+            std::erase_if(*myKept, [](AxKeptItem const& kept) { return kept.text.empty(); });
+        }
+        return std::move(myOrdered);
+    }
+
+private:
+    std::vector<AxKeptItem>* myKept;
+    std::vector<AxKeptItem> myOrdered;
+    std::size_t myNext = 0; ///< where to look first
+};
 } // namespace
 
 void AxTreeForm::reportFailure(char const* code, AxEnvValue const* place, std::string const& text)
@@ -170,6 +220,7 @@ void AxTreeForm::finishMember(AxReaderWriter& record, AxReaderWriter& member, Ax
 void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, AxEnvObjectPtr const& node,
                               AxFilenameList const& files, AxBindingsList const& bindings)
 {
+    KeptOrder order(rw.flag(AxReaderWriter::KeepsItems) ? &rw.rare().kept : nullptr);
     AxSymbolString last;
     for (AxEnvObject::Attribute const& attribute : node->attributes())
     {
@@ -177,51 +228,40 @@ void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, A
         {
             last = member->name();
         }
-        else if (!AxTreeCells::isOfForm(*node, attribute.name, &rw) && rw.flag(AxReaderWriter::KeepsItems))
+        else if (!order.isEmpty() && !AxTreeCells::isOfForm(*node, attribute.name, &rw))
         {
-            keepXml(rw, AxTreeCells::printed(AxTreeCells::attributeItem(*node, attribute, nullptr).get()),
-                    AxXmlFragment::ofAttribute(attribute), last);
+            AxlObjPtr const item = AxTreeCells::attributeItem(*node, attribute, nullptr);
+            order.takeAs(AxXmlFragment::ofAttribute(attribute), item.get(), last);
         }
     }
     for (AxEnvValuePtr const& child : node->children())
     {
         AxEnvObjectPtr const object = child->castToObject();
         bool const isText = object && object->type() == AxTreeCells::theTextTag;
-        if (AxReaderWriter* const member = object ? AxTreeCells::memberFor(&rw, *object) : nullptr)
+        AxReaderWriter* const member = object ? AxTreeCells::memberFor(&rw, *object) : nullptr;
+        last = member ? member->name() : last;
+        if (member && !isText)
         {
-            last = member->name();
-            if (!isText)
-            {
-                finishMember(rw, *member, env, object, files, bindings);
-            }
-            continue;
+            finishMember(rw, *member, env, object, files, bindings);
         }
-        if (AxTreeCells::hasItem(*child, *node, &rw))
+        else if (AxTreeCells::hasItem(*child, *node, &rw))
         {
-            if (!isText && rw.flag(AxReaderWriter::KeepsItems))
+            if (!order.isEmpty())
             {
                 AxlObjPtr const item = AxTreeCells::childItem(*child, *node, &rw);
-                keepXml(rw, AxTreeCells::printed(item.get()), AxXmlFragment::ofNode(*child), last);
+                isText ? void(order.take(item.get())) : order.takeAs(AxXmlFragment::ofNode(*child), item.get(), last);
             }
-            continue;
         }
-        if (object || !AxTreeCells::isBlank(child->value().string()))
+        else if (!member && (object || !AxTreeCells::isBlank(child->value().string())))
         {
             AxXmlFragment::reportUnknown(*child);
-            rw.keepItem(last, AxTreeCells::xmlItem(AxXmlFragment::ofNode(*child)));
+            order.add(AxXmlFragment::ofNode(*child), last);
         }
     }
-}
-
-void AxTreeForm::keepXml(AxReaderWriter& record, std::string const& text, std::string const& xml, AxSymbolString after)
-{
-    auto& kept = record.rare().kept;
-    auto const found = std::find_if(kept.begin(), kept.end(),
-                                    [&text](AxKeptItem const& item) { return !item.replaces && item.text == text; });
-    if (found != kept.end())
+    if (std::vector<AxKeptItem> ordered = order.end(); !ordered.empty())
     {
-        found->text = AxTreeCells::xmlItem(xml);
-        found->after = after;
+        std::ranges::move(ordered, std::back_inserter(rw.rare().kept));
+        rw.setFlag(AxReaderWriter::KeepsItems, true);
     }
 }
 
