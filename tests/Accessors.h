@@ -210,6 +210,8 @@ Copies copiesOf(AxReaderWriter const& object)
     {
         std::unique_ptr<Class> assigned = make<Class>();
         *assigned = source;
+        auto const& same = *assigned;
+        *assigned = same;
         all.push_back(std::move(assigned));
     }
     if constexpr (std::is_constructible_v<Class, Class const&, AxReaderWriterRegistry*>)

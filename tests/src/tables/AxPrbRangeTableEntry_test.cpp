@@ -55,6 +55,42 @@ TEST(AxPrbRangeTableEntry, SkipsWhatIsNoOutcomeAndWritesItBack)
     EXPECT_EQ(row.writtenText(), "(range-entry 100.0 (kill 0.5)\n  (hit \"x\")\n  (seen 0.1 0.2))\n");
 }
 
+TEST(AxPrbRangeTableEntry, RowsDifferInRangeNamesNumberAndOutcomes)
+{
+    static constexpr char const* theRows[] = {"(r 1 (hit 0.5))",          "(r 2 (hit 0.5))",  "(r nan (hit 0.5))",
+                                              "(r 1 (hit 0.6))",          "(r 1 (kill 0.5))", "(r 1)",
+                                              "(r 1 (hit 0.5) (kill 1))", "(r 1 (\"5\" 0.5))"};
+    for (char const* one : theRows)
+    {
+        for (char const* other : theRows)
+        {
+            AxPrbRangeTableEntry a;
+            AxPrbRangeTableEntry b;
+            EXPECT_TRUE(read(a, one) && read(b, other));
+            EXPECT_EQ(a == b, one == other) << one << ' ' << other;
+        }
+        AxPrbRangeTableEntry row;
+        read(row, one);
+        row.reset();
+        EXPECT_TRUE(row == AxPrbRangeTableEntry()) << one;
+    }
+}
+
+TEST(AxPrbRangeTableEntry, OutcomesMayBeVariablesButNotTheRange)
+{
+    AxSinkScope warnings(AxWarn);
+    AxPrbRangeTableEntry row;
+    read(row, "(range-entry 100.0 (hit $p) (kill ($q 0.25)))");
+    EXPECT_EQ(warnings.text(), "");
+    EXPECT_EQ(row.count(), 2);
+    EXPECT_EQ(row.probability("kill"), 0.25);
+    EXPECT_EQ(row.writtenText(), "(range-entry 100.0 (hit $p) (kill ($q 0.25)))\n");
+    AxPrbRangeTableEntry other;
+    read(other, "(range-entry near (hit 0.5))");
+    EXPECT_NE(warnings.text().find("a row expects its range, a number, first"), std::string::npos);
+    EXPECT_EQ(other.probability("hit"), 0.5);
+}
+
 TEST(AxPrbRangeTableEntry, AssignmentReplacesAndReusesOutcomes)
 {
     AxPrbRangeTableEntry from(1.0);
