@@ -43,6 +43,17 @@ AxEnvObjectPtr restOf(AxEnvObject const& part, bool reports)
                                                             : AxXmlFragment::restOf(part, nullptr, reports);
 }
 
+/// Whether a record that was read from the element writes nothing in its place: it holds nothing, or no type that can
+/// be read.
+bool isLeftOut(AxEnvObject const& part)
+{
+    AxObjectType type;
+    AxString const* const value = part.attribute("value");
+    bool const isUnreadable =
+        value && !AxTreeCells::isBlank(value->string()) && !AxObjectType::fromString(value->string(), type);
+    return isUnreadable || (part.count() == 0 && type.isNull() && !(part.type() == AxObjectElement::thePlatformTag));
+}
+
 bool isObject(AxEnvValue const& node)
 {
     return node.isObject() && static_cast<AxEnvObject const&>(node).type() == AxObjectElement::theTag;
@@ -202,7 +213,7 @@ AxEnvObjectPtr AxObjectElement::othersOf(AxEnvValuePtr const& element)
         }
         else if (part != theParts.end())
         {
-            others->add(restOf(*child, false));
+            others->add(isLeftOut(*child) ? AxXmlFragment::copyOf(*child) : restOf(*child, false));
         }
     }
     return isEmpty(*others) ? AxEnvObjectPtr() : others;
