@@ -23,7 +23,7 @@ public:
     AxComponentSystemDescriptor(AxComponentSystemDescriptor const& other, AxReaderWriterRegistry* registry = nullptr);
     ~AxComponentSystemDescriptor() override;
 
-    /// Takes definition file, definition and declared parameters, then every value.
+    /// Takes definition file, definition and the members made for declared parameters, then every value.
     AxComponentSystemDescriptor& operator=(AxComponentSystemDescriptor const& other);
     bool equals(AxComponentSystemDescriptor const& other) const { return AxReaderWriter::operator==(other); }
     bool operator==(AxComponentSystemDescriptor const& other) const { return equals(other); }
@@ -59,7 +59,6 @@ public:
 
 private:
     void attachDefinition();
-    void declareParametersOf(AxComponentSystemDefinition const& definition, bool reports);
     void bindReferencesInDefinition(AxBindingsList const& others);
 
     AxReaderWriterFileExtensible mySystemDefinitionFile{{"system-definition", "", "File that defines the system."},

@@ -5,6 +5,7 @@
 #include "axAddKeyed.h"
 
 #include <typeinfo>
+#include <unordered_set>
 
 /// An owning list of records, each name once: what the descriptor lists have in common. `T` offers
 /// `clone(AxReaderWriterRegistry*) const` and `operator==`.
@@ -101,12 +102,12 @@ protected:
         {
             return;
         }
-        bool const wasEmpty = isEmpty();
+        bool const isEachNew = isEmpty() && namesDiffer(other);
         for (T const* element : other)
         {
-            if (wasEmpty)
+            if (isEachNew)
             {
-                AxRwList::add(static_cast<T*>(element->clone(nullptr))); // their names differ already
+                AxRwList::add(static_cast<T*>(element->clone(nullptr)));
             }
             else
             {
@@ -122,6 +123,21 @@ protected:
     }
 
 private:
+    /// An element may have been renamed, or added as to any list.
+    static bool namesDiffer(AxDescriptorListTemplate const& list)
+    {
+        constexpr int shortList = 16;
+        std::unordered_set<AxSymbolString> names;
+        for (AxListItem const* item = list.first(); item; item = item->next())
+        {
+            AxSymbolString const name = element(item)->AxReaderWriter::name();
+            if (list.count() > shortList ? !names.insert(name).second : list.findItem(name, name.string()) != item)
+            {
+                return false;
+            }
+        }
+        return true;
+    }
     AxListItem* findItem(AxSymbolString symbol, AxString const& name) const
     {
         if (symbol.isNull() && !name.isNull())

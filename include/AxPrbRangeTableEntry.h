@@ -42,7 +42,8 @@ public:
         Refill(Refill const&) = delete;
         Refill& operator=(Refill const&) = delete;
         ~Refill();
-        void add(AxSymbolString name, double probability);
+        /// The outcome that holds it now; null, and a warning, when there is no memory for it.
+        AxRwReal* add(AxSymbolString name, double probability);
 
     private:
         AxPrbRangeTableEntry& myRow;

@@ -7,6 +7,7 @@
 #include "AxUnknownType.h"
 #include "AxlObj.h"
 
+#include <exception>
 #include <memory>
 #include <typeinfo>
 
@@ -111,7 +112,7 @@ public:
         AxlObj const* const head = item.get()->car();
         AxString const type(head->text());
         auto* const families = T::factory();
-        if (std::unique_ptr<T> element(families->create(type, type)); element)
+        if (std::unique_ptr<T> element(made(type)); element)
         {
             element->getSelf(item, files, bindings);
             AxRwList::addToEnd(element.release());
@@ -130,6 +131,18 @@ public:
     }
 
 private:
+    /// Null for an unknown type, and when its creator throws.
+    static T* made(AxString const& type)
+    {
+        try
+        {
+            return T::factory()->create(type, type);
+        }
+        catch (std::exception const&)
+        {
+            return nullptr;
+        }
+    }
     static constexpr AxTypeOps typeOps()
     {
         AxTypeOps ops = AxTypeOps::withCreator<AxRwMultiTypeListTemplate>();
@@ -138,7 +151,7 @@ private:
         {
             std::string_view const head = reader.peekHead();
             AxString const type(head);
-            std::unique_ptr<T> element(head.empty() ? nullptr : T::factory()->create(type, type));
+            std::unique_ptr<T> element(head.empty() ? nullptr : made(type));
             if (!element)
             {
                 return false;

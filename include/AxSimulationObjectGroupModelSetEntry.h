@@ -82,6 +82,7 @@ private:
     bool readContent(AxFilename const& file, Content& content) const;
     /// False for a child that belongs to the entry itself.
     bool readPart(AxEnvironmentPtr const& env, AxEnvValuePtr const& child, Content& content) const;
+    bool write(AxFilename const& file);
     void addCopy(AxSimulationObjectBaseState const& state);
     AxFilename foundFile() const;
 

@@ -9,7 +9,7 @@ class ZEDOBJPARAM_API AxSurfaceEntityPilotControllerDescriptor
                             "surface-entity-pilot-controller-descriptor">
 {
 public:
-    AxSurfaceEntityPilotControllerDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry);
+    using AxDescriptorOf::AxDescriptorOf;
     AxSurfaceEntityPilotControllerDescriptor(AxSurfaceEntityPilotControllerDescriptor const& other,
                                              AxReaderWriterRegistry* registry)
         : AxSurfaceEntityPilotControllerDescriptor(other.AxReaderWriter::name(), registry)

@@ -27,6 +27,10 @@ if(PKG_CONFIG)
     endif()
     get_filename_component(folder "${description}" DIRECTORY)
     run("${CMAKE_COMMAND}" -E env "PKG_CONFIG_PATH=${folder}" "${PKG_CONFIG}" --exists --print-errors zedobjparam)
+    execute_process(COMMAND "${CMAKE_COMMAND}" -E env "PKG_CONFIG_PATH=${folder}" "${PKG_CONFIG}" --cflags --libs zedobjparam
+                    OUTPUT_VARIABLE flags COMMAND_ERROR_IS_FATAL ANY)
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    run("${COMPILER}" -std=c++20 "${SOURCE}/examples/host/main.cpp" ${flags} -o "${host}/found-by-pkg-config")
 endif()
 
 # Every symbol that the library shows is its own.

@@ -272,6 +272,10 @@ AxDefaultComponentDescriptorFactory* AxDefaultComponentDescriptorFactory::create
 
 void AxDefaultComponentDescriptorFactory::registerCreators(AxComponentDescriptorFactory* factory)
 {
+    if (factory == nullptr)
+    {
+        return;
+    }
     for (Registration const& row : theRegistrations)
     {
         factory->addCreatorFcn(row.type, row.creator);

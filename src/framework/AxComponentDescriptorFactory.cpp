@@ -4,7 +4,6 @@
 #include "AxTypeItem.h"
 #include "AxUnknownType.h"
 
-#include <unordered_set>
 #include <vector>
 
 namespace
@@ -47,17 +46,17 @@ void AxComponentDescriptorFactory::addEntriesOf(AxComponentDescriptorFactory con
 
 void AxComponentDescriptorFactory::deleteEntries()
 {
-    // An entry's type may have been changed since it was added, so that it tells nothing of its key.
-    std::unordered_set<AxComponentDescriptorFactoryEntry const*> entries;
-    for (AxListItem const* item = first(); item; item = item->next())
+    // One entry may stand under several keys. Needs no memory, because destructors come here.
+    for (AxListItem* item = first(); item; item = item->next())
     {
-        entries.insert(entryOf(item));
-    }
-    AxHashlist::clear();
-    for (AxComponentDescriptorFactoryEntry const* entry : entries)
-    {
+        auto* const entry = static_cast<AxComponentDescriptorFactoryEntry*>(item->data());
+        for (AxListItem* later = item->next(); later; later = later->next())
+        {
+            later->setData(later->data() == entry ? nullptr : later->data());
+        }
         delete entry;
     }
+    AxHashlist::clear();
 }
 
 void AxComponentDescriptorFactory::addCreatorFcn(AxString const& type, AxComponentDescriptor::CreatorFcn creator)

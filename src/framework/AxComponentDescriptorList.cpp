@@ -1,6 +1,7 @@
 #include "AxComponentDescriptorList.h"
 
 #include "AxComponentDescriptorFactory.h"
+#include "AxComponentDescriptorFactoryEntry.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxTextReader.h"
@@ -24,7 +25,9 @@ struct AxComponentDescriptorList::Entry : AxTypeEntry<AxComponentDescriptorList>
     {
         AxComponentDescriptorFactory* const factory = AxComponentDescriptor::factory();
         AxStringHashKey const type{AxString(reader.peekType())};
-        if (type.string().isNull() || !factory || !factory->lookup(type))
+        auto const* const entry = static_cast<AxComponentDescriptorFactoryEntry const*>(
+            factory && !type.string().isNull() ? factory->lookup(type) : nullptr);
+        if (!entry || !entry->creatorFcn())
         {
             return false;
         }

@@ -62,6 +62,10 @@ AxDefaultParameterFactory* AxDefaultParameterFactory::create()
 
 void AxDefaultParameterFactory::registerCreators(AxZedObjectParameterFactory* factory)
 {
+    if (factory == nullptr)
+    {
+        return;
+    }
     for (Row const& row : theRows)
     {
         factory->addCreatorFcn(row.name, row.creator);

@@ -4,7 +4,6 @@
 #include "AxUnknownType.h"
 #include "AxZedObjectParameterFactoryEntry.h"
 
-#include <unordered_set>
 #include <vector>
 
 namespace
@@ -50,17 +49,17 @@ void AxZedObjectParameterFactory::addEntriesOf(AxZedObjectParameterFactory const
 
 void AxZedObjectParameterFactory::deleteEntries()
 {
-    // An entry's type may have been changed since it was added, so that it tells nothing of its key.
-    std::unordered_set<AxZedObjectParameterFactoryEntry const*> entries;
-    for (AxListItem const* item = first(); item; item = item->next())
+    // One entry may stand under several keys. Needs no memory, because destructors come here.
+    for (AxListItem* item = first(); item; item = item->next())
     {
-        entries.insert(entryOf(item));
-    }
-    AxHashlist::clear();
-    for (AxZedObjectParameterFactoryEntry const* entry : entries)
-    {
+        auto* const entry = static_cast<AxZedObjectParameterFactoryEntry*>(item->data());
+        for (AxListItem* later = item->next(); later; later = later->next())
+        {
+            later->setData(later->data() == entry ? nullptr : later->data());
+        }
         delete entry;
     }
+    AxHashlist::clear();
 }
 
 void AxZedObjectParameterFactory::addCreatorFcn(AxString const& name, AxZedObjectParameters::CreatorFcn creator)

@@ -4,6 +4,22 @@
 
 namespace
 {
+/// A variable belongs to the record that names it: another record takes the value. Elements of lists keep theirs, since
+/// an inherited list is never written.
+void dropReferences(AxReaderWriter& rw)
+{
+    rw.setIsVariableReference(false);
+    AxReaderWriterRegistry const* const members = rw.registryIfAny();
+    for (std::size_t i = 0; members && i < members->size(); ++i)
+    {
+        AxRegistryEntry const entry = members->entry(i);
+        if (!entry.content)
+        {
+            dropReferences(*entry.member);
+        }
+    }
+}
+
 /// A value that is taken, or left, whole.
 void inheritWhole(AxReaderWriter& mine, AxReaderWriter const& theirs, bool takesDefaults)
 {
@@ -18,6 +34,7 @@ void inheritWhole(AxReaderWriter& mine, AxReaderWriter const& theirs, bool takes
     }
     if (AxReaderWriter::factory()->copyReaderWriter(&theirs, &mine))
     {
+        dropReferences(mine);
         mine.setValueSpecified(false, false);
         mine.dropKeptItems();
         mine.setInherited(true);

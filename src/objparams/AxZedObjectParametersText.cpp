@@ -229,6 +229,7 @@ bool AxZedObjectParameters::createStateRepositoryUserExtension(AxlObjPtr const& 
     AxString const& type = stateRepositoryUserExtensionType();
     AxZedStateRepositoryUserExtensionFactory const* const extensions = AxZedStateRepositoryUserExtension::factory();
     std::string cause;
+    std::string reason;
     std::unique_ptr<AxZedStateRepositoryUserExtension> made;
     if (type.isNull())
     {
@@ -240,7 +241,14 @@ bool AxZedObjectParameters::createStateRepositoryUserExtension(AxlObjPtr const& 
     }
     else
     {
-        made.reset(extensions->create(type));
+        try
+        {
+            made.reset(extensions->create(type));
+        }
+        catch (std::exception const& error)
+        {
+            reason = std::string(": ") + error.what();
+        }
         if (!made)
         {
             bool const isKnown =
@@ -251,7 +259,7 @@ bool AxZedObjectParameters::createStateRepositoryUserExtension(AxlObjPtr const& 
     }
     if (!made)
     {
-        AxDiagnostic failure = located(item.get(), "user-extension", cause);
+        AxDiagnostic failure = located(item.get(), "user-extension", cause + reason);
         failure.path = AxReaderWriter::name().string().string();
         AxDiagnostics::reportStated(
             std::move(failure),
@@ -266,7 +274,9 @@ bool AxZedObjectParameters::createStateRepositoryUserExtension(AxlObjPtr const& 
     setStateRepositoryUserExtension(extension);
     if (!item.nil())
     {
-        extension->getSelf(item, files, bindings);
+        AxBindingsList known = myVariableBindings;
+        known.insert(known.end(), bindings.begin(), bindings.end());
+        extension->getSelf(item, files, known);
     }
     return true;
 }

@@ -261,7 +261,16 @@ void AxModelSet::adopt(std::unique_ptr<AxModelSetEntry> entry)
     bool const isGroup = dynamic_cast<AxSimulationObjectGroupModelSetEntry*>(entry.get()) != nullptr;
     if (type.isNull() && !isGroup && find(type))
     {
-        AxRwList::addToEnd(entry.release());
+        if (entry->uniqueId().isNull())
+        {
+            entry->setUniqueId(unusedID(createUniqueID(*entry)));
+        }
+        if (myLoading)
+        {
+            myLoading->add(entry->uniqueId());
+        }
+        addToEnd(entry.get());
+        addCategoriesFrom(*entry.release());
     }
     else
     {

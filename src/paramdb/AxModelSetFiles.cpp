@@ -243,8 +243,12 @@ bool AxModelSet::loadFromDataFiles(AxFilename const& directory)
 
 bool AxModelSet::loadEntityFiles(AxFilename const& directory)
 {
-    std::vector<AxFilename> files;
-    return filesIn(directory, ".entity", files) && addEntities(files);
+    return axGuarded("read-failed", directory, false,
+                     [&]() -> decltype(false)
+                     {
+                         std::vector<AxFilename> files;
+                         return filesIn(directory, ".entity", files) && addEntities(files);
+                     });
 }
 
 bool AxModelSet::addEntities(std::vector<AxFilename> const& files)
@@ -285,8 +289,12 @@ bool AxModelSet::addEntitiesOf(AxFilename const& file)
 
 bool AxModelSet::loadSimulationObjectGroupFiles(AxFilename const& directory)
 {
-    std::vector<AxFilename> files;
-    return filesIn(directory, ".sog", files) && addGroups(files);
+    return axGuarded("read-failed", directory, false,
+                     [&]() -> decltype(false)
+                     {
+                         std::vector<AxFilename> files;
+                         return filesIn(directory, ".sog", files) && addGroups(files);
+                     });
 }
 
 bool AxModelSet::addGroups(std::vector<AxFilename> const& files)

@@ -4,8 +4,8 @@
 #include "AxReaderWriterFile.h"
 #include "AxRwVariableBindings.h"
 
-#include <boost/filesystem/operations.hpp>
 #include <cstdarg>
+#include <filesystem>
 #include <sys/stat.h>
 
 AxFilePtr axOpenToRead(AxFilename const& file)
@@ -16,9 +16,8 @@ AxFilePtr axOpenToRead(AxFilename const& file)
 
 AxFilename axDirectoryOf(AxFilename const& file)
 {
-    boost::system::error_code ignored;
-    std::string directory =
-        boost::filesystem::absolute(boost::filesystem::path(file.native()).parent_path(), ignored).string();
+    std::error_code ignored;
+    std::string directory = std::filesystem::absolute(file.native(), ignored).parent_path().string();
     while (!directory.empty() && AxFilename::isSeparator(directory.back()))
     {
         directory.pop_back();
@@ -28,7 +27,7 @@ AxFilename axDirectoryOf(AxFilename const& file)
 
 AxFilename axPlaceBelow(AxFilename const& directory, AxFilename const& file)
 {
-    using boost::filesystem::path;
+    using std::filesystem::path;
     path const place =
         path(file.native()).lexically_normal().lexically_relative(path(directory.native()).lexically_normal());
     return place.empty() || *place.begin() == ".." ? AxFilename() : AxFilename(place.string());

@@ -7,10 +7,10 @@
 
 #include <algorithm>
 #include <boost/algorithm/string/case_conv.hpp>
-#include <boost/filesystem/operations.hpp>
 #include <cstring>
+#include <filesystem>
 
-namespace fs = boost::filesystem;
+namespace fs = std::filesystem; // Boost's create_directories ends the process when memory runs out
 
 namespace
 {
@@ -44,7 +44,7 @@ AxRunningSave::~AxRunningSave()
     if (!myMadeDirectory.isNull())
     {
         // Stays when it holds anything.
-        boost::system::error_code ignored;
+        std::error_code ignored;
         fs::remove(myMadeDirectory.native(), ignored);
     }
 }
@@ -56,7 +56,7 @@ AxRunningSave* AxRunningSave::current()
 
 void AxRunningSave::startDirectory(AxFilename const& directory)
 {
-    boost::system::error_code error;
+    std::error_code error;
     bool const isNew = fs::create_directories(directory.native(), error);
     AxInfo("Creating parameter file directory %s\n", directory.native().c_str());
     if (error)

@@ -7,9 +7,9 @@
 #include "AxZedObjectParameters.h"
 
 #include <algorithm>
-#include <boost/filesystem/operations.hpp>
+#include <filesystem>
 
-namespace fs = boost::filesystem;
+namespace fs = std::filesystem; // Boost's comparison of paths ends the process when memory runs out
 
 namespace
 {
@@ -43,7 +43,7 @@ void collect(AxReaderWriter& rw, std::vector<AxReaderWriterFile*>& files)
 
 fs::path canonical(AxFilename const& file)
 {
-    boost::system::error_code ignored;
+    std::error_code ignored;
     return fs::weakly_canonical(fs::absolute(file.native(), ignored), ignored);
 }
 

@@ -1,5 +1,6 @@
 #include "AxEnvXMLReader.h"
 #include "AxEnvXMLWriter.h"
+#include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
 #include "AxSimulationObjectAggregateState.h"
 #include "AxSimulationObjectEntityState.h"
@@ -135,17 +136,22 @@ bool AxSimulationObjectGroupModelSetEntry::readPart(AxEnvironmentPtr const& env,
 
 bool AxSimulationObjectGroupModelSetEntry::load(AxFilename const& file)
 {
-    Content content;
-    if (!readContent(file, content))
-    {
-        return false;
-    }
-    AxSourceScope const scope(file);
-    AxRecordOf::getSelf(nullptr, content.entry, nullFilenames(), nullVariableReference());
-    content.entry.reset();
-    myContent = std::move(content);
-    setFilename(file);
-    return true;
+    return axGuarded("read-failed", file, false,
+                     [&]
+                     {
+                         Content content;
+                         if (!readContent(file, content))
+                         {
+                             return false;
+                         }
+                         AxSourceScope const scope(file);
+                         AxRecordOf::getSelf(nullptr, content.entry, nullFilenames(), nullVariableReference());
+                         content.entry.reset();
+                         myContent = std::move(content);
+                         myDirectories.clear();
+                         setFilename(file);
+                         return true;
+                     });
 }
 
 bool AxSimulationObjectGroupModelSetEntry::readAllSimulationObject()
@@ -175,16 +181,27 @@ AxFilename AxSimulationObjectGroupModelSetEntry::foundFile() const
 
 bool AxSimulationObjectGroupModelSetEntry::save()
 {
-    AxFilename const name = filename();
-    bool const isSaved = save(foundFile());
-    if (isSaved)
-    {
-        setFilename(name); // as the set tells it, so that both can be moved together
-    }
-    return isSaved;
+    // Name and directories stay as the set tells them, so that both can be moved together.
+    return write(foundFile());
 }
 
 bool AxSimulationObjectGroupModelSetEntry::save(AxFilename const& file)
+{
+    return axGuarded("write-failed", file, false,
+                     [&]
+                     {
+                         if (!write(file))
+                         {
+                             return false;
+                         }
+                         AxFilename const name = file; // it may be of the directories
+                         myDirectories.clear();
+                         setFilename(name);
+                         return true;
+                     });
+}
+
+bool AxSimulationObjectGroupModelSetEntry::write(AxFilename const& file)
 {
     if (file.isNull())
     {
@@ -195,7 +212,11 @@ bool AxSimulationObjectGroupModelSetEntry::save(AxFilename const& file)
     {
         auto const env = boost::make_shared<AxEnvironment>();
         putSelf(env, nullptr);
-        AxEnvObjectPtr const root = env->root()->castToObject();
+        AxEnvObjectPtr const root = env->root() ? env->root()->castToObject() : AxEnvObjectPtr();
+        if (!root)
+        {
+            return false; // what failed was told
+        }
         bool const hasOwnName = !AxReaderWriter::name().isNull() && !(AxReaderWriter::name() == theElementWord());
         hasOwnName ? root->setName(AxReaderWriter::name().string()) : root->clearName();
         root->removeAttribute("filename");
@@ -211,12 +232,7 @@ bool AxSimulationObjectGroupModelSetEntry::save(AxFilename const& file)
         {
             env->epilogue()->add(node);
         }
-        if (!AxEnvXMLWriter().writeFile(env, file))
-        {
-            return false;
-        }
-        setFilename(file);
-        return true;
+        return AxEnvXMLWriter().writeFile(env, file);
     }
     catch (std::exception const& error)
     {

@@ -2,6 +2,7 @@
 
 #include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
+#include "AxReadWholeFile.h"
 #include "AxReaderWriterFile.h"
 #include "AxRecursiveReaderWriterIterator.h"
 #include "AxRemoteConfigurationList.h"
@@ -13,7 +14,9 @@
 #include "AxSxpParameterDbWriter.h"
 #include "AxZedObjectParameters.h"
 
+#include <algorithm>
 #include <boost/filesystem/operations.hpp>
+#include <filesystem>
 
 namespace fs = boost::filesystem;
 
@@ -22,6 +25,16 @@ namespace
 constexpr int theCurrentVersion = 101;
 /// Databases of this version name table files relative to the application.
 constexpr int theApplicationRelativeVersion = 100;
+
+/// Replaces `to` whole; a file that is copied onto itself stays.
+bool copyFile(fs::path const& from, fs::path const& to)
+{
+    boost::system::error_code ignored;
+    std::string text;
+    int error = 0;
+    return fs::equivalent(from, to, ignored) || (axReadWholeFile(AxFilename(from.string()), text, error) &&
+                                                 AxReaderWriterFile::writeWholeFile(AxFilename(to.string()), text));
+}
 
 /// Copies the regular files below `from` into `to`, making directories for those that hold some.
 bool copyTree(fs::path const& from, fs::path const& to)
@@ -40,9 +53,9 @@ bool copyTree(fs::path const& from, fs::path const& to)
             continue;
         }
         fs::path const target = to / fs::relative(walk->path(), from, error);
-        fs::create_directories(target.parent_path(), error);
-        fs::copy_file(walk->path(), target, fs::copy_option::overwrite_if_exists, error);
-        isComplete = isComplete && !error;
+        std::error_code fault; // Boost's function ends the process when memory runs out
+        std::filesystem::create_directories(target.parent_path().native(), fault);
+        isComplete = copyFile(walk->path(), target) && isComplete && !error && !fault;
     }
     return isComplete && !error;
 }
@@ -180,16 +193,29 @@ AxZedObjectParameters* AxSxpParameterDb::getParameters(AxSxpParameterDbEntry* en
     {
         return held;
     }
-    AxZedObjectParameters* const record = entry->load();
+    AxZedObjectParameters* const none = nullptr;
+    AxZedObjectParameters* const record =
+        axGuarded("read-failed", entry->filename(), none, [&] { return entry->load(); });
     if (record)
     {
         record->setMatchType(entry->objectType());
         record->setObjectType(entry->objectType());
-        if (myVersionNumber == theApplicationRelativeVersion)
-        {
-            // A look-up does not change the database; that it is const does not bind derived classes.
-            const_cast<AxSxpParameterDb*>(this)->updateReaderWriterFilePaths(*record);
-        }
+    }
+    bool const isUsable = !record || myVersionNumber != theApplicationRelativeVersion ||
+                          axGuarded("read-failed", entry->filename(), false,
+                                    [&]
+                                    {
+                                        // A look-up does not change the database; that it is const does not bind
+                                        // derived classes.
+                                        const_cast<AxSxpParameterDb*>(this)->updateReaderWriterFilePaths(*record);
+                                        return true;
+                                    });
+    if (!isUsable)
+    {
+        // With some of its names as they were it must not stay.
+        entry->setParameters(nullptr);
+        delete record;
+        return nullptr;
     }
     return record;
 }
@@ -244,22 +270,25 @@ bool AxSxpParameterDb::save(AxFilename const& file)
         AxWarn("AxZedParameterDb::save() - Can't save %s.  Parameter DB writer is NULL\n", file.c_str());
         return false;
     }
-    AxFilename const base = stripExtension(file.stripPath(), opdFilenameExtension());
-    bool const isInRoot = getPath(file).isNull() && !(base == file) && !(file.stripPath() == file);
-    bool isWritten = false;
-    if (base == file.stripPath() || base.isNull())
+    auto const write = [&]
     {
-        AxDiagnostics::report(axFault("bad-name", file, "expected a name that ends in \".opd\", with more before it"));
-    }
-    else if (isInRoot)
-    {
-        AxDiagnostics::report(axFault("bad-name", file, "a database cannot be saved directly in the root directory"));
-    }
-    else
-    {
-        isWritten = axGuarded("save-failed", file, false,
-                              [&] { return myWriter->write(this, file, AxFilename(".\\" + base.string().string())); });
-    }
+        AxFilename const base = stripExtension(file.stripPath(), opdFilenameExtension());
+        bool const isInRoot = getPath(file).isNull() && !(base == file) && !(file.stripPath() == file);
+        if (base == file.stripPath() || base.isNull())
+        {
+            AxDiagnostics::report(
+                axFault("bad-name", file, "expected a name that ends in \".opd\", with more before it"));
+            return false;
+        }
+        if (isInRoot)
+        {
+            AxDiagnostics::report(
+                axFault("bad-name", file, "a database cannot be saved directly in the root directory"));
+            return false;
+        }
+        return myWriter->write(this, file, AxFilename(".\\" + base.string().string()));
+    };
+    bool const isWritten = axGuarded("save-failed", file, false, write);
     if (!isWritten)
     {
         AxWarn << "Error writing parameter database file " << file << AxEndl;
@@ -427,16 +456,25 @@ void AxSxpParameterDb::keepUnreadItems(AxSxpParameterDbFileData const& data)
     {
         myUnreadItems = std::make_unique<AxSxpParameterDbFileData>();
     }
-    for (auto const& [after, text] : data.keptItems())
+    // A file that is loaded again brings the same ones.
+    auto const isKnown = [](auto const& former, auto const& one)
+    { return std::find(former.begin(), former.end(), one) != former.end(); };
+    auto const formerItems = myUnreadItems->keptItems();
+    auto const formerElements = myUnreadItems->entryList().unreadElements();
+    for (auto const& item : data.keptItems())
     {
+        auto const& [after, text] = item;
         // A save gives the version a value that can be read.
-        if (!text.starts_with("(version "))
+        if (!text.starts_with("(version ") && !isKnown(formerItems, item))
         {
             myUnreadItems->keepItem(after, text);
         }
     }
     for (std::string const& text : data.entryList().unreadElements())
     {
-        myUnreadItems->entryList().keepUnread(text);
+        if (!isKnown(formerElements, text))
+        {
+            myUnreadItems->entryList().keepUnread(text);
+        }
     }
 }

@@ -478,6 +478,9 @@ AxZedObjectParameters* AxSxpParameterDbEntry::hold(AxZedObjectParameters* record
                      heldType.c_str()));
         return nullptr;
     }
+    // The types are those of the entry or of a caller; no file gives them.
+    fresh->setObjectType(held->objectType());
+    fresh->setMatchType(held->matchType());
     AxReaderWriter::factory()->copyReaderWriter(fresh.get(), held);
     held->setInvalid(fresh->invalid());
     return held;

@@ -14,11 +14,11 @@
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
 
-#include <boost/filesystem/operations.hpp>
 #include <cstring>
+#include <filesystem>
 #include <memory>
 
-namespace fs = boost::filesystem;
+namespace fs = std::filesystem;
 
 namespace
 {
@@ -48,7 +48,7 @@ bool copyFile(AxFilename const& from, AxFilename const& to, AxFileTransaction& f
 {
     std::string text;
     int error = 0;
-    boost::system::error_code ignored;
+    std::error_code ignored;
     if (AxFilename const directory = to.directory(); !directory.isNull())
     {
         fs::create_directories(directory.native(), ignored);
@@ -68,7 +68,7 @@ void copyDependentFiles(AxSxpParameterDb::CopyPairs const& pairs, AxFileTransact
         AxFilename const from(fromText);
         AxFilename const to(toText);
         AxInfo << "From: " << from << " To: " << to << AxEndl;
-        boost::system::error_code error;
+        std::error_code error;
         if (!fs::equivalent(from.native(), to.native(), error) && !copyFile(from, to, files))
         {
             AxWarn << "Error copying " << from << " to " << to << AxEndl;
@@ -236,6 +236,11 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
     if (db->remoteConfigurationList() && db->remoteConfigurationListCreatorFcn())
     {
         configurations.reset(db->remoteConfigurationListCreatorFcn()("remote-configurations", data->registry()));
+        if (!configurations)
+        {
+            AxDiagnostics::report(axFault("save-failed", file, "the remote configurations cannot be written"));
+            return false;
+        }
         *configurations = *db->remoteConfigurationList();
         for (AxRemoteConfiguration* configuration : *configurations)
         {

@@ -95,6 +95,10 @@ void AxZedObjectParametersList::addParameters(AxZedObjectParameters* record)
     AxObjectType const type = record->objectType();
     forgetUnknownTypes();
     AxListItem const* const best = lookupParameters(type);
+    if (best && recordOf(best) == record)
+    {
+        return; // it is here already
+    }
     if (best && recordOf(best)->objectType() == type)
     {
         removeParameters(type);

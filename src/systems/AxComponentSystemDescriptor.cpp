@@ -63,7 +63,15 @@ AxComponentSystemDescriptor& AxComponentSystemDescriptor::operator=(AxComponentS
 {
     if (this != &other)
     {
-        declareParametersOf(*other.myDefinition, false);
+        // What the other's definition declares may have changed since its members were made.
+        for (std::size_t i = 0; i < other.registryIfAny()->size(); ++i)
+        {
+            AxRegistryEntry const entry = other.registryIfAny()->entry(i);
+            if (!entry.content && !registry()->lookup(entry.keyword))
+            {
+                registry()->createMember(entry.member->readerWriterType(), entry.keyword);
+            }
+        }
         assign(other);
     }
     return *this;
@@ -101,12 +109,7 @@ void AxComponentSystemDescriptor::setPartOfRollUp(bool part)
 
 void AxComponentSystemDescriptor::addVariableBindingsFromMetaData()
 {
-    declareParametersOf(*myDefinition, true);
-}
-
-void AxComponentSystemDescriptor::declareParametersOf(AxComponentSystemDefinition const& definition, bool reports)
-{
-    for (AxSystemParameterData const* parameter : definition.metaData().paramterDataList())
+    for (AxSystemParameterData const* parameter : myDefinition->metaData().paramterDataList())
     {
         AxSymbolString const keyword(parameter->parameterName());
         AxString const& type = parameter->variableType();
@@ -120,7 +123,7 @@ void AxComponentSystemDescriptor::declareParametersOf(AxComponentSystemDefinitio
         {
             parameter->assignDefaultValueToReaderWriter(made);
         }
-        else if (reports && (!present || !(type == present->readerWriterType())))
+        else if (!present || !(type == present->readerWriterType()))
         {
             std::string text = "parameter \"" + keyword.string().string() + "\" of the system \"" +
                                AxReaderWriter::name().string().string() + "\" ";

@@ -7,6 +7,7 @@
 #include "axTryNew.h"
 
 #include <memory>
+#include <unordered_set>
 
 static AxTypeEntry<AxConnectionDescriptorList> const connectionDescriptorListEntry;
 
@@ -84,10 +85,8 @@ bool AxConnectionDescriptorList::removeAllConnectionsTo(AxString const& destinat
 
 void AxConnectionDescriptorList::removeConnections(std::list<AxConnectionDescriptor*> const& connections)
 {
-    for (AxConnectionDescriptor* connection : connections)
-    {
-        removeConnection(connection);
-    }
+    std::unordered_set<AxConnectionDescriptor const*> const removed(connections.begin(), connections.end());
+    removeIf([&removed](AxConnectionDescriptor const& candidate) { return removed.contains(&candidate); });
 }
 
 bool AxConnectionDescriptorList::hasSystemOutput(AxString const& name) const

@@ -1,6 +1,7 @@
 #include "AxPrbCoefficientList.h"
 
 #include "AxFaultAt.h"
+#include "AxIsReference.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxlObj.h"
@@ -42,7 +43,7 @@ AxlObjPtr AxPrbCoefficientList::getData(AxlObjPtr const& item, AxFilenameList co
                                         AxBindingsList const& bindings)
 {
     AxlObj const* bad = item->cdr();
-    bool const isReference = bad->car()->isReference() || bad->car()->hasEmbeddedReference() || bad->car()->isPair();
+    bool const isReference = axIsReference(bad);
     while (bad->car()->isNumber())
     {
         bad = bad->cdr();

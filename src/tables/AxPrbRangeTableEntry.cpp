@@ -1,6 +1,7 @@
 #include "AxPrbRangeTableEntry.h"
 
 #include "AxFaultAt.h"
+#include "AxIsReference.h"
 #include "AxNumberText.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
@@ -27,7 +28,7 @@ AxPrbRangeTableEntry::Refill::~Refill()
     myRow.valueAssigned();
 }
 
-void AxPrbRangeTableEntry::Refill::add(AxSymbolString name, double probability)
+AxRwReal* AxPrbRangeTableEntry::Refill::add(AxSymbolString name, double probability)
 {
     if (!myNext && !myRow.mySpares.isEmpty())
     {
@@ -36,16 +37,17 @@ void AxPrbRangeTableEntry::Refill::add(AxSymbolString name, double probability)
     }
     if (!myNext)
     {
-        if (auto* const outcome = axTryNew<AxRwReal>(name, nullptr))
+        auto* const made = axTryNew<AxRwReal>(name, nullptr);
+        if (made)
         {
-            *outcome = probability;
-            static_cast<AxList&>(myRow).add(static_cast<AxReaderWriter*>(outcome));
+            *made = probability;
+            static_cast<AxList&>(myRow).add(static_cast<AxReaderWriter*>(made));
         }
         else
         {
             AxWarn("Memory allocation failed in AxPrbRangeTableEntry::copyList\n");
         }
-        return;
+        return made;
     }
     auto* const outcome = static_cast<AxRwReal*>(element(myNext));
     if (outcome->AxReaderWriter::name() != name)
@@ -54,6 +56,7 @@ void AxPrbRangeTableEntry::Refill::add(AxSymbolString name, double probability)
     }
     *outcome = probability;
     myNext = myNext->next();
+    return outcome;
 }
 
 AxPrbRangeTableEntry::AxPrbRangeTableEntry() : AxPrbRangeTableEntry(elementWord(), nullptr) {}
@@ -107,7 +110,11 @@ AxPrbRangeTableEntry& AxPrbRangeTableEntry::operator=(AxPrbRangeTableEntry const
             Refill refill(*this, other.myRange);
             for (AxRwReal const* outcome : other)
             {
-                refill.add(outcome->AxReaderWriter::name(), outcome->value());
+                AxRwReal* const copy = refill.add(outcome->AxReaderWriter::name(), outcome->value());
+                if (copy && outcome->isVariableReference())
+                {
+                    *copy = *outcome; // the value alone would end the reference
+                }
             }
         }
         carryState(other);
@@ -183,7 +190,7 @@ AxlObjPtr AxPrbRangeTableEntry::getData(AxlObjPtr const& item, AxFilenameList co
     AxlObj const* const head = item->car();
     AxlObj const* const value = item->cdr()->car();
     bool const isNamed = head->isSymbol() || head->isString();
-    bool const isReference = value->isReference() || value->hasEmbeddedReference() || value->isPair();
+    bool const isReference = axIsReference(item->cdr());
     if (!isNamed || !item->cdr()->cdr()->nil() || (!value->isNumber() && !isReference))
     {
         AxDiagnostics::report(axFaultAt(AxSeverity::Warning, "wrong-kind", item.get(),

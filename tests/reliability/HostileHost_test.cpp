@@ -66,6 +66,10 @@ TEST_F(HostileHost, CreatorsThatThrowLeaveTheRecordOut)
     AxZedObjectParameters::setFactory(&factory);
     EXPECT_TRUE(db.lookup(tank));
     EXPECT_EQ(thrown, 2);
+    EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
+    db.setRemoteConfigurationListCreatorFcn([](AxString const&, AxReaderWriterRegistry*) -> AxRemoteConfigurationList*
+                                            { return nullptr; });
+    EXPECT_FALSE(db.save(AxFilename(path("new.opd"))));
     db.setRemoteConfigurationListCreatorFcn([](AxString const&, AxReaderWriterRegistry*) -> AxRemoteConfigurationList*
                                             { throw std::bad_alloc(); });
     EXPECT_FALSE(db.load(AxFilename(path("force.opd"))));
@@ -105,6 +109,8 @@ TEST_F(HostileHost, NullsHaveADefinedResult)
     EXPECT_FALSE(db.save(AxFilename(path("x.opd"))));
     EXPECT_EQ(AxZedObjectParameters::createParameters(static_cast<char const*>(nullptr)), nullptr);
     EXPECT_EQ(AxComponentDescriptor::createComponentDescriptor(static_cast<char const*>(nullptr)), nullptr);
+    AxDefaultParameterFactory::registerCreators(nullptr);
+    AxDefaultComponentDescriptorFactory::registerCreators(nullptr);
     AxModelSet models("model-set", nullptr);
     EXPECT_EQ(models.addModel(nullptr, false), nullptr);
     AxRangeProbabilityTable table;

@@ -7,6 +7,7 @@
 #include "AxRwUnsigned.h"
 #include "src/objparams/RecordFixture.h"
 
+#include <cmath>
 #include <limits>
 
 namespace
@@ -30,6 +31,32 @@ std::vector<Hostile> hostileValues()
             {Real::max(), 0x7FFF, 2, "$(no-such-variable) $(unclosed $$"},
             {Real::denorm_min(), -0x8000, 3, "\x01\x7F \xFF\xFE not UTF-8 \xC3"},
             {-0.0, 0, 4, " \t "}};
+}
+
+bool isSame(double one, double other)
+{
+    return std::isnan(one) ? std::isnan(other) : one == other && std::signbit(one) == std::signbit(other);
+}
+
+/// Keywords of the members that do not hold the value.
+std::string othersThan(Hostile const& hostile, AxReaderWriter& record)
+{
+    std::string others;
+    AxRecursiveReaderWriterIterator walk(*record.registry());
+    for (AxReaderWriter* rw = walk.first(); rw; rw = walk.next())
+    {
+        auto const* const real = dynamic_cast<AxRwReal*>(rw);
+        auto const* const whole = dynamic_cast<AxRwInt*>(rw);
+        auto const* const unsign = dynamic_cast<AxRwUnsigned*>(rw);
+        auto const* const text = dynamic_cast<AxRwString*>(rw);
+        bool const holds = real     ? isSame(real->value(), hostile.real)
+                           : whole  ? whole->value() == hostile.whole
+                           : unsign ? unsign->value() == hostile.count
+                           : text   ? text->value().string() == hostile.text
+                                    : true;
+        others += holds ? "" : std::string(rw->name().c_str()) + ' ';
+    }
+    return others;
 }
 
 /// How many members took a value.
@@ -92,6 +119,10 @@ protected:
                 copy.reset(one->clone(nullptr));
             }
             EXPECT_TRUE(copy && copy->writtenText(true) == text);
+            for (AxReaderWriter* const holder : {static_cast<AxReaderWriter*>(other.get()), copy.get()})
+            {
+                EXPECT_EQ(othersThan(hostile, *holder), "");
+            }
             if (HasFailure())
             {
                 break;

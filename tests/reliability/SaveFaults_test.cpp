@@ -299,6 +299,23 @@ TEST_F(SaveFaults, FilesThatStandAlone)
     }
 }
 
+TEST_F(SaveFaults, TablesThatAreCopiedOntoThemselvesStay)
+{
+    struct Database : AxSxpParameterDb
+    {
+        using AxSxpParameterDb::copyDependentParameterDirectories;
+    };
+    for (char const* table : {"ammoselect/a.asl", "damage/a.dmg", "detection/a.det", "hit/a.hit", "formation/a.frm"})
+    {
+        put(table, "(table)\n");
+    }
+    Database forces;
+    EXPECT_TRUE(forces.copyDependentParameterDirectories(AxFilename(directory()), AxFilename(directory())));
+    EXPECT_EQ(get("hit/a.hit"), "(table)\n");
+    EXPECT_TRUE(forces.copyDependentParameterDirectories(AxFilename(directory()), AxFilename(path("new"))));
+    EXPECT_EQ(get("new/formation/a.frm"), "(table)\n");
+}
+
 TEST_F(SaveFaults, APlaceThatCannotBeWrittenIsToldOnce)
 {
     lay(savedDatabase());

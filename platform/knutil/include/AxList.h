@@ -69,10 +69,14 @@ public:
     }
 
     /// Moves an item of this list to the end of `other`. The item stays valid; nothing is allocated.
+    /// Null is ignored.
     void moveTo(AxList& other, AxListItem* item)
     {
-        unlink(*item);
-        other.join(item, other.myLast, nullptr);
+        if (item != nullptr)
+        {
+            unlink(*item);
+            other.join(item, other.myLast, nullptr);
+        }
     }
 
     /// Destroys all items; their data stays.

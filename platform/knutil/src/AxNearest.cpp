@@ -46,7 +46,7 @@ std::size_t editDistance(std::string_view a, std::string_view b, std::size_t lim
 std::string_view axNearest(std::string_view word, std::span<std::string_view const> candidates)
 {
     std::string_view nearest;
-    std::size_t limit = std::min(theLargestDistance + 1, word.size());
+    std::size_t limit = std::min(theLargestDistance, word.size() / 2) + 1;
     if (word.size() > theLongestWord)
     {
         return nearest;

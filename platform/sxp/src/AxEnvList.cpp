@@ -15,7 +15,21 @@ void AxEnvList::expandFromSource() const
     boost::shared_ptr<AxXmlDocument const> source;
     auto& object = const_cast<AxEnvObject&>(static_cast<AxEnvObject const&>(*this)); // no other kind has a source
     object.mySource.swap(source);
-    AxXmlDocument::expand(object, source, mySourceNode);
+    try
+    {
+        AxXmlDocument::expand(object, source, mySourceNode);
+    }
+    catch (...)
+    {
+        object.letGo();
+        while (!object.attributes().empty())
+        {
+            AxEnvValuePtr const last = object.attributes().back().value;
+            object.removeAttribute(last);
+        }
+        object.mySource.swap(source); // all of it is made when it is looked for again
+        throw;
+    }
 }
 
 bool AxEnvList::add(AxEnvValuePtr const& child)

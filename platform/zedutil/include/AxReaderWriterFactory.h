@@ -146,6 +146,8 @@ public:
     /// What `copyReaderWriter` and `compareReaderWriter` of this class do, for walks over objects of one class.
     static bool copyByType(AxReaderWriter& to, AxReaderWriter const& from);
     static bool equalByType(AxReaderWriter const& a, AxReaderWriter const& b);
+    /// Whether the factory in use compares so too; false for one of a host's that compares in its own way.
+    static bool comparesByType();
     static AxTypeInfo const& typeInfo(AxReaderWriter const& rw);
     /// The table of virtual functions of the object's class, by which walks know objects of one class.
     static void const* functionsOf(AxReaderWriter const& rw) { return *reinterpret_cast<void const* const*>(&rw); }

@@ -41,7 +41,8 @@ public:
     /// Members that outlive the registry are left in none; members that it created are deleted.
     ~AxReaderWriterRegistry();
 
-    /// Appends `member` under `keyword`. A keyword that is present supersedes: the older member leaves.
+    /// Appends `member` under `keyword`, taking it out of the registry that it stands in. A keyword that is present
+    /// supersedes: the older member leaves.
     void addEntry(AxSymbolString keyword, AxReaderWriter* member);
     /// Appends the object that a file member fills. Look-up, counting and writing pass it over.
     void addContentEntry(AxSymbolString keyword, AxReaderWriter* member);

@@ -36,7 +36,6 @@ public:
     using AxRwValueOf::putData;
     AxlObjPtr getData(AxlObjPtr const& items, AxFilenameList const& files, AxBindingsList const& bindings) override;
     void putData(std::string& out, int indent) override;
-    void bindVariables(AxBindingsList const& bindings) override;
 
     static bool readValue(AxlObj const*& items, AxString& value);
     static void writeValue(std::string& out, AxString const& value);

@@ -2,6 +2,7 @@
 
 #include "AxReaderWriter.h"
 
+#include <unordered_map>
 #include <vector>
 
 /// A named set of variables. A variable is a name and its value cells, so that it can feed a member of any kind.
@@ -54,5 +55,13 @@ private:
         AxSymbolString name;
         AxlObjPtr cells;
     };
+    std::size_t placeOf(AxSymbolString name) const;
+    void clearVariables()
+    {
+        myVariables.clear();
+        myPlaces.clear();
+    }
+
     std::vector<Variable> myVariables;
+    mutable std::unordered_map<void const*, std::size_t> myPlaces; ///< of the first so many, by their names
 };

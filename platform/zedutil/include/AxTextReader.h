@@ -57,7 +57,8 @@ private:
     /// For the elements of a list in XML.
     explicit AxTextReader(AxXmlReader& xml) : myXml(&xml) {}
 
-    void readItems(AxReaderWriter& rw, char const* open, AxFilenameList const& files, AxBindingsList const& bindings);
+    /// False when variables became known behind references to them: the record is to be read anew, by cells.
+    bool readItems(AxReaderWriter& rw, char const* open, AxFilenameList const& files, AxBindingsList const& bindings);
     void readElements(AxReaderWriter& rw, char const* open, AxFilenameList const& files,
                       AxBindingsList const& bindings);
     bool readMember(AxReaderWriter& member, AxTypeInfo::Reading reading, AxFilenameList const& files,

@@ -362,7 +362,8 @@ int AxReaderWriter::alignment() const
 
 void AxReaderWriter::setDefaultRWValue(AxReaderWriter* value)
 {
-    if (value || rareOrNull())
+    Rare const* const mine = rareOrNull();
+    if (value != (mine ? mine->defaultValue.get() : nullptr))
     {
         rare().defaultValue.reset(value);
     }

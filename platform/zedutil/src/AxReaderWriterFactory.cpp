@@ -23,6 +23,7 @@ namespace
 {
 AxReaderWriterFactory* ourFactory = nullptr;
 AxReaderWriterFactory::Maker ourMaker = nullptr;
+bool ourComparesByType = true;
 
 /// A table of virtual functions, by the places of its entries.
 using FunctionTable = void const* const*;
@@ -175,7 +176,16 @@ AxReaderWriterFactory* AxReaderWriter::factory()
 
 void AxReaderWriter::setFactory(AxReaderWriterFactory* factory)
 {
+    constexpr std::size_t compareReaderWriter = 5; // its slot
+    static AxReaderWriterFactory const plain(false);
+    auto const functions = [](AxReaderWriterFactory const& of) { return *reinterpret_cast<FunctionTable const*>(&of); };
     ourFactory = factory;
+    ourComparesByType = !factory || functions(*factory)[compareReaderWriter] == functions(plain)[compareReaderWriter];
+}
+
+bool AxReaderWriterFactory::comparesByType()
+{
+    return ourComparesByType;
 }
 
 void AxReaderWriterFactory::setDefaultMaker(Maker maker)

@@ -226,7 +226,7 @@ bool AxReaderWriterFile::takeName(AxlObj const* cell, AxBindingsList const& bind
     if (myContent)
     {
         myContent->found = AxFilename();
-        myContent->reportIfInline(*this, cell);
+        myContent->giveWay(*this, cell);
     }
     updateBacking();
     return references.complete;

@@ -43,7 +43,9 @@ struct AxReaderWriterFile::Content
         }
     }
     std::size_t digestNow() const { return std::hash<std::string>()(object->writtenText(true)); }
-    void reportIfInline(AxReaderWriterFile const& member, AxlObj const* place) const;
+    /// Tells that what the text gave in place does not count beside the file's name, and lets the record that is read
+    /// keep it.
+    void giveWay(AxReaderWriterFile const& member, AxlObj const* place) const;
 
     AxReaderWriter* object = nullptr;
     bool isEnabled = true;

@@ -4,6 +4,7 @@
 #include "AxFileCells.h"
 #include "AxFileChain.h"
 #include "AxGuarded.h"
+#include "AxReadFrame.h"
 #include "AxRwVariableBindings.h"
 #include "AxlSyntaxError.h"
 
@@ -127,14 +128,23 @@ void reportParseFailure(AxFilename const& file, AxDiagnostic fault)
 }
 } // namespace
 
-void AxReaderWriterFile::Content::reportIfInline(AxReaderWriterFile const& member, AxlObj const* place) const
+void AxReaderWriterFile::Content::giveWay(AxReaderWriterFile const& member, AxlObj const* place) const
 {
     bool const wasGiven = object->flag(Specified) && !object->flag(FileBacked);
-    if (wasGiven && isEnabled && !member.filename().isNull())
+    if (!wasGiven || !isEnabled || member.filename().isNull())
     {
-        AxDiagnostics::report(faultAt(place, AxSeverity::Warning, "file-and-inline",
-                                      '"' + object->AxReaderWriter::name().string().string() +
-                                          "\" is given in the text and by a file; the file counts"));
+        return;
+    }
+    AxSymbolString const keyword = object->AxReaderWriter::name();
+    AxDiagnostics::report(
+        faultAt(place, AxSeverity::Warning, "file-and-inline",
+                '"' + keyword.string().string() + "\" is given in the text and by a file; the file counts"));
+    AxReaderWriter* const record = AxReadFrame::innermost ? &AxReadFrame::innermost->record : nullptr;
+    if (record && record->registryIfAny() && record->registryIfAny()->find(keyword) == object)
+    {
+        std::string text = object->writtenText();
+        text.erase(text.find_last_not_of('\n') + 1);
+        record->keepItem(keyword, std::move(text));
     }
 }
 

@@ -122,7 +122,7 @@ bool isConsumed(AxReaderWriter& record, AxlObj const* item, std::string const& w
 bool isInlineBesideFile(AxReaderWriter const& member, AxlObj const& item)
 {
     auto const* const file = dynamic_cast<AxReaderWriterFile const*>(&member);
-    return file && !file->filename().isNull() && item.cdr()->car()->isPair();
+    return file && (!file->filename().isNull() || file->isVariableReference()) && item.cdr()->car()->isPair();
 }
 } // namespace
 
@@ -175,6 +175,10 @@ void AxReaderWriter::getSelf(AxlObjPtr const& expression, AxFilenameList const& 
         return;
     }
     takeHead(list->car());
+    bool const wasReference = flag(VariableReference);
+    bool const wasBound = flag(VariableBound);
+    AxSymbolString const variable = wasReference ? rareOrNull()->variableName : AxSymbolString();
+    std::string reference = wasReference ? rareOrNull()->written : std::string();
     dropReference();
     AxlObj const* const items = list->cdr();
     if (!readReference(items, files, bindings))
@@ -193,6 +197,10 @@ void AxReaderWriter::getSelf(AxlObjPtr const& expression, AxFilenameList const& 
         setFlag(Specified, true);
         setFlag(Inherited, false);
         stamp();
+    }
+    else if (wasReference)
+    {
+        keepReference(variable, std::move(reference), wasBound); // a value that is refused changes nothing
     }
     postGetSelf();
 }
@@ -294,7 +302,7 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
         return;
     }
     bool const isRepeated = frame.markSeen(place);
-    if (isRepeated && isInlineBesideFile(*member, *item))
+    if (member->flag(FileBacked) || (isRepeated && isInlineBesideFile(*member, *item)))
     {
         AxDiagnostics::report(
             diagnostic(AxSeverity::Warning, "file-and-inline", head,
@@ -307,13 +315,6 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
         AxDiagnostics::report(
             diagnostic(AxSeverity::Warning, "repeated-keyword", head,
                        "\"" + std::string(head->text()) + "\" is given again; the later value counts"));
-    }
-    if (member->flag(FileBacked))
-    {
-        AxDiagnostics::report(
-            diagnostic(AxSeverity::Warning, "file-and-inline", head,
-                       "\"" + std::string(head->text()) + "\" is given in the text and by a file; the file counts"));
-        return;
     }
     frame.last = slot ? slot->keyword : member->AxReaderWriter::name();
     if (slot && AxPlainValue::read(*slot, *member, item->cdr()))

@@ -75,6 +75,14 @@ void AxReaderWriterRegistry::addEntry(AxSymbolString keyword, AxReaderWriter* me
     {
         return;
     }
+    // It leaves one registry when it ends, so it may stand in no other.
+    for (AxReaderWriterRegistry* const former : {member->parentRegistry(), member->rest().parent})
+    {
+        if (former)
+        {
+            former->removeEntry(member);
+        }
+    }
     if (!keyword.isNull())
     {
         if (AxReaderWriter* older = lookup(keyword))
@@ -82,8 +90,9 @@ void AxReaderWriterRegistry::addEntry(AxSymbolString keyword, AxReaderWriter* me
             removeEntry(older);
         }
     }
-    member->rest().parent = this;
+    member->rest(); // takes its memory before the entry does
     own().entries.push_back({keyword, member});
+    member->rest().parent = this; // a member that a parent does not hold must not be sought there as it ends
 }
 
 void AxReaderWriterRegistry::addContentEntry(AxSymbolString keyword, AxReaderWriter* member)
@@ -91,8 +100,9 @@ void AxReaderWriterRegistry::addContentEntry(AxSymbolString keyword, AxReaderWri
     if (member)
     {
         removeEntry(member);
-        member->rest().parent = this;
+        member->rest();
         own().entries.push_back({keyword, member, true, false});
+        member->rest().parent = this;
     }
 }
 
@@ -258,8 +268,8 @@ AxRegistryEntry AxReaderWriterRegistry::entry(std::size_t index) const
 
 void AxReaderWriterRegistry::setCompared(AxReaderWriter const* member, bool compared)
 {
-    AxRegistryEntry* found = ownEntry(member);
-    if (!found && lookup(member->name()) == member)
+    AxRegistryEntry* found = member ? ownEntry(member) : nullptr;
+    if (member && !found && lookup(member->name()) == member)
     {
         leaveShape();
         found = ownEntry(member);
@@ -357,7 +367,8 @@ std::size_t AxReaderWriterRegistry::assignShared(AxReaderWriterRegistry const& o
 bool AxReaderWriterRegistry::operator==(AxReaderWriterRegistry const& other) const
 {
     AxRegistryTable const& shared = table();
-    bool const sameShape = myShape == other.myShape && !myOwn && !other.myOwn;
+    bool const sameShape =
+        myShape == other.myShape && !myOwn && !other.myOwn && AxReaderWriterFactory::comparesByType();
     if (sameShape)
     {
         return std::all_of(shared.slots.begin(), shared.slots.end(),

@@ -5,6 +5,7 @@
 #include "AxRwList.h"
 #include "AxlPrint.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace
@@ -110,7 +111,8 @@ void AxReaderWriter::writeKept(std::string& out, int indent, AxSymbolString afte
 {
     for (AxKeptItem const& item : rareOrNull()->kept)
     {
-        if (item.after == after && item.element < 0 && (!item.replaces || standsFor(item)))
+        // A list whose data hook writes the elements keeps what it could not read behind them.
+        if (item.after == after && (item.element < 0 || !flag(List)) && (!item.replaces || standsFor(item)))
         {
             out += '\n';
             putIndent(out, indent);
@@ -176,33 +178,37 @@ void AxReaderWriter::writeMembers(std::string& out, int indent, bool all, AxFile
 
 void AxReaderWriter::writeElements(std::string& out, int indent, bool all, AxFilename const& file)
 {
-    auto const writeKeptAt = [this, &out, indent](int from, int to)
+    std::vector<AxKeptItem const*> kept; // in the order of the elements
+    if (flag(KeepsItems))
     {
         for (AxKeptItem const& item : rareOrNull()->kept)
         {
-            if (item.element >= from && item.element < to)
+            if (item.element >= 0)
             {
-                out += '\n';
-                putIndent(out, indent);
-                out += item.text;
+                kept.push_back(&item);
             }
+        }
+        std::ranges::stable_sort(kept, {}, &AxKeptItem::element);
+    }
+    auto next = kept.begin();
+    auto const writeKeptUpTo = [&](int place)
+    {
+        for (; next != kept.end() && (*next)->element <= place; ++next)
+        {
+            out += '\n';
+            putIndent(out, indent);
+            out += (*next)->text;
         }
     };
     int place = 0;
     for (AxListItem const* item = static_cast<AxRwList*>(this)->first(); item; item = item->next(), ++place)
     {
-        if (flag(KeepsItems))
-        {
-            writeKeptAt(place, place + 1);
-        }
+        writeKeptUpTo(place);
         out += '\n';
         putIndent(out, indent);
         AxRwList::element(item)->putSelf(out, indent, all, file);
     }
-    if (flag(KeepsItems))
-    {
-        writeKeptAt(place, std::numeric_limits<int>::max());
-    }
+    writeKeptUpTo(std::numeric_limits<int>::max());
 }
 
 void AxReaderWriter::putData(std::string&, int) {}

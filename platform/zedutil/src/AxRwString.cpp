@@ -5,23 +5,6 @@
 #include "AxlObj.h"
 #include "AxlPrint.h"
 
-namespace
-{
-std::string unquoted(std::string_view written)
-{
-    std::string out;
-    for (std::size_t i = 1; i + 1 < written.size(); ++i)
-    {
-        if (written[i] == '\\' && (written[i + 1] == '"' || written[i + 1] == '\\'))
-        {
-            ++i;
-        }
-        out += written[i];
-    }
-    return out;
-}
-} // namespace
-
 AxRwString::~AxRwString() = default;
 
 void AxRwString::start(char const* initial)
@@ -88,17 +71,4 @@ AxlObjPtr AxRwString::getData(AxlObjPtr const& items, AxFilenameList const& file
 void AxRwString::putData(std::string& out, int)
 {
     writeValue(out, myValue);
-}
-
-void AxRwString::bindVariables(AxBindingsList const& bindings)
-{
-    std::string const written = isVariableReference() ? referenceText() : std::string();
-    if (written.empty() || written.front() != '"')
-    {
-        AxReaderWriter::bindVariables(bindings);
-        return;
-    }
-    bool isComplete = true;
-    myValue = AxString(AxRwVariableBindings::expand(unquoted(written), bindings, &isComplete));
-    keepReference(AxReaderWriter::variableName(), written, isComplete);
 }

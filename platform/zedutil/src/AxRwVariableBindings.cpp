@@ -129,6 +129,7 @@ AxRwVariableBindings& AxRwVariableBindings::operator=(AxRwVariableBindings const
     if (this != &other)
     {
         myVariables = other.myVariables;
+        myPlaces.clear();
         carryState(other);
     }
     return *this;
@@ -136,11 +137,10 @@ AxRwVariableBindings& AxRwVariableBindings::operator=(AxRwVariableBindings const
 
 void AxRwVariableBindings::set(AxSymbolString name, AxlObjPtr const& cells)
 {
-    auto const known = std::find_if(myVariables.begin(), myVariables.end(),
-                                    [name](Variable const& variable) { return variable.name == name; });
-    if (known != myVariables.end())
+    std::size_t const place = placeOf(name);
+    if (place < myVariables.size())
     {
-        known->cells = cells;
+        myVariables[place].cells = cells;
     }
     else
     {
@@ -161,26 +161,39 @@ bool AxRwVariableBindings::remove(AxSymbolString name)
     {
         return false;
     }
+    myPlaces.clear();
     valueAssigned();
     return true;
 }
 
 void AxRwVariableBindings::clear()
 {
-    myVariables.clear();
+    clearVariables();
     valueAssigned();
 }
 
 AxlObjPtr const* AxRwVariableBindings::find(AxSymbolString name) const
 {
-    for (Variable const& variable : myVariables)
+    std::size_t const place = placeOf(name);
+    return place < myVariables.size() ? &myVariables[place].cells : nullptr;
+}
+
+/// The number of variables when there is none of that name.
+std::size_t AxRwVariableBindings::placeOf(AxSymbolString name) const
+{
+    constexpr std::size_t few = 32;
+    if (myVariables.size() <= few)
     {
-        if (variable.name == name)
-        {
-            return &variable.cells;
-        }
+        auto const known = std::find_if(myVariables.begin(), myVariables.end(),
+                                        [name](Variable const& variable) { return variable.name == name; });
+        return static_cast<std::size_t>(known - myVariables.begin());
     }
-    return nullptr;
+    for (std::size_t next = myPlaces.size(); next < myVariables.size(); ++next)
+    {
+        myPlaces.emplace(myVariables[next].name.id(), next);
+    }
+    auto const known = myPlaces.find(name.id());
+    return known == myPlaces.end() ? myVariables.size() : known->second;
 }
 
 AxlObjPtr const* AxRwVariableBindings::find(AxSymbolString name, AxBindingsList const& bindings)
@@ -265,7 +278,7 @@ std::string AxRwVariableBindings::expand(std::string_view text, AxBindingsList c
 
 AxlObjPtr AxRwVariableBindings::getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const&)
 {
-    myVariables.clear();
+    clearVariables();
     for (AxlObj const* rest = items.get(); rest->isPair(); rest = rest->cdr())
     {
         AxlObj const* const item = rest->car();
@@ -311,7 +324,7 @@ void AxRwVariableBindings::putData(std::string& out, int indent)
 void AxRwVariableBindings::reset()
 {
     AxReaderWriter::reset();
-    myVariables.clear();
+    clearVariables();
 }
 
 char const* AxRwVariableBindings::readerWriterType() const

@@ -2,6 +2,7 @@
 
 #include "AxDecimal.h"
 #include "AxDiagnostic.h"
+#include "AxLimits.h"
 #include "AxNumberText.h"
 #include "AxReadFrame.h"
 #include "AxReaderWriterFactory.h"
@@ -26,6 +27,7 @@
 #include <charconv>
 #include <cstring>
 #include <limits>
+#include <optional>
 
 namespace
 {
@@ -188,11 +190,14 @@ bool AxTextReader::skipLead(char const* head)
 
 AxlObjPtr AxTextReader::cellsAt(char const* from)
 {
-    myStream->moveTo(static_cast<std::size_t>(from - myBegin));
+    auto const position = static_cast<std::size_t>(from - myBegin);
+    std::optional<AxlInputStream> again; // a stream only goes forward
+    AxlInputStream& stream = position < myStream->position() ? again.emplace(myStream->text()) : *myStream;
+    stream.moveTo(position);
     AxlReadOptions options;
     options.closeOpenLists = true;
-    AxlReadResult const result = AxcRead(*myStream, AxlEnv(), options);
-    myAt = myBegin + myStream->position();
+    AxlReadResult const result = AxcRead(stream, AxlEnv(), options);
+    myAt = myBegin + stream.position();
     myUnclosed = myUnclosed || result.unclosed;
     result.reportUnclosed(*myLineForCutOff);
     return result.expr;
@@ -354,9 +359,10 @@ bool AxTextReader::readObject(AxReaderWriter& rw, AxFilenameList const& files, A
     {
         readElements(rw, open, files, bindings);
     }
-    else
+    else if (!readItems(rw, open, files, bindings))
     {
-        readItems(rw, open, files, bindings);
+        rw.getSelf(cellsAt(open), files, bindings);
+        return true;
     }
     rw.setFlag(AxReaderWriter::Specified, true);
     rw.stamp();
@@ -396,7 +402,7 @@ void AxTextReader::readElements(AxReaderWriter& rw, char const* open, AxFilename
     ++myAt;
 }
 
-void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameList const& files,
+bool AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameList const& files,
                              AxBindingsList const& bindings)
 {
     AxReadFrame frame(rw);
@@ -412,7 +418,7 @@ void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameLis
         if (myAt == myEnd)
         {
             noteUnclosed(open);
-            return;
+            return true;
         }
         if (index == 0 && ownItem && info.ops->leadHead && skipLead(info.ops->leadHead))
         {
@@ -473,14 +479,20 @@ void AxTextReader::readItems(AxReaderWriter& rw, char const* open, AxFilenameLis
                 extended = bindings;
                 current = &extended;
             }
+            std::size_t const known = extended.size();
             if (ownItem(rw, cell.get(), index, extended))
             {
+                if (extended.size() != known && rw.hasVariableReference())
+                {
+                    return false; // what was read before these variables may refer to them
+                }
                 continue;
             }
         }
         rw.readItem(cell.get(), frame, files, *current);
     }
     ++myAt;
+    return true;
 }
 
 bool AxTextReader::readMember(AxReaderWriter& member, AxTypeInfo::Reading reading, AxFilenameList const& files,
@@ -556,7 +568,7 @@ bool AxTextReader::readMember(AxReaderWriter& member, AxTypeInfo::Reading readin
         {
             ++at;
         }
-        if (*at != '"')
+        if (*at != '"' || static_cast<std::size_t>(at - begin) > axLimits.tokenSize)
         {
             return false;
         }

@@ -7,6 +7,7 @@
 #include "AxlFunctions.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace
 {
@@ -268,10 +269,10 @@ void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, A
 void AxTreeForm::finishList(AxRwList& list, AxEnvironmentPtr const& env, AxEnvObjectPtr const& node,
                             AxFilenameList const& files, AxBindingsList const& bindings)
 {
-    std::vector<std::string> kept;
+    std::unordered_multiset<std::string> kept;
     for (auto const& [after, text] : list.keptItems())
     {
-        kept.push_back(text);
+        kept.insert(text);
     }
     for (AxEnvObject::Attribute const& attribute : node->attributes())
     {
@@ -302,8 +303,7 @@ void AxTreeForm::finishList(AxRwList& list, AxEnvironmentPtr const& env, AxEnvOb
         }
         auto const place = kept.empty()
                                ? kept.end()
-                               : std::find(kept.begin(), kept.end(),
-                                           AxTreeCells::printed(AxTreeCells::childItem(*child, *node, &list).get()));
+                               : kept.find(AxTreeCells::printed(AxTreeCells::childItem(*child, *node, &list).get()));
         if (place != kept.end())
         {
             kept.erase(place);

@@ -15,6 +15,7 @@
 #include "AxlFunctions.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace
 {
@@ -158,12 +159,12 @@ void writeBare(AxlObj const* cell, AxEnvironmentPtr const& env, AxEnvValuePtr co
 
 std::vector<AxTreeForm::Item> AxTreeForm::sortedItems(AxReaderWriter const& rw)
 {
-    std::vector<std::string> kept;
+    std::unordered_multiset<std::string> kept;
     if (rw.flag(AxReaderWriter::KeepsItems))
     {
         for (AxKeptItem const& item : rw.rareOrNull()->kept)
         {
-            kept.push_back(AxTreeCells::printed(AxTreeCells::parsed(item.text)->car()));
+            kept.insert(AxTreeCells::printed(AxTreeCells::parsed(item.text)->car()));
         }
     }
     std::vector<Item> items;
@@ -174,8 +175,7 @@ std::vector<AxTreeForm::Item> AxTreeForm::sortedItems(AxReaderWriter const& rw)
     {
         AxlObj const* const cell = rest->car();
         Item item{Item::Kind::Bare, AxlObjPtr(cell)};
-        auto const keptPlace =
-            kept.empty() ? kept.end() : std::find(kept.begin(), kept.end(), AxTreeCells::printed(cell));
+        auto const keptPlace = kept.empty() ? kept.end() : kept.find(AxTreeCells::printed(cell));
         AxReaderWriter* const member = AxTreeCells::memberFor(&rw, AxString(cell->car()->text()));
         if (keptPlace != kept.end())
         {

@@ -130,6 +130,7 @@ TEST(axNearest, SuggestsWhatIsAtMostThreeEditsAway)
     EXPECT_EQ(nearest("abcdef", {"abwxyz"}), "");
     EXPECT_EQ(nearest("ab", {"xy", "abcd"}), "");
     EXPECT_EQ(nearest("ab", {"xb", "ax"}), "xb");
+    EXPECT_EQ(nearest("help", {"check", "set"}), "");
     EXPECT_EQ(nearest("", {"a"}), "");
     EXPECT_EQ(nearest("mass", {"mass"}), "mass");
     EXPECT_EQ(nearest("abcd", {"", "xabcd"}), "xabcd");

@@ -167,7 +167,7 @@ TEST(AxReaderWriterFile, TakesInlineContentWhereItHasNoKeywordOfItsOwn)
     EXPECT_EQ(findings.codes(), "wrong-kind@1:18");
 }
 
-TEST(AxReaderWriterFile, WinsOverInlineContentWhateverTheOrder)
+TEST(AxReaderWriterFile, WinsOverInlineContentWhichIsKept)
 {
     Folder const folder;
     folder.write("a.hit", "(table (r (value 1)))");
@@ -180,7 +180,11 @@ TEST(AxReaderWriterFile, WinsOverInlineContentWhateverTheOrder)
         ASSERT_EQ(findings.all.size(), 1U);
         EXPECT_EQ(findings.all[0].code, "file-and-inline");
         EXPECT_EQ(gun.table.count(), 1);
-        EXPECT_EQ(compact(gun.writtenText(true)), "(gun (table-file \"a.hit\") (rows-file) (nested (value 0)))");
+        char const* const kept = "(gun (table-file \"a.hit\") (table (x) (y)))";
+        EXPECT_EQ(compact(gun.writtenText()), kept);
+        Weapon again("gun");
+        readFrom(again, kept, {}, folder.search());
+        EXPECT_EQ(compact(again.writtenText()), kept);
     }
 }
 

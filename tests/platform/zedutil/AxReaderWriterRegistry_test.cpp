@@ -1,5 +1,6 @@
 #include "AxReaderWriterRegistry.h"
 
+#include "AxReaderWriterFactory.h"
 #include "AxRecordOf.h"
 #include "AxRwInt.h"
 #include "AxRwReal.h"
@@ -181,4 +182,40 @@ TEST(AxReaderWriterRegistryTest, HoldsARecordThatWasBoundByName)
     auto const made = std::make_unique<Numbers<1>>(AxKeyword{"by-keyword"}, outer.registry());
     EXPECT_EQ(outer.registry()->lookup("by-keyword"), made.get());
     EXPECT_EQ(made->name(), "by-keyword");
+}
+
+TEST(AxReaderWriterRegistryTest, AMemberStandsWhereItWasEnteredLast)
+{
+    Numbers<1> first("first", nullptr);
+    Numbers<1> second("second", nullptr);
+    {
+        AxRwReal real("real", first.registry());
+        first.registry()->addEntry("again", &real);
+        EXPECT_EQ(words(first), "member-1 again ");
+        second.registry()->addEntry("moved", &real);
+        EXPECT_EQ(words(first), "member-1 ");
+        EXPECT_EQ(words(second), "member-1 moved ");
+    }
+    EXPECT_EQ(words(second), "member-1 ");
+    second.registry()->addEntry("taken", &first.last);
+    EXPECT_EQ(words(first), "");
+    EXPECT_EQ(words(second), "member-1 taken ");
+}
+
+TEST(AxReaderWriterRegistryTest, AsksTheFactoryOfTheHostWhetherMembersAreEqual)
+{
+    class Lenient : public AxReaderWriterFactory
+    {
+    public:
+        bool compareReaderWriter(AxReaderWriter const*, AxReaderWriter const*) const override { return true; }
+    };
+    Lenient lenient;
+    Numbers<2> one("r", nullptr);
+    Numbers<2> other("r", nullptr);
+    one.last = 7;
+    EXPECT_FALSE(one == other);
+    AxReaderWriter::setFactory(&lenient);
+    EXPECT_TRUE(one == other);
+    AxReaderWriter::setFactory(nullptr);
+    EXPECT_FALSE(one == other);
 }

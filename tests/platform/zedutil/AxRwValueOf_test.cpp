@@ -11,6 +11,7 @@
 #include "AxRwVector.h"
 #include "platform/zedutil/Reading.h"
 
+#include <cstring>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -104,4 +105,27 @@ TEST(AxRwValueOf, NotANumberIsTheSameOnlyForRecords)
     EXPECT_FALSE(one == other);
     EXPECT_FALSE(one.equals(AxRwReal("k", nullptr)));
     EXPECT_FALSE(AxRwReal("k", nullptr).equals(one));
+}
+
+TEST(AxRwValueOf, ATextKeepsItsDefaultWhileItsVariableIsUnknown)
+{
+    AxRwString text("text", nullptr);
+    text = "default";
+    readFrom(text, "(text \"$(unknown)\")");
+    text.bindVariables({});
+    EXPECT_EQ(text.value(), "default");
+    EXPECT_EQ(text.writtenText(), "(text \"$(unknown)\")\n");
+}
+
+TEST(AxRwValueOf, AValueThatIsRefusedLeavesTheReference)
+{
+    ReportedFindings findings;
+    for (char const* const items : {"(mass $m) (mass heavy)", "(mass ($m 7.0)) (mass heavy)"})
+    {
+        AxReaderWriter record("r", nullptr);
+        AxRwReal mass("mass", record.registry());
+        readFrom(record, "(r " + std::string(items) + ')');
+        EXPECT_TRUE(mass.isVariableReference());
+        EXPECT_EQ(record.writtenText(), "(r\n  " + std::string(items, std::strlen(items) - 13) + "\n  (mass heavy))\n");
+    }
 }

@@ -113,3 +113,23 @@ TEST(AxRwVariableBindings, KeepsWhatIsNoVariable)
     EXPECT_EQ(findings.codes(), "not-a-variable@1:26 not-a-variable@1:30");
     EXPECT_EQ(set.writtenText(), "(variable-bindings\n  (a 1)\n  (c 2)\n  (b)\n  7)\n");
 }
+
+TEST(AxRwVariableBindings, FindsEachOfMany)
+{
+    AxRwVariableBindings set;
+    auto const name = [](int i) { return AxSymbolString(AxString("v" + std::to_string(i))); };
+    for (int i = 0; i < 200; ++i)
+    {
+        set.setString(name(i % 100), AxString(std::to_string(i)));
+    }
+    EXPECT_EQ(set.names().size(), 100u);
+    EXPECT_EQ(set.stringValue(name(3)), "103");
+    EXPECT_TRUE(set.remove(name(3)));
+    EXPECT_EQ(set.find(name(3)), nullptr);
+    EXPECT_EQ(set.stringValue(name(99)), "199");
+    AxRwVariableBindings copy;
+    copy = set;
+    set.clear();
+    EXPECT_EQ(set.find(name(99)), nullptr);
+    EXPECT_EQ(copy.stringValue(name(99)), "199");
+}

@@ -119,6 +119,33 @@ TEST_F(AxComponentDescriptorListTest, IgnoresItselfAsASource)
     EXPECT_EQ(names(list), "eye ");
 }
 
+TEST_F(AxComponentDescriptorListTest, ACopyHoldsEachNameOnceWhateverTheSourceHolds)
+{
+    for (int others : {1, 40})
+    {
+        AxComponentDescriptorList list("sensors", nullptr);
+        for (int i = 0; i < others; ++i)
+        {
+            list.addComponentDescriptor(AxComponentDescriptor("ear" + std::to_string(i), nullptr));
+        }
+        list.addComponentDescriptor(AxComponentDescriptor("nose", nullptr))->setName("eye");
+        list.addToEnd(new AxComponentDescriptor("eye", nullptr));
+        static_cast<AxComponentDescriptor*>(AxRwList::element(list.last()))->setMinTickPeriod(2.0);
+        AxComponentDescriptorList const copy(list);
+        EXPECT_EQ(copy.count(), others + 1);
+        EXPECT_EQ(copy.lookupComponentDescriptor("eye")->minTickPeriod(), 2.0);
+    }
+}
+
+TEST_F(AxComponentDescriptorListTest, ATypeWithoutACreatorIsReportedOnce)
+{
+    AxComponentDescriptor::addComponentDescriptorCreatorFcn("empty-descriptor", nullptr);
+    AxComponentDescriptorList list("sensors", nullptr);
+    readInto(list, "(sensors (eye (component-descriptor-type \"empty-descriptor\")))");
+    EXPECT_EQ(warnings.text(), "Can't create component descriptor of type empty-descriptor.  No creator found.\n"
+                               "could not create component descriptor\n");
+}
+
 TEST_F(AxComponentDescriptorListTest, KeepsTheLaterOfTwoNamesInALongListToo)
 {
     std::string text = "(sensors ";

@@ -81,6 +81,24 @@ TEST_F(AxZedObjectParametersInheritTest, ChainsPassValuesOn)
     EXPECT_TRUE(third->categorySpecified());
 }
 
+TEST_F(AxZedObjectParametersInheritTest, VariablesStayBehindAndTheirValuesAreTaken)
+{
+    RecordPtr const parent = read(theBase, "(variable-bindings (m 7.0) (name \"tank\") (low -1.0 -2.0 -3.0)) (mass $m)"
+                                           " (category \"$(name)s\") (dr-thresholds (translation $m))"
+                                           " (bounding-volume (min $low) (max 1.0 2.0 3.0))");
+    RecordPtr const child = read(theBase, "");
+    child->inheritValues(parent.get());
+    EXPECT_EQ(child->mass(), 7.0);
+    EXPECT_EQ(child->category(), "tanks");
+    EXPECT_EQ(child->deadReckoningThresholds().translationThreshold(), 7.0);
+    ASSERT_NE(child->boundingVolume(), nullptr);
+    EXPECT_EQ(child->boundingVolume()->min(), AxVector64(-1.0, -2.0, -3.0));
+    EXPECT_EQ(child->writtenText(), read(theBase, "")->writtenText());
+    RecordPtr const grandchild = read(theBase, "");
+    grandchild->inheritValues(child.get());
+    EXPECT_EQ(grandchild->mass(), 7.0);
+}
+
 TEST_F(AxZedObjectParametersInheritTest, NestedRecordsAreWalkedAndListsTakenWhole)
 {
     RecordPtr const parent = read(theBase, "(dr-thresholds (translation 5.0) (rotation 6.0)) (radios (r1) (r2))"

@@ -282,6 +282,27 @@ TEST_F(AxZedObjectParametersTest, OwnBindingsStandInFrontOfTheCallers)
     }
 }
 
+TEST_F(AxZedObjectParametersTest, OwnBindingsCountForWhatStandsBeforeThem)
+{
+    AxRwVariableBindings callers;
+    callers.set("weight", cellsOf("(1.0)"));
+    std::string_view const text = "(m1 (parameter-type \"zed-object-param\") (mass $weight)\n"
+                                  " (dr-thresholds (translation $reach)) (mas 1.0)\n"
+                                  " (variable-bindings (weight 2.0) (reach 3.0)) (under-fire-time $reach))";
+    for (bool byCells : {false, true})
+    {
+        Record record("m1", nullptr);
+        byCells ? readCellsInto(record, text, {&callers}) : static_cast<void>(readInto(record, text, {&callers}));
+        EXPECT_EQ(record.mass(), 2.0);
+        EXPECT_EQ(record.deadReckoningThresholds().translationThreshold(), 3.0);
+        EXPECT_EQ(record.underFireTime(), 3.0);
+        EXPECT_EQ(record.variableBindingsFromLoad().size(), 1U);
+        ASSERT_FALSE(findings.empty());
+        EXPECT_EQ(findings.back().code, "unknown-keyword");
+        EXPECT_EQ(findings.back().line, 2U);
+    }
+}
+
 TEST_F(AxZedObjectParametersTest, KeepsOtherItemsAfterUnknownKeyword)
 {
     Record record("m1", nullptr);

@@ -7,6 +7,8 @@
 #include "AxZedStateRepositoryUserExtensionFactory.h"
 #include "RecordFixture.h"
 
+#include <stdexcept>
+
 namespace
 {
 /// What a host might add.
@@ -74,6 +76,35 @@ TEST_F(AxZedStateRepositoryUserExtensionTest, TheTreeFormSaysTheSame)
     EXPECT_TRUE(back->fromXml(read->toXml())) << read->toXml().string();
     EXPECT_EQ(back->writtenText(), theText) << read->toXml().string();
     EXPECT_TRUE(findings.empty());
+}
+
+TEST_F(AxZedStateRepositoryUserExtensionTest, TheRecordsOwnVariablesAreKnown)
+{
+    constexpr char const* text = "(m1 (parameter-type \"zed-object-param\") (variable-bindings (rest 7.0))"
+                                 " (state-repository-extension-type \"crew-extension\")"
+                                 " (user-extension (fatigue $rest)))";
+    RecordPtr const read = record();
+    ASSERT_TRUE(readInto(*read, text));
+    RecordPtr const byCells = created(text);
+    for (AxZedObjectParameters const* each : {read.get(), byCells.get()})
+    {
+        auto const* const crew = dynamic_cast<CrewExtension const*>(each->stateRepositoryUserExtension());
+        ASSERT_TRUE(crew);
+        EXPECT_EQ(crew->fatigue.value(), 7.0);
+    }
+}
+
+TEST_F(AxZedStateRepositoryUserExtensionTest, ACreatorThatThrowsCostsTheExtensionAlone)
+{
+    AxZedStateRepositoryUserExtension::factory()->addCreator(
+        "thrower", [](AxString const&) -> AxZedStateRepositoryUserExtension* { throw std::runtime_error("no crew"); });
+    RecordPtr const read = created("(m1 (parameter-type \"zed-object-param\") (mass 3.0)"
+                                   " (state-repository-extension-type \"thrower\") (user-extension (fatigue 1.0)))");
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->mass(), 3.0);
+    EXPECT_EQ(read->stateRepositoryUserExtension(), nullptr);
+    EXPECT_NE(read->writtenText().find("(user-extension (fatigue 1.0))"), std::string::npos);
+    EXPECT_NE(warnings.text().find("Cannot create state repository user extension\n"), std::string::npos);
 }
 
 TEST_F(AxZedStateRepositoryUserExtensionTest, UnknownKeywordsStayWithTheExtension)

@@ -148,3 +148,23 @@ TEST_F(AxSimulationObjectGroupTest, ADirectoryGivesItsGroupsInOrder)
     EXPECT_EQ(warned(), path("none") + ": error: cannot be read as a directory: No such file or directory "
                                        "[unreadable-directory]\n");
 }
+
+TEST_F(AxSimulationObjectGroupTest, SavedToAnotherFileItStaysThere)
+{
+    put("sets/patrol.sog", "<simulationObjectGroup label=\"Patrol\"/>\n");
+    AxModelSet models("model-set", nullptr);
+    ASSERT_TRUE(
+        models.load(put("sets/a.models", "(model-set (simulation-object-group (label \"Patrol\") (object-type 5 0 "
+                                         "0 0 0 0 0 1) (filename \"patrol.sog\")))\n")));
+    Group* const ours = models.findSimulationObjectGroup("Patrol");
+    ASSERT_TRUE(ours && ours->readAllSimulationObject());
+    boost::filesystem::path const before = boost::filesystem::current_path();
+    boost::filesystem::current_path(directory());
+    EXPECT_TRUE(ours->save(AxFilename("patrol.sog")));
+    std::string const old = get("sets/patrol.sog");
+    ours->setGroupDescription("at dawn");
+    EXPECT_TRUE(ours->save());
+    boost::filesystem::current_path(before);
+    EXPECT_EQ(get("sets/patrol.sog"), old);
+    EXPECT_NE(get("patrol.sog").find("at dawn"), std::string::npos);
+}

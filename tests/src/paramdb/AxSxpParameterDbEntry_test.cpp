@@ -184,6 +184,18 @@ TEST_F(AxSxpParameterDbEntryTest, ReadingAgainKeepsTheRecordItself)
     EXPECT_EQ(held->mass(), 3.0);
 }
 
+TEST_F(AxSxpParameterDbEntryTest, ARecordThatIsReadAgainKeepsItsTypes)
+{
+    db.add(tanks, put("m1.ope", record("(mass 2.0)")), true, nullptr);
+    AxZedObjectParameters const* const held = db.lookup(tank);
+    ASSERT_TRUE(held);
+    put("m1.ope", record("(mass 3.0)"));
+    EXPECT_EQ(entryOf(db, tank)->load(), held);
+    EXPECT_EQ(held->mass(), 3.0);
+    EXPECT_EQ(held->objectType(), tanks);
+    EXPECT_EQ(held->matchType(), tanks);
+}
+
 TEST_F(AxSxpParameterDbEntryTest, ReadingAnotherTypeIsRefused)
 {
     entry.setFilename(put("m1.ope", record("(mass 2.0)")));

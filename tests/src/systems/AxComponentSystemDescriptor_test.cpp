@@ -4,6 +4,7 @@
 #include "AxRwReal.h"
 #include "AxRwVariableBindings.h"
 #include "AxSinkScope.h"
+#include "AxSystemRealParameterData.h"
 
 #include <gtest/gtest.h>
 
@@ -162,6 +163,26 @@ TEST(AxComponentSystemDescriptor, ResetLeavesAnEmptyUnchangedDefinition)
     EXPECT_TRUE(system.systemDefinition()->metaData().systemName().isNull());
     EXPECT_EQ(system.systemDefinitionFile().content(), system.systemDefinition());
     EXPECT_TRUE(system.hasChild(&system.systemDefinition()->metaData()));
+}
+
+TEST(AxComponentSystemDescriptor, CopyHasTheMembersOfItsSourceWhateverTheDefinitionDeclaresNow)
+{
+    Folder const folder;
+    folder.write("gun.sys", gunSystem);
+    AxSinkScope quiet(AxWarn);
+    AxComponentSystemDescriptor system("gun", nullptr);
+    read(system, "(gun (system-definition \"gun.sys\") (reload-time 6.0) (unheard-of 1))", folder);
+    system.resetSystemDefinition();
+    AxComponentSystemDescriptor const copy(system);
+    EXPECT_TRUE(copy == system);
+    EXPECT_EQ(copy.writtenText(), system.writtenText());
+    EXPECT_NE(copy.writtenText().find("(reload-time 6.0)\n  (unheard-of 1)"), std::string::npos);
+
+    AxComponentSystemDescriptor undeclared("gun", nullptr);
+    AxSystemRealParameterData speed("speed", nullptr);
+    speed.setParameterName("speed");
+    undeclared.systemDefinition()->metaData().paramterDataList().add(&speed);
+    EXPECT_TRUE(AxComponentSystemDescriptor(undeclared) == undeclared);
 }
 
 TEST(AxComponentSystemDescriptor, SettersMark)

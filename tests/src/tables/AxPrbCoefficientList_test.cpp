@@ -96,6 +96,10 @@ TEST(AxPrbCoefficientList, KeepsWhatIsNoPolynomialUnread)
     EXPECT_EQ(list.count(), 1);
     EXPECT_NE(warnings.text().find("table:1:28: error: a polynomial expects numbers"), std::string::npos);
     EXPECT_EQ(list.writtenText(), "(coefficients\n  (hit -0.0005 one)\n  (kill 0.5))\n");
+
+    read(list, "(coefficients (hit (1 2)) (kill $k 0.5) (seen $s) (none ($n 1 2)))");
+    EXPECT_EQ(list.count(), 2);
+    EXPECT_EQ(list.writtenText(), "(coefficients\n  (hit (1 2))\n  (kill $k 0.5)\n  (seen $s)\n  (none ($n 1 2)))\n");
 }
 
 TEST(AxPrbCoefficientList, FillsTheRowAnewEachTime)

@@ -1,5 +1,6 @@
 #include "AxPrbRangeTableEntry.h"
 
+#include "AxRwVariableBindings.h"
 #include "AxSinkScope.h"
 
 #include <gtest/gtest.h>
@@ -89,6 +90,37 @@ TEST(AxPrbRangeTableEntry, OutcomesMayBeVariablesButNotTheRange)
     read(other, "(range-entry near (hit 0.5))");
     EXPECT_NE(warnings.text().find("a row expects its range, a number, first"), std::string::npos);
     EXPECT_EQ(other.probability("hit"), 0.5);
+}
+
+TEST(AxPrbRangeTableEntry, NothingThatIsNoOutcomeIsLost)
+{
+    AxSinkScope quiet(AxWarn);
+    AxPrbRangeTableEntry row;
+    read(row, "(range-entry 100.0 hit (kill (0.5)) (seen ($s x y) 1))");
+    EXPECT_EQ(row.count(), 0);
+    std::string const text = "(range-entry 100.0\n  hit\n  (kill (0.5))\n  (seen ($s x y) 1))\n";
+    EXPECT_EQ(row.writtenText(), text);
+    AxPrbRangeTableEntry again;
+    read(again, text.c_str());
+    EXPECT_EQ(again.writtenText(), text);
+    EXPECT_EQ(AxPrbRangeTableEntry(row).writtenText(), text);
+}
+
+TEST(AxPrbRangeTableEntry, CopiesReferToTheVariablesToo)
+{
+    AxPrbRangeTableEntry row;
+    read(row, "(range-entry 100.0 (hit $p) (kill ($q 0.5)) (seen 0.25))");
+    AxPrbRangeTableEntry copy(row);
+    EXPECT_EQ(copy.writtenText(), row.writtenText());
+    AxRwVariableBindings values;
+    read(values, "(variable-bindings (p 0.75))");
+    copy.bindVariables({&values});
+    EXPECT_EQ(copy.probability("hit"), 0.75);
+    EXPECT_EQ(row.probability("hit"), 0.0);
+
+    read(row, "(range-entry 50.0 (hit 0.125) (kill 0.5))");
+    copy = row;
+    EXPECT_EQ(copy.writtenText(), "(range-entry 50.0 (hit 0.125) (kill 0.5))\n");
 }
 
 TEST(AxPrbRangeTableEntry, AssignmentReplacesAndReusesOutcomes)
