@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
 #include <string_view>
 #include <utility>
@@ -77,7 +78,15 @@ Command& Command::between(int least, int most)
 
 Command& Command::notNegative()
 {
-    myLast->check(CLI::NonNegativeNumber);
+    myLast->check(CLI::Validator(
+        [](std::string const& value)
+        {
+            double number = 0.0;
+            auto const [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+            bool const isFine = error == std::errc() && end == value.data() + value.size() && number >= 0.0;
+            return isFine ? std::string() : "expected a number, 0 or more, found \"" + value + "\"";
+        },
+        "NONNEGATIVE"));
     return *this;
 }
 

@@ -1,6 +1,8 @@
 #include "EditedValue.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -21,9 +23,9 @@ namespace
 {
 constexpr char const* theBlanks = " \t\r\n\f\v";
 
-auto key(AxDiagnostic const& finding)
+std::tuple<std::string_view, std::string_view> key(AxDiagnostic const& finding)
 {
-    return std::tie(finding.code, finding.text);
+    return {finding.code, finding.text};
 }
 } // namespace
 
@@ -146,8 +148,10 @@ std::string shownItem(std::string_view source)
 
 AxDiagnostic const* firstNew(std::vector<AxDiagnostic> const& findings, std::vector<AxDiagnostic> const& known)
 {
-    auto const found = std::ranges::find_if(findings, [&known](AxDiagnostic const& finding)
-                                            { return std::ranges::find(known, key(finding), key) == known.end(); });
+    std::set<std::tuple<std::string_view, std::string_view>> keys;
+    std::ranges::transform(known, std::inserter(keys, keys.end()), key);
+    auto const found =
+        std::ranges::find_if(findings, [&keys](AxDiagnostic const& finding) { return !keys.contains(key(finding)); });
     return found != findings.end() ? &*found : nullptr;
 }
 

@@ -61,6 +61,20 @@ AxEnvValue const* valueBelow(AxEnvObject const& object, std::span<SourceStep con
     return nullptr;
 }
 
+/// What names the definition of a system.
+AxEnvValue const* definitionOf(AxEnvObject const& system)
+{
+    for (AxEnvValuePtr const& node : system.children())
+    {
+        AxEnvObject const* const child = objectIn(node);
+        if (child != nullptr && child->type() == "systemName")
+        {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
 /// Takes the cells that the library would read a record of no known class from.
 class CellsOfElement : public AxReaderWriter
 {
@@ -155,6 +169,10 @@ AxEnvValue const* ElementSource::value(std::span<SourceStep const> path) const
     {
         return nullptr;
     }
+    if (path.size() == 2 && path.front().keyword == "variable-bindings")
+    {
+        return variable(path[1].keyword.view());
+    }
     // Systems are elements beside that of the record.
     bool const isInSystem = path.size() > 1 && path.front().keyword == "systems";
     for (AxEnvValuePtr const& node : myElement->children())
@@ -166,6 +184,10 @@ AxEnvValue const* ElementSource::value(std::span<SourceStep const> path) const
             matches(path[1], elementName(*child)))
         {
             found = path.size() == 2 ? child : valueBelow(*child, rest.subspan(2));
+            if (found == nullptr && path.size() == 3 && path[2].keyword == "system-definition")
+            {
+                found = definitionOf(*child);
+            }
         }
         else if (child != nullptr && child->type() == "platform")
         {

@@ -52,7 +52,7 @@ private:
     void take(UsedValue value, RecordWalk const& at)
     {
         std::string const text = valueText(at);
-        if (text.empty() || isRepeated(at))
+        if ((text.empty() && at.ownItem() != nullptr) || isRepeated(at))
         {
             return;
         }
@@ -64,6 +64,10 @@ private:
             return;
         }
         ++use.given;
+        if (text.empty()) // a list or record: its values stand under their own keywords
+        {
+            return;
+        }
         std::vector<Atom> atoms;
         appendAtoms(at, atoms);
         if (atoms.size() == 1 && atoms.front().isNumber)

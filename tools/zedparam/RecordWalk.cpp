@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "AxPrbRangeTableEntry.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwBoolean.h"
 #include "AxRwInt.h"
@@ -67,6 +68,12 @@ bool isPlainValue(AxReaderWriter const& rw)
     std::type_info const& type = typeid(rw);
     return type == typeid(AxRwReal) || type == typeid(AxRwBoolean) || type == typeid(AxRwString) ||
            type == typeid(AxRwInt) || type == typeid(AxRwUnsigned);
+}
+
+/// A row writes its outcomes as words of its own. As elements only references are come to, which words do not tell.
+bool isRow(AxReaderWriter const& rw)
+{
+    return dynamic_cast<AxPrbRangeTableEntry const*>(&rw) != nullptr;
 }
 
 /// The one keyword that the path goes on with; null when there may be several.
@@ -240,6 +247,7 @@ void RecordWalk::elements(AxReaderWriter& rw, Steps rest)
 {
     auto const* list = dynamic_cast<AxRwList const*>(&rw);
     AxListItem const* const first = list != nullptr ? list->first() : nullptr;
+    bool const onlyReferences = list != nullptr && isRow(rw);
     AxSymbolString const only = onlyKeyword(rest);
     Occurrences occurrences;
     std::vector<AxSymbolString> names;
@@ -252,9 +260,10 @@ void RecordWalk::elements(AxReaderWriter& rw, Steps rest)
     for (AxListItem const* item = first; item != nullptr; item = item->next(), ++name)
     {
         AxReaderWriter& element = *AxRwList::element(item);
-        if (only.isNull() || only == *name)
+        SourceStep const step = occurrences.next(*name, element);
+        if ((only.isNull() || only == *name) && (!onlyReferences || element.isVariableReference()))
         {
-            child(occurrences.next(*name, element), element, nullptr, rest);
+            child(step, element, nullptr, rest);
         }
     }
 }
@@ -315,10 +324,16 @@ void RecordWalk::words(AxReaderWriter& rw, AxlObj const& items, Steps rest)
     }
     for (AxlObj const* left = &items; left->isPair(); left = left->cdr())
     {
-        AxSymbolString const word = wordOf(*left->car());
-        if (!word.isNull() && (only.isNull() || only == word))
+        AxlObj const& item = *left->car();
+        AxSymbolString const word = wordOf(item);
+        if (word.isNull() || (!only.isNull() && only != word))
         {
-            child(occurrences.next(word, rw), rw, left->car(), rest);
+            continue;
+        }
+        SourceStep const step = occurrences.next(word, rw);
+        if (!isRow(rw) || !item.cdr()->car()->isReference())
+        {
+            child(step, rw, &item, rest);
         }
     }
 }

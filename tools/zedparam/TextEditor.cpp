@@ -102,9 +102,15 @@ bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::s
     {
         for (std::size_t i = 0; i < before.size(); ++i)
         {
-            if (before[i].source() != after[i].source())
+            std::string bytes(after[i].source());
+            if (before[i].isString() && !after[i].isString() && isLeadingItem(path.names.back()))
             {
-                patches.push_back({before[i].begin(), before[i].end(), std::string(after[i].source())});
+                bytes.clear();
+                axAppendQuoted(bytes, after[i].value());
+            }
+            if (before[i].source() != bytes)
+            {
+                patches.push_back({before[i].begin(), before[i].end(), std::move(bytes)});
             }
         }
     }

@@ -10,6 +10,7 @@
 #include "AxEnvXMLWriter.h"
 #include "AxRwList.h"
 #include "AxRwProperty.h"
+#include "AxSourceScope.h"
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
 #include "AxlPrint.h"
@@ -137,6 +138,7 @@ std::unique_ptr<XmlEditor::Document> XmlEditor::read(std::string const& text)
     }
     auto document = std::make_unique<Document>();
     Findings findings(Findings::Print::Never);
+    AxSourceScope const scope{AxFilename(file())};
     document->tree = AxEnvXMLReader::readText(text, AxFilename(file()));
     std::list<AxEnvValuePtr> elements;
     std::string names;
