@@ -10,8 +10,6 @@
 #include <cstring>
 #include <filesystem>
 
-namespace fs = std::filesystem; // Boost's create_directories ends the process when memory runs out
-
 namespace
 {
 AxRunningSave* theCurrent = nullptr;
@@ -45,7 +43,7 @@ AxRunningSave::~AxRunningSave()
     {
         // Stays when it holds anything.
         std::error_code ignored;
-        fs::remove(myMadeDirectory.native(), ignored);
+        std::filesystem::remove(myMadeDirectory.native(), ignored);
     }
 }
 
@@ -56,8 +54,8 @@ AxRunningSave* AxRunningSave::current()
 
 void AxRunningSave::startDirectory(AxFilename const& directory)
 {
-    std::error_code error;
-    bool const isNew = fs::create_directories(directory.native(), error);
+    std::error_code error; // Boost's function ends the process when memory runs out
+    bool const isNew = std::filesystem::create_directories(directory.native(), error);
     AxInfo("Creating parameter file directory %s\n", directory.native().c_str());
     if (error)
     {
@@ -75,8 +73,8 @@ void AxRunningSave::startDirectory(AxFilename const& directory)
             dynamic_cast<AxSxpParameterDbEntry const*>(static_cast<AxZedParameterDbEntry const*>(item->data()));
         AxFilename const found =
             entry != nullptr && entry->parameters() == nullptr ? entry->foundFilename() : AxFilename();
-        if (!found.isNull() &&
-            fs::equivalent(fs::absolute(found.native()).parent_path(), fs::path(directory.native()), error))
+        if (!found.isNull() && std::filesystem::equivalent(std::filesystem::absolute(found.native()).parent_path(),
+                                                           std::filesystem::path(directory.native()), error))
         {
             unusedName(found.stripPath());
         }

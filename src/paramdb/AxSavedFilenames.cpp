@@ -9,8 +9,6 @@
 #include <algorithm>
 #include <filesystem>
 
-namespace fs = std::filesystem; // Boost's comparison of paths ends the process when memory runs out
-
 namespace
 {
 /// The file members of a record with relative names; not those in files that it names, which have names of their own.
@@ -41,14 +39,15 @@ void collect(AxReaderWriter& rw, std::vector<AxReaderWriterFile*>& files)
     }
 }
 
-fs::path canonical(AxFilename const& file)
+// By the standard library: Boost's comparison of paths ends the process when memory runs out.
+std::filesystem::path canonical(AxFilename const& file)
 {
     std::error_code ignored;
-    return fs::weakly_canonical(fs::absolute(file.native(), ignored), ignored);
+    return std::filesystem::weakly_canonical(std::filesystem::absolute(file.native(), ignored), ignored);
 }
 
 /// The file that the member names; empty when there is none.
-fs::path foundFile(AxReaderWriterFile const& member, std::vector<AxFilename> const& directories)
+std::filesystem::path foundFile(AxReaderWriterFile const& member, std::vector<AxFilename> const& directories)
 {
     AxFilename found = member.foundFilename();
     if (found.isNull())
@@ -56,7 +55,7 @@ fs::path foundFile(AxReaderWriterFile const& member, std::vector<AxFilename> con
         AxFilePtr const open(AxReaderWriterFile::loadHighestPriorityFile(member.filename(), directories, found, true));
         found = open ? found : AxFilename();
     }
-    return found.isNull() ? fs::path() : canonical(found);
+    return found.isNull() ? std::filesystem::path() : canonical(found);
 }
 } // namespace
 
@@ -78,7 +77,7 @@ void AxSavedFilenames::settle(AxSxpParameterDbEntry const& entry, AxFilename con
     }
     for (AxReaderWriterFile* const member : members)
     {
-        fs::path place = foundFile(*member, directories);
+        std::filesystem::path place = foundFile(*member, directories);
         if (place.empty())
         {
             continue;
@@ -94,7 +93,7 @@ void AxSavedFilenames::settle(AxSxpParameterDbEntry const& entry, AxFilename con
         {
             continue;
         }
-        fs::path const name = place.lexically_relative(canonical(directory));
+        std::filesystem::path const name = place.lexically_relative(canonical(directory));
         myFormer.push_back({member, member->filename()});
         member->nameAnew(AxFilename((name.empty() ? place : name).generic_string()));
     }

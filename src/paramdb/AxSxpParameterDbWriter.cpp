@@ -18,8 +18,6 @@
 #include <filesystem>
 #include <memory>
 
-namespace fs = std::filesystem;
-
 namespace
 {
 constexpr int theSavedVersion = 101;
@@ -51,7 +49,7 @@ bool copyFile(AxFilename const& from, AxFilename const& to, AxFileTransaction& f
     std::error_code ignored;
     if (AxFilename const directory = to.directory(); !directory.isNull())
     {
-        fs::create_directories(directory.native(), ignored);
+        std::filesystem::create_directories(directory.native(), ignored);
     }
     return axReadWholeFile(from, text, error) && files.stage(to, text, error);
 }
@@ -69,7 +67,7 @@ void copyDependentFiles(AxSxpParameterDb::CopyPairs const& pairs, AxFileTransact
         AxFilename const to(toText);
         AxInfo << "From: " << from << " To: " << to << AxEndl;
         std::error_code error;
-        if (!fs::equivalent(from.native(), to.native(), error) && !copyFile(from, to, files))
+        if (!std::filesystem::equivalent(from.native(), to.native(), error) && !copyFile(from, to, files))
         {
             AxWarn << "Error copying " << from << " to " << to << AxEndl;
         }
