@@ -107,7 +107,7 @@ protected:
             other->setName("one");
             count += fill(*one, hostile);
             std::string const text = one->writtenText(true);
-            EXPECT_TRUE(readInto(*other, text)) << text;
+            EXPECT_TRUE(readFrom(*other, text)) << text;
             EXPECT_TRUE(other->writtenText(true) == text) << text.substr(0, 20000) << other->writtenText(true);
             std::unique_ptr<AxReaderWriter> copy;
             if constexpr (requires { one->clone("one", nullptr); })

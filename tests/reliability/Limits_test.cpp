@@ -29,7 +29,7 @@ protected:
     std::string ofText(std::string const& text)
     {
         RecordPtr const read = made("zed-object-param");
-        readInto(*read, text);
+        readFrom(*read, text);
         return only();
     }
 };

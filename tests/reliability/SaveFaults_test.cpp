@@ -257,7 +257,7 @@ TEST_F(SaveFaults, FilesThatStandAlone)
     saves[1].read = [this]
     {
         AxRangeProbabilityTable table{"hits", nullptr};
-        EXPECT_TRUE(readInto(table, get("a.hit")));
+        EXPECT_TRUE(readFrom(table, get("a.hit")));
     };
     saves[2].before = {{"a.models", "(model-set (comment \"old\"))\n"}};
     saves[2].begin = [this]

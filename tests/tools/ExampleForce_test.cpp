@@ -26,10 +26,9 @@
 
 namespace
 {
-namespace fs = std::filesystem;
 
 std::string const theForce = ZEDOBJPARAM_SOURCE_DIR "/examples/force/";
-AxObjectType const theTank(1, 1, 225, 1, 1, 3, 0, 1);
+AxObjectType const theTankType(1, 1, 225, 1, 1, 3, 0, 1);
 
 /// What comes from the example directory must come without a warning.
 class ExampleForce : public testing::Test
@@ -98,7 +97,7 @@ TEST_F(ExampleForce, ArmorAnswersByMunitionSurfaceAngleAndMiss)
 {
     std::unique_ptr<AxSxpParameterDb> const database = loadAll(theForce + "force.opd");
     AxComponentSystemDescriptor const* armor =
-        database->lookup(theTank)->systemDescriptorList().lookupComponentSystemDescriptor("armor");
+        database->lookup(theTankType)->systemDescriptorList().lookupComponentSystemDescriptor("armor");
     auto const& assessor = dynamic_cast<AxScriptEnableControllerDescriptor const&>(
         *armor->systemDefinition()->controllerDescriptorList().lookupComponentDescriptor("damage-assessor"));
     auto const& table = dynamic_cast<AxDmgMunitionTable const&>(*assessor.scriptVariables().find("damage")->rwValue());
@@ -121,7 +120,7 @@ TEST_F(ExampleForce, ArmorAnswersByMunitionSurfaceAngleAndMiss)
 TEST_F(ExampleForce, SystemsTakeTheValuesThatTheRecordSets)
 {
     std::unique_ptr<AxSxpParameterDb> const database = loadAll(theForce + "force.opd");
-    AxZedObjectParameters const* tank = database->lookup(theTank);
+    AxZedObjectParameters const* tank = database->lookup(theTankType);
     ASSERT_NE(tank, nullptr);
     EXPECT_EQ(tank->minTickPeriod(), 0.1);
     auto const rangeOf = [&](char const* system)
@@ -138,7 +137,7 @@ TEST_F(ExampleForce, SystemsTakeTheValuesThatTheRecordSets)
 TEST_F(ExampleForce, GunsOfOneDefinitionShareTheHitTableOfItsFile)
 {
     std::unique_ptr<AxSxpParameterDb> const database = loadAll(theForce + "force.opd");
-    for (AxObjectType const& type : {theTank, AxObjectType(1, 1, 225, 1, 1, 1, 0, 1)})
+    for (AxObjectType const& type : {theTankType, AxObjectType(1, 1, 225, 1, 1, 1, 0, 1)})
     {
         AxComponentSystemDescriptor const* system =
             database->lookup(type)->systemDescriptorList().lookupComponentSystemDescriptor("main-gun");
@@ -185,9 +184,10 @@ TEST_F(ExampleForce, EachKindOfRecordAppearsAndEachSubordinateHasAnEntry)
 
 TEST_F(ExampleForce, ComesBackEqualFromASave)
 {
-    fs::path const copy = fs::path(ZEDOBJPARAM_BINARY_DIR) / "example-force-copy"; // one for each checkout
-    fs::remove_all(copy);
-    fs::copy(theForce, copy, fs::copy_options::recursive);
+    std::filesystem::path const copy =
+        std::filesystem::path(ZEDOBJPARAM_BINARY_DIR) / "example-force-copy"; // one for each checkout
+    std::filesystem::remove_all(copy);
+    std::filesystem::copy(theForce, copy, std::filesystem::copy_options::recursive);
     std::unique_ptr<AxSxpParameterDb> const original = loadAll((copy / "force.opd").string());
     EXPECT_TRUE(original->save(AxFilename((copy / "saved.opd").string())));
     std::unique_ptr<AxSxpParameterDb> const saved = loadAll((copy / "saved.opd").string());
@@ -200,7 +200,7 @@ TEST_F(ExampleForce, ComesBackEqualFromASave)
         ASSERT_NE(record, nullptr) << entry.objectType().string().string();
         EXPECT_TRUE(record->equals(*entry.parameters())) << entry.objectType().string().string();
     }
-    fs::remove_all(copy);
+    std::filesystem::remove_all(copy);
 }
 
 TEST_F(ExampleForce, EachModelHasAnEntryAndEachObjectOfAGroupAModel)
@@ -249,7 +249,7 @@ TEST_F(ExampleForce, CollectionPassesValuesDown)
 {
     AxZedObjectParametersDB collection("parameter-list", nullptr);
     ASSERT_TRUE(collection.init() && collection.readParameterFile(theForce + "collection.params"));
-    auto const* tank = dynamic_cast<AxMovingObjectParameters const*>(collection.lookupParameters(theTank, nullptr));
+    auto const* tank = dynamic_cast<AxMovingObjectParameters const*>(collection.lookupParameters(theTankType, nullptr));
     ASSERT_NE(tank, nullptr);
     EXPECT_EQ(tank->mass(), 62100.0);
     EXPECT_EQ(tank->maxSpeed(), 18.6) << "from the M1";

@@ -1,5 +1,6 @@
 #include "TextEditor.h"
 
+#include "Edited.h"
 #include "ExampleTexts.h"
 
 #include <gtest/gtest.h>
@@ -15,17 +16,11 @@ std::string record(std::string const& items)
     return "(a (parameter-type \"moving-object-param\")" + items + ")\n";
 }
 
-/// The text after an edit, "PATH=VALUE" or "-PATH"; the code of the fault when it was refused.
-std::string edited(std::string const& text, std::string const& edit, bool force = false)
+std::string editedText(std::string const& text, std::string const& edit, bool force = false)
 {
     TextReading reading("a.ope");
     TextEditor editor("a.ope", text, reading, force);
-    std::size_t const equals = edit.find('=');
-    bool const isDone = edit.starts_with('-') ? editor.unset(edit.substr(1))
-                                              : editor.set(edit.substr(0, equals), edit.substr(equals + 1));
-    EXPECT_TRUE(isDone || editor.text() == text);
-    EXPECT_EQ(editor.changes().empty(), editor.text() == text);
-    return isDone ? editor.text() : editor.fault().code;
+    return edited(editor, text, edit);
 }
 
 struct ValuePath
@@ -120,11 +115,11 @@ TEST(TextEditor, ChangesTheBytesOfTheValueAlone)
     for (auto const& [before, edit, after] : cases)
     {
         bool const isFault = after.find('(') == std::string::npos;
-        EXPECT_EQ(edited(record(before), edit), isFault ? after : record(after)) << before << edit;
+        EXPECT_EQ(editedText(record(before), edit), isFault ? after : record(after)) << before << edit;
     }
-    EXPECT_EQ(edited(record("(hue red)"), "hue=blue", true), record("(hue blue)"));
-    EXPECT_EQ(edited(record("(mass 5.0)"), "mass=heavy", true), record("(mass heavy)"));
-    EXPECT_EQ(edited(record("(mass 5.0)"), "mass=6)(x", true), "no-value");
+    EXPECT_EQ(editedText(record("(hue red)"), "hue=blue", true), record("(hue blue)"));
+    EXPECT_EQ(editedText(record("(mass 5.0)"), "mass=heavy", true), record("(mass heavy)"));
+    EXPECT_EQ(editedText(record("(mass 5.0)"), "mass=6)(x", true), "no-value");
 }
 
 TEST(TextEditor, InsertsInTheLayoutOfTheNeighbours)
@@ -153,9 +148,9 @@ TEST(TextEditor, InsertsInTheLayoutOfTheNeighbours)
     for (auto const& [before, edit, after] : cases)
     {
         bool const isFault = after.find('(') == std::string::npos;
-        EXPECT_EQ(edited(record(before), edit), isFault ? after : record(after)) << before << edit;
+        EXPECT_EQ(editedText(record(before), edit), isFault ? after : record(after)) << before << edit;
     }
-    EXPECT_EQ(edited(record("(mass 1.0)"), "hue=red", true), record("(mass 1.0) (hue red)"));
+    EXPECT_EQ(editedText(record("(mass 1.0)"), "hue=red", true), record("(mass 1.0) (hue red)"));
 }
 
 TEST(TextEditor, TakesOutAnItemWithItsLine)
@@ -180,7 +175,7 @@ TEST(TextEditor, TakesOutAnItemWithItsLine)
     for (auto const& [before, edit, after] : cases)
     {
         bool const isFault = after.find_first_of("(\n") == std::string::npos;
-        EXPECT_EQ(edited(record(before), edit), isFault ? after : record(after)) << before << edit;
+        EXPECT_EQ(editedText(record(before), edit), isFault ? after : record(after)) << before << edit;
     }
 }
 
@@ -189,10 +184,10 @@ TEST(TextEditor, KnowsEntriesOfADatabaseByTheirTypes)
     std::string const text = "(parameter-database\n  (parameter-files ; all\n"
                              "    (parameter-entry (object-type 1 1 1 1 1 1 1 1) (filename \"a.ope\"))\n"
                              "    (parameter-entry (object-type 1 1 1 1 1 1 -1 -1) (filename \"b.ope\"))))\n";
-    EXPECT_EQ(edited(text, "parameter-files/1:1:1:1:1:1:-1:-1/filename=c d.ope"),
+    EXPECT_EQ(editedText(text, "parameter-files/1:1:1:1:1:1:-1:-1/filename=c d.ope"),
               std::string(text).replace(text.find("b.ope"), 5, "c d.ope"));
-    EXPECT_EQ(edited(text, "parameter-files/1:1:1:1:1:1:2:2/filename=c.ope"), "unknown-keyword");
-    EXPECT_EQ(edited(text, "version=101"), std::string(text).insert(19, "\n  (version 101)"));
+    EXPECT_EQ(editedText(text, "parameter-files/1:1:1:1:1:1:2:2/filename=c.ope"), "unknown-keyword");
+    EXPECT_EQ(editedText(text, "version=101"), std::string(text).insert(19, "\n  (version 101)"));
 }
 
 TEST(TextEditor, GivesTheSameBytesWhenAValueIsSetBack)

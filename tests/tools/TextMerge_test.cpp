@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(All, TextMergeTest, testing::ValuesIn(theMergings),
 
 using Values = std::map<int, int>; // of keyword and value
 
-std::string written(Values const& values, std::mt19937& random)
+std::string textOf(Values const& values, std::mt19937& random)
 {
     auto const blank = [&random]
     {
@@ -122,7 +122,7 @@ std::string written(Values const& values, std::mt19937& random)
     return text + blank() + ")";
 }
 
-Values read(std::string const& text)
+Values valuesOf(std::string const& text)
 {
     Values values;
     TextTree const tree(text);
@@ -134,7 +134,7 @@ Values read(std::string const& text)
 }
 
 /// Sets, adds or removes some values with those keywords.
-Values edited(Values values, int remainder, std::mt19937& random)
+Values changed(Values values, int remainder, std::mt19937& random)
 {
     for (int keyword = remainder; keyword < 24; keyword += 2)
     {
@@ -159,9 +159,9 @@ TEST(TextMerge, ChangesOfDifferentKeywordsAllArrive)
     int merged = 0;
     for (int i = 0; i < 500; ++i)
     {
-        Values const base = edited({{0, 1}, {3, 1}, {8, 1}, {9, 1}, {12, 1}, {15, 1}}, i % 2, random);
-        Values const ours = edited(base, 0, random);
-        Values const theirs = edited(base, 1, random);
+        Values const base = changed({{0, 1}, {3, 1}, {8, 1}, {9, 1}, {12, 1}, {15, 1}}, i % 2, random);
+        Values const ours = changed(base, 0, random);
+        Values const theirs = changed(base, 1, random);
         Values expected = ours;
         for (int keyword = 1; keyword < 24; keyword += 2)
         {
@@ -171,14 +171,14 @@ TEST(TextMerge, ChangesOfDifferentKeywordsAllArrive)
                 expected.insert(*found);
             }
         }
-        std::string const baseText = written(base, random);
-        std::string const oursText = written(ours, random);
-        std::string const theirsText = written(theirs, random);
+        std::string const baseText = textOf(base, random);
+        std::string const oursText = textOf(ours, random);
+        std::string const theirsText = textOf(theirs, random);
         MergeResult const result = mergeTexts(baseText, oursText, theirsText, {});
         if (result.conflicts.empty()) // comments may be in each other's way
         {
             ++merged;
-            EXPECT_EQ(read(result.text), expected) << baseText << "\n" << oursText << "\n" << theirsText;
+            EXPECT_EQ(valuesOf(result.text), expected) << baseText << "\n" << oursText << "\n" << theirsText;
         }
         EXPECT_EQ(mergeTexts(baseText, oursText, baseText, {}).text, oursText);
         EXPECT_EQ(mergeTexts(baseText, baseText, theirsText, {}).text, theirsText);

@@ -1,6 +1,7 @@
 #include "XmlEditor.h"
 
 #include "Database.h"
+#include "Edited.h"
 #include "ExampleTexts.h"
 #include "ReadContext.h"
 #include "XmlText.h"
@@ -10,18 +11,12 @@
 
 namespace
 {
-/// The text after an edit, "PATH=VALUE" or "-PATH"; the code of the fault when it was refused.
-std::string edited(std::string const& text, std::string const& edit, bool force = false)
+std::string editedXml(std::string const& text, std::string const& edit, bool force = false)
 {
     std::unique_ptr<Database> const database = Database::openNone();
     ReadContext const context("a.entity", *database);
     XmlEditor editor("a.entity", text, {}, context, force);
-    std::size_t const equals = edit.find('=');
-    bool const isDone = edit.starts_with('-') ? editor.unset(edit.substr(1))
-                                              : editor.set(edit.substr(0, equals), edit.substr(equals + 1));
-    EXPECT_TRUE(isDone || editor.text() == text);
-    EXPECT_EQ(editor.changes().empty(), editor.text() == text);
-    return isDone ? editor.text() : editor.fault().code;
+    return edited(editor, text, edit);
 }
 
 std::string object(std::string const& platform)
@@ -86,11 +81,11 @@ TEST(XmlEditor, ChangesTheBytesOfTheValueAlone)
     for (auto const& [before, edit, after] : cases)
     {
         bool const isFault = after.find('>') == std::string::npos;
-        EXPECT_EQ(edited(object(before), edit), isFault ? after : object(after)) << before << edit;
+        EXPECT_EQ(editedXml(object(before), edit), isFault ? after : object(after)) << before << edit;
     }
-    EXPECT_EQ(edited(object(" hue='red'/>"), "hue=blue", true), object(" hue='blue'/>"));
-    EXPECT_EQ(edited("<entities><simObject name='a'/><simObject name='b'/></entities>", "mass=1"), "no-object");
-    EXPECT_EQ(edited("<simObject>", "mass=1"), "unreadable");
+    EXPECT_EQ(editedXml(object(" hue='red'/>"), "hue=blue", true), object(" hue='blue'/>"));
+    EXPECT_EQ(editedXml("<entities><simObject name='a'/><simObject name='b'/></entities>", "mass=1"), "no-object");
+    EXPECT_EQ(editedXml("<simObject>", "mass=1"), "unreadable");
 }
 
 TEST(XmlEditor, GivesTheSameBytesWhenAValueIsSetBack)

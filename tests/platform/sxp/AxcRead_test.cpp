@@ -9,30 +9,17 @@
 #include "AxNumberText.h"
 #include "AxSinkScope.h"
 #include "AxStreams.h"
-#include "AxlPrint.h"
 #include "AxlSyntaxError.h"
+#include "platform/sxp/Cells.h"
 
 namespace
 {
-AxlObjPtr read(std::string text)
-{
-    AxlInputStream stream(std::move(text));
-    return AxcRead(stream);
-}
-
-std::string printed(AxlObjPtr const& cell)
-{
-    std::string text;
-    axAppendCell(text, cell.get());
-    return text;
-}
-
 /// "line:column code text" of the error that reading ends in; "" when it does not.
-std::string errorOf(std::string text)
+std::string errorOf(std::string const& text)
 {
     try
     {
-        read(std::move(text));
+        cellsOf(text);
     }
     catch (AxlSyntaxError const& error)
     {
@@ -73,7 +60,7 @@ TEST(AxcRead, TellsNumbersFromSymbols)
                             {"0.000000000000001", 1e-15, false},
                             {"1.7976931348623157e308", 1.7976931348623157e308, false}})
     {
-        AxlObjPtr cell = read(one.text);
+        AxlObjPtr cell = cellsOf(one.text);
         ASSERT_EQ(cell->tag(), AxlObj::Tag::Number) << one.text;
         EXPECT_EQ(cell->flonum(), one.value) << one.text;
         EXPECT_EQ(cell->isInteger(), one.integer) << one.text;
@@ -83,7 +70,7 @@ TEST(AxcRead, TellsNumbersFromSymbols)
          {"120mm-heat", "1:2:225", "inf", "nan", "0x10", "5-ton", "+",  "-",   ".",        "...", "-a",  "1.2.3",
           "1e",         "1e+",     "e5",  "1E",  "'a",   "|a|",   "#t", "a.b", "\xC3\xA4", "\\",  "a!b", "!!!!!!!!!!!"})
     {
-        AxlObjPtr cell = read(text);
+        AxlObjPtr cell = cellsOf(text);
         ASSERT_EQ(cell->tag(), AxlObj::Tag::Symbol) << text;
         EXPECT_EQ(cell->pname(), text);
         EXPECT_EQ(cell->flonum(), 0.0);
@@ -104,7 +91,7 @@ TEST(AxcRead, ReadsEveryDecimalToTheNearestDouble)
         }
         double slowly = 0.0;
         ASSERT_TRUE(axParseReal(text, slowly));
-        AxlObjPtr cell = read(text);
+        AxlObjPtr cell = cellsOf(text);
         ASSERT_EQ(cell->flonum(), slowly) << text;
         ASSERT_EQ(cell->pname(), text);
     }
@@ -112,7 +99,7 @@ TEST(AxcRead, ReadsEveryDecimalToTheNearestDouble)
 
 TEST(AxcRead, KeepsANumberBeyondRangeAsSymbol)
 {
-    AxlObjPtr cell = read("(mass\n 1e999)");
+    AxlObjPtr cell = cellsOf("(mass\n 1e999)");
     EXPECT_EQ(AxcCadr(cell)->tag(), AxlObj::Tag::Symbol);
     EXPECT_EQ(printed(cell), "(mass 1e999)");
 }
@@ -137,33 +124,33 @@ TEST(AxcRead, ReadsStringsByteForByte)
                            {"\"a\r\nb;c(\"", "a\r\nb;c("},
                            {"\"\0\x01\xFF\""s, "\0\x01\xFF"s}})
     {
-        AxlObjPtr cell = read(one.written);
+        AxlObjPtr cell = cellsOf(one.written);
         ASSERT_EQ(cell->tag(), AxlObj::Tag::String) << one.written;
         EXPECT_EQ(cell->text(), one.text);
         EXPECT_EQ(cell->string(), one.text);
-        EXPECT_EQ(read(printed(cell))->text(), one.text);
+        EXPECT_EQ(cellsOf(printed(cell))->text(), one.text);
     }
 }
 
 TEST(AxcRead, SkipsBlanksAndComments)
 {
-    EXPECT_EQ(printed(read("; c\r\n\t\f\v (a;(x\n b \r c);)")), "(a b c)");
-    EXPECT_EQ(printed(read("(a\"s\"5\"t\"(b)c)")), "(a \"s\" 5 \"t\" (b) c)");
-    EXPECT_EQ(printed(read("\xEF\xBB\xBF(a)")), "(a)");
-    EXPECT_EQ(printed(read("(a () ( ) (()))")), "(a () () (()))");
+    EXPECT_EQ(printed(cellsOf("; c\r\n\t\f\v (a;(x\n b \r c);)")), "(a b c)");
+    EXPECT_EQ(printed(cellsOf("(a\"s\"5\"t\"(b)c)")), "(a \"s\" 5 \"t\" (b) c)");
+    EXPECT_EQ(printed(cellsOf("\xEF\xBB\xBF(a)")), "(a)");
+    EXPECT_EQ(printed(cellsOf("(a () ( ) (()))")), "(a () () (()))");
 }
 
 TEST(AxcRead, AnswersTheOneEndOfFileCell)
 {
     for (char const* text : {"", "  \n", "; nothing", "; nothing\n", "\xEF\xBB\xBF"})
     {
-        EXPECT_EQ(read(text).get(), AxlObj::eofCell()) << text;
+        EXPECT_EQ(cellsOf(text).get(), AxlObj::eofCell()) << text;
     }
 }
 
 TEST(AxcRead, GivesEveryCellItsPlace)
 {
-    AxlObjPtr cell = read("; x\n(a \"b\nc\" 12\n\t(d\n ()))");
+    AxlObjPtr cell = cellsOf("; x\n(a \"b\nc\" 12\n\t(d\n ()))");
     EXPECT_EQ(placeOf(cell.get()), "2:1");
     EXPECT_EQ(placeOf(cell->car()), "2:2");
     EXPECT_EQ(placeOf(AxcCadr(cell).get()), "2:4");
@@ -177,13 +164,13 @@ TEST(AxcRead, GivesEveryCellItsPlace)
 
 TEST(AxcRead, MarksReferences)
 {
-    EXPECT_TRUE(read("$v")->isReference());
-    EXPECT_FALSE(read("$")->isReference());
-    EXPECT_FALSE(read("a$")->isReference());
-    EXPECT_FALSE(read("\"$v\"")->isReference());
-    EXPECT_TRUE(read("\"data/$(dir)/x\"")->hasEmbeddedReference());
-    EXPECT_TRUE(read("\"a long text with a $(reference) in it\"")->hasEmbeddedReference());
-    EXPECT_FALSE(read("\"$ (\"")->hasEmbeddedReference());
+    EXPECT_TRUE(cellsOf("$v")->isReference());
+    EXPECT_FALSE(cellsOf("$")->isReference());
+    EXPECT_FALSE(cellsOf("a$")->isReference());
+    EXPECT_FALSE(cellsOf("\"$v\"")->isReference());
+    EXPECT_TRUE(cellsOf("\"data/$(dir)/x\"")->hasEmbeddedReference());
+    EXPECT_TRUE(cellsOf("\"a long text with a $(reference) in it\"")->hasEmbeddedReference());
+    EXPECT_FALSE(cellsOf("\"$ (\"")->hasEmbeddedReference());
 }
 
 TEST(AxcRead, NamesThePlaceOfEverySyntaxError)
@@ -213,7 +200,7 @@ TEST(AxcRead, NamesThePlaceOfEverySyntaxError)
 TEST(AxcRead, RefusesListsNestedTooDeep)
 {
     std::string const deepest = std::string(1000, '(') + std::string(1000, ')');
-    EXPECT_EQ(printed(read(deepest)), deepest);
+    EXPECT_EQ(printed(cellsOf(deepest)), deepest);
     EXPECT_EQ(errorOf(std::string(100000, '(') + std::string(100000, ')')),
               "1:1001 nesting-limit lists are nested deeper than 1000");
 }

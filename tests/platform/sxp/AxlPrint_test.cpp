@@ -9,23 +9,10 @@
 
 #include "AxSinkScope.h"
 #include "AxStreams.h"
-#include "AxlFunctions.h"
+#include "platform/sxp/Cells.h"
 
 namespace
 {
-std::string printed(AxlObjPtr const& cell)
-{
-    std::string text;
-    axAppendCell(text, cell.get());
-    return text;
-}
-
-AxlObjPtr read(std::string text)
-{
-    AxlInputStream stream(std::move(text));
-    return AxcRead(stream);
-}
-
 bool equal(AxlObj const* a, AxlObj const* b)
 {
     for (; a->isPair() && b->isPair(); a = a->cdr(), b = b->cdr())
@@ -92,9 +79,9 @@ TEST(AxlPrint, ReadsBackEqual)
     for (unsigned seed = 0; seed < 2000; ++seed)
     {
         std::string const text = Expressions(seed).list(4);
-        AxlObjPtr first = read(text);
+        AxlObjPtr first = cellsOf(text);
         std::string const once = printed(first);
-        AxlObjPtr second = read(once);
+        AxlObjPtr second = cellsOf(once);
         ASSERT_TRUE(equal(first.get(), second.get())) << text << "\n" << once;
         ASSERT_EQ(printed(second), once);
     }
@@ -103,14 +90,14 @@ TEST(AxlPrint, ReadsBackEqual)
 TEST(AxlPrint, KeepsTheSpellingOfNumbers)
 {
     std::string const text = "(007 +5 1.50 1e3 5. .5 -0 -0.0 100000000000000000000 0.00001 123456789.123456789 0.10)";
-    EXPECT_EQ(printed(read(text)), text);
+    EXPECT_EQ(printed(cellsOf(text)), text);
 }
 
 TEST(AxlPrint, QuotesSymbolsThatWouldReadAsSomethingElse)
 {
     for (char const* text : {"", "12", "a b", "(", "a;b", "say \"x\""})
     {
-        AxlObjPtr again = read(printed(AxcSymbol(text)));
+        AxlObjPtr again = cellsOf(printed(AxcSymbol(text)));
         EXPECT_EQ(again->tag(), AxlObj::Tag::String) << text;
         EXPECT_EQ(again->text(), text);
     }

@@ -4,6 +4,7 @@
 #include "AxRwInt.h"
 #include "AxRwTemplatedListPtr.h"
 #include "AxRwVariableBindings.h"
+#include "Folder.h"
 #include "platform/zedutil/Reading.h"
 
 #include <cerrno>
@@ -17,35 +18,6 @@
 
 namespace
 {
-/// A directory of its own for each test.
-class Folder
-{
-public:
-    Folder()
-    {
-        std::string name = ::testing::TempDir() + "zedutil-XXXXXX";
-        myPath = ::mkdtemp(name.data());
-    }
-    ~Folder()
-    {
-        std::string const command = "rm -r '" + myPath + '\'';
-        EXPECT_EQ(std::system(command.c_str()), 0);
-    }
-    std::string const& path() const { return myPath; }
-    std::string file(std::string const& name) const { return myPath + '/' + name; }
-    void make(std::string const& name) const { ::mkdir(file(name).c_str(), 0755); }
-    void write(std::string const& name, std::string const& text) const { std::ofstream(file(name)) << text; }
-    std::string text(std::string const& name) const
-    {
-        std::ifstream in(file(name));
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-    AxFilenameList search() const { return {AxFilename(myPath)}; }
-
-private:
-    std::string myPath;
-};
-
 class Row : public AxReaderWriter
 {
 public:

@@ -4,6 +4,7 @@
 #include "AxEnvXMLReader.h"
 #include "AxRwVariableBindings.h"
 #include "AxSinkScope.h"
+#include "platform/zedutil/Reading.h"
 
 #include <boost/filesystem/operations.hpp>
 #include <boost/make_shared.hpp>
@@ -15,33 +16,6 @@ using machine::theWholeText;
 
 namespace
 {
-struct Findings
-{
-    Findings()
-        : previous(AxDiagnostics::setSink([this](AxDiagnostic const& found) { all.push_back(found); })),
-          quiet(AxWarn, [](std::string const&) {})
-    {
-    }
-    ~Findings() { AxDiagnostics::setSink(previous); }
-    std::string codes() const
-    {
-        std::string text;
-        for (AxDiagnostic const& found : all)
-        {
-            text += (text.empty() ? "" : " ") + found.code + '@' + std::to_string(found.line);
-        }
-        return text;
-    }
-    std::vector<AxDiagnostic> all;
-    AxDiagnostics::Sink previous;
-    AxSinkScope quiet;
-};
-
-bool read(AxReaderWriter& rw, std::string_view text, AxBindingsList const& bindings = {})
-{
-    return rw.readText(text, AxFilename("test.ope"), AxReaderWriter::nullFilenames(), bindings);
-}
-
 /// The element without the declaration in front of it.
 std::string xmlOf(AxReaderWriter const& rw)
 {
@@ -58,9 +32,9 @@ AxEnvironmentPtr treeOf(std::string_view xml)
 TEST(AxReaderWriterTree, EveryKindComesBackEqualAndWritesTheSameText)
 {
     Machine written;
-    ASSERT_TRUE(read(written, theWholeText));
+    ASSERT_TRUE(readFrom(written, theWholeText));
     ASSERT_TRUE(written.keptItems().empty());
-    Findings findings;
+    ReportedFindings findings;
     Machine back;
     ASSERT_TRUE(back.fromXml(written.toXml())) << written.toXml().string();
     EXPECT_EQ(findings.codes(), "") << written.toXml().string();
@@ -109,7 +83,7 @@ TEST(AxReaderWriterTree, EachKindHasItsShape)
     for (Case const& c : cases)
     {
         Machine machine;
-        ASSERT_TRUE(read(machine, std::string("(m ") + c.item + ')')) << c.item;
+        ASSERT_TRUE(readFrom(machine, std::string("(m ") + c.item + ')')) << c.item;
         EXPECT_EQ(xmlOf(machine), c.xml);
     }
 }
@@ -117,7 +91,7 @@ TEST(AxReaderWriterTree, EachKindHasItsShape)
 TEST(AxReaderWriterTree, ReadsAttributesAndChildrenInAnyOrder)
 {
     Machine machine;
-    Findings findings;
+    ReportedFindings findings;
     ASSERT_TRUE(machine.fromXml("<m name='m'><vector value='1 2 3' name='place'/><objectType name='kind' value=' '/>"
                                 "<engine label='5' power=' 7 '/><parts name='spares'><part power='1' name='a'/></parts>"
                                 "</m>"));
@@ -155,7 +129,7 @@ TEST(AxReaderWriterTree, ReferencesKeepTheirFormAndTakeTheirValues)
     for (Case const& c : cases)
     {
         Machine machine;
-        read(machine, std::string("(m ") + c.item + ')');
+        readFrom(machine, std::string("(m ") + c.item + ')');
         std::string const xml = machine.toXml().string();
         EXPECT_NE(xml.find(c.xml), std::string::npos) << c.item << '\n' << xml;
         Machine back;
@@ -167,7 +141,7 @@ TEST(AxReaderWriterTree, ReferencesKeepTheirFormAndTakeTheirValues)
         bound.getSelf(env, env->root(), AxReaderWriter::nullFilenames(), {&bindings});
         EXPECT_EQ(bound.writtenText(), machine.writtenText()) << xml;
         Machine fromText;
-        read(fromText, std::string("(m ") + c.item + ')', {&bindings});
+        readFrom(fromText, std::string("(m ") + c.item + ')', {&bindings});
         EXPECT_EQ(bound.mass.value(), fromText.mass.value());
         EXPECT_EQ(bound.label.value(), fromText.label.value());
     }
@@ -189,17 +163,17 @@ TEST(AxReaderWriterTree, KeptItemsComeBackInTheirPlaces)
     };
     for (char const* const text : texts)
     {
-        Findings findings;
+        ReportedFindings findings;
         Machine machine;
-        ASSERT_TRUE(read(machine, text));
+        ASSERT_TRUE(readFrom(machine, text));
         Machine back;
         ASSERT_TRUE(back.fromXml(machine.toXml()));
         EXPECT_EQ(back.writtenText(), machine.writtenText()) << machine.toXml().string();
         EXPECT_EQ(back.toXml(), machine.toXml());
     }
-    Findings findings;
+    ReportedFindings findings;
     Machine machine;
-    read(machine, "(m (mass 1) (foo 5))");
+    readFrom(machine, "(m (mass 1) (foo 5))");
     EXPECT_EQ(xmlOf(machine), "<machine name=\"m\" mass=\"1.0\">\n  <sexp name=\"foo\">(foo 5)</sexp>\n</machine>\n");
 }
 
@@ -212,17 +186,17 @@ TEST(AxReaderWriterTree, UnknownXmlIsKeptReportedAndWrittenAsXmlAgain)
                             "  <nameless/>\n"
                             "  <part name=\"engine\" power=\"7.0\">\n    <mystery name=\"x\" y=\"z\"/>\n  </part>\n"
                             "</machine>\n";
-    Findings findings;
+    ReportedFindings findings;
     Machine machine;
     ASSERT_TRUE(machine.fromXml(AxString(xml)));
-    EXPECT_EQ(findings.codes(), "unknown-keyword@1 unknown-keyword@4 unknown-keyword@9 unknown-element@7");
+    EXPECT_EQ(findings.codes(), "unknown-keyword@1:30 unknown-keyword@4:3 unknown-keyword@9:5 unknown-element@7:3");
     EXPECT_EQ(xmlOf(machine), xml);
     std::string const text = machine.writtenText();
     EXPECT_NE(text.find("  (xml-item \"foo=\\\"5\\\"\")\n"), std::string::npos) << text;
     EXPECT_NE(text.find("  (xml-item \"<nameless/>\")\n"), std::string::npos) << text;
     Machine fromText;
     findings.all.clear();
-    ASSERT_TRUE(read(fromText, text));
+    ASSERT_TRUE(readFrom(fromText, text));
     EXPECT_EQ(findings.codes(), "");
     EXPECT_EQ(xmlOf(fromText), xml);
     EXPECT_EQ(fromText.writtenText(), text);
@@ -237,22 +211,22 @@ TEST(AxReaderWriterTree, FaultsAreReportedAtTheirLinesAndNeighboursAreRead)
         double mass;
     };
     Case const cases[] = {
-        {"<m name='m'\n mass='heavy' seats='2'/>", "wrong-kind@2", 5000.0},
-        {"<m name='m' mass='7'>\n<vector name='place' value='1 2'/></m>", "wrong-kind@2", 7.0},
-        {"<m name='m' mass='7'>\n<vector name='place' value='1 (2'/></m>", "wrong-kind@2", 7.0},
-        {"<m name='m' mass='7'>\n<vector name='place'/></m>", "wrong-kind@2", 7.0},
-        {"<m name='m' mass='7'>\n<sexp name='x'>(x</sexp></m>", "not-an-item@2", 7.0},
-        {"<m name='m' mass='7' mas='8'/>", "unknown-keyword@1", 7.0},
+        {"<m name='m'\n mass='heavy' seats='2'/>", "wrong-kind@2:2", 5000.0},
+        {"<m name='m' mass='7'>\n<vector name='place' value='1 2'/></m>", "wrong-kind@2:1", 7.0},
+        {"<m name='m' mass='7'>\n<vector name='place' value='1 (2'/></m>", "wrong-kind@2:1", 7.0},
+        {"<m name='m' mass='7'>\n<vector name='place'/></m>", "wrong-kind@2:1", 7.0},
+        {"<m name='m' mass='7'>\n<sexp name='x'>(x</sexp></m>", "not-an-item@2:1", 7.0},
+        {"<m name='m' mass='7' mas='8'/>", "unknown-keyword@1:22", 7.0},
     };
     for (Case const& c : cases)
     {
-        Findings findings;
+        ReportedFindings findings;
         Machine machine;
         EXPECT_TRUE(machine.fromXml(c.xml)) << c.xml;
         EXPECT_EQ(findings.codes(), c.codes) << c.xml;
         EXPECT_EQ(machine.mass.value(), c.mass) << c.xml;
     }
-    Findings findings;
+    ReportedFindings findings;
     Machine machine;
     EXPECT_FALSE(machine.fromXml("<m"));
     EXPECT_TRUE(machine.invalid());
@@ -269,7 +243,7 @@ TEST(AxReaderWriterTree, FilesHoldWhatTextsHold)
         boost::filesystem::temp_directory_path() / boost::filesystem::unique_path("tree-%%%%%%.xml");
     AxFilename const file(path.string());
     Machine machine;
-    ASSERT_TRUE(read(machine, theWholeText));
+    ASSERT_TRUE(readFrom(machine, theWholeText));
     ASSERT_TRUE(machine.toXml(file));
     Machine back;
     EXPECT_TRUE(back.fromXmlFile(file));

@@ -13,6 +13,7 @@
 #include "AxRwVector.h"
 #include "AxSinkScope.h"
 #include "AxlFunctions.h"
+#include "platform/zedutil/Reading.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -55,34 +56,6 @@ public:
     Engine engine{{"engine", "", "Its engine."}, registry()};
     AxRwTemplatedListPtr<Engine, 1> spares{{"spares", "", "Engines carried along."}, registry()};
 };
-
-struct Findings
-{
-    Findings()
-        : previous(AxDiagnostics::setSink([this](AxDiagnostic const& found) { all.push_back(found); })),
-          quiet(AxWarn, [](std::string const&) {})
-    {
-    }
-    ~Findings() { AxDiagnostics::setSink(previous); }
-    std::string codes() const
-    {
-        std::string text;
-        for (AxDiagnostic const& found : all)
-        {
-            text += (text.empty() ? "" : " ") + found.code + '@' + std::to_string(found.line) + ':' +
-                    std::to_string(found.column);
-        }
-        return text;
-    }
-    std::vector<AxDiagnostic> all;
-    AxDiagnostics::Sink previous;
-    AxSinkScope quiet;
-};
-
-bool read(AxReaderWriter& rw, std::string_view text, AxBindingsList const& bindings = {})
-{
-    return rw.readText(text, AxFilename("test.ope"), AxReaderWriter::nullFilenames(), bindings);
-}
 } // namespace
 
 TEST(AxReaderWriter, WritesOnlyWhatIsSpecifiedUnlessAllIsAskedFor)
@@ -106,7 +79,7 @@ TEST(AxReaderWriter, ReadsWhatItWrites)
         "  (offset 1e-07 -0.0 1e+20)\n  (type 1 1 1 225 1 1 3 0)\n  (engine\n    (cylinders 12))\n"
         "  (spares\n    (left\n      (power 1.5))\n    (left)))\n";
     Vehicle tank;
-    ASSERT_TRUE(read(tank, text));
+    ASSERT_TRUE(readFrom(tank, text));
     EXPECT_EQ(tank.writtenText(), text);
     EXPECT_EQ(tank.label.value(), "a \"b\" $(c)");
     EXPECT_EQ(tank.spares.count(), 2);
@@ -147,9 +120,9 @@ TEST(AxReaderWriter, ReportsEachFaultAtItsPlaceAndReadsItsNeighbours)
     };
     for (Case const& c : cases)
     {
-        Findings findings;
+        ReportedFindings findings;
         Vehicle vehicle;
-        EXPECT_TRUE(read(vehicle, c.text)) << c.text;
+        EXPECT_TRUE(readFrom(vehicle, c.text)) << c.text;
         EXPECT_EQ(findings.codes(), c.codes) << c.text;
         EXPECT_EQ(vehicle.mass.value(), c.mass) << c.text;
         EXPECT_EQ(vehicle.writtenText(), c.written) << c.text;
@@ -161,9 +134,9 @@ TEST(AxReaderWriter, ReportsEachFaultAtItsPlaceAndReadsItsNeighbours)
 
 TEST(AxReaderWriter, SuggestsTheNearestKeyword)
 {
-    Findings findings;
+    ReportedFindings findings;
     Vehicle vehicle;
-    read(vehicle, "(m1a1 (mas 3))");
+    readFrom(vehicle, "(m1a1 (mas 3))");
     ASSERT_EQ(findings.all.size(), 1U);
     EXPECT_EQ(findings.all[0].format(),
               "test.ope:1:8: warning: unknown keyword \"mas\" in m1a1 (Vehicle); did you mean \"mass\"? "
@@ -184,9 +157,9 @@ TEST(AxReaderWriter, OffersUnknownItemsToAClassThatTakesThem)
         }
         std::string offered;
     };
-    Findings findings;
+    ReportedFindings findings;
     Taker taker;
-    EXPECT_TRUE(read(taker, "(v (wings 1 (2 3)) (seats 2) (keel))"));
+    EXPECT_TRUE(readFrom(taker, "(v (wings 1 (2 3)) (seats 2) (keel))"));
     EXPECT_EQ(taker.offered, "wings:2 keel:0 ");
     EXPECT_EQ(findings.codes(), "unknown-keyword@1:31");
     EXPECT_EQ(taker.writtenText(), "(v\n  (seats 2)\n  (keel))\n");
@@ -194,9 +167,9 @@ TEST(AxReaderWriter, OffersUnknownItemsToAClassThatTakesThem)
 
 TEST(AxReaderWriter, AValueThatIsSetReplacesTheUnreadableItem)
 {
-    Findings findings;
+    ReportedFindings findings;
     Vehicle vehicle;
-    read(vehicle, "(v (mass heavy))");
+    readFrom(vehicle, "(v (mass heavy))");
     vehicle.mass = 12.0;
     vehicle.mass.setValueSpecified(true, false);
     EXPECT_EQ(vehicle.writtenText(), "(v\n  (mass 12.0))\n");
@@ -212,7 +185,7 @@ TEST(AxReaderWriter, KeepsReferencesAsWritten)
     Vehicle vehicle;
     char const* const text = "(v\n  (mass $weight)\n  (seats ($places 4))\n  (label \"$(dir)/a $$(b)\")\n  (engine\n   "
                              " (power $unknown)))\n";
-    ASSERT_TRUE(read(vehicle, text, {&inner, &outer}));
+    ASSERT_TRUE(readFrom(vehicle, text, {&inner, &outer}));
     EXPECT_EQ(vehicle.mass.value(), 10.0);
     EXPECT_TRUE(vehicle.mass.variableIsBound());
     EXPECT_EQ(vehicle.seats.value(), 4);
@@ -234,7 +207,7 @@ TEST(AxReaderWriter, KeepsReferencesAsWritten)
 TEST(AxReaderWriter, ResetGoesBackToTheInitialValues)
 {
     Vehicle vehicle;
-    read(vehicle, "(v (mass 1) (label \"x\") (offset 9 9 9) (engine (power 2)) (spares (a)) (seats 3))");
+    readFrom(vehicle, "(v (mass 1) (label \"x\") (offset 9 9 9) (engine (power 2)) (spares (a)) (seats 3))");
     vehicle.reset();
     EXPECT_TRUE(vehicle == Vehicle());
     EXPECT_EQ(vehicle.offset.value(), AxVector64(0.5, -1.0, 0.0));
@@ -313,9 +286,9 @@ TEST(AxReaderWriterRegistry, KeepsBindingOrderAndLetsALaterKeywordSupersede)
 
 TEST(AxReaderWriterRegistry, ARenamedMemberKeepsItsPlaceAndWhatFollowsIt)
 {
-    Findings findings;
+    ReportedFindings findings;
     Vehicle vehicle;
-    read(vehicle, "(v (mass 1) (extra 5) (seats 2))");
+    readFrom(vehicle, "(v (mass 1) (extra 5) (seats 2))");
     vehicle.mass.setName("weight");
     EXPECT_EQ(vehicle.registry()->entry(0).member, &vehicle.mass);
     EXPECT_EQ(vehicle.registry()->lookup("weight"), &vehicle.mass);
@@ -343,7 +316,7 @@ TEST(AxReaderWriterRegistry, MembersOutliveIt)
 TEST(AxReaderWriterFactory, EncodesAndDecodes)
 {
     Vehicle vehicle("v");
-    read(vehicle, "(v (mass 2) (label \"x\"))");
+    readFrom(vehicle, "(v (mass 2) (label \"x\"))");
     AxReaderWriterFactory* const factory = AxReaderWriter::factory();
     std::vector<char> buffer(static_cast<std::size_t>(factory->getSize(&vehicle)));
     EXPECT_EQ(factory->encode(&vehicle, buffer.data()), buffer.data() + buffer.size());

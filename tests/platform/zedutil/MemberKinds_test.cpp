@@ -31,7 +31,7 @@
 
 namespace
 {
-struct Kind
+struct MemberKind
 {
     char const* name;
     std::function<std::unique_ptr<AxReaderWriter>()> make;
@@ -46,7 +46,7 @@ std::unique_ptr<AxReaderWriter> made()
     return std::make_unique<T>(AxSymbolString("k"), nullptr);
 }
 
-Kind const theKinds[] = {
+MemberKind const theMemberKinds[] = {
     {"StringList", made<AxRwStringList>, "(k \"a b\" \"$$(c)\" \"\")", "(k \"a b\")", "(k \"a b\" \"$$(c)\" \"\" )"},
     {"NLengthStringVector", made<AxRwNLengthStringVector>, "(k \"all\" \"12\")", "(k)", "(k all 12)"},
     {"NLengthRealVector", made<AxNLengthRealVector>, "(k 1.0 -2.5 inf)", "(k 1.0 -2.5)", "(k 1 -2.5 inf)"},
@@ -99,7 +99,7 @@ Kind const theKinds[] = {
      "(k systems/gun.sys)"},
 };
 
-class MemberKinds : public ::testing::TestWithParam<Kind>
+class MemberKinds : public ::testing::TestWithParam<MemberKind>
 {
 protected:
     std::unique_ptr<AxReaderWriter> read(char const* text) const
@@ -150,7 +150,7 @@ TEST_P(MemberKinds, GoBackToTheBeginningOnReset)
     EXPECT_TRUE(AxReaderWriterFactory::equalByType(*rw, *fresh));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, MemberKinds, ::testing::ValuesIn(theKinds),
+INSTANTIATE_TEST_SUITE_P(All, MemberKinds, ::testing::ValuesIn(theMemberKinds),
                          [](auto const& param) { return std::string(param.param.name); });
 
 TEST(AxRwSequence, KeepsItsValuesWhenOneOfTheNewIsOfAnotherKind)

@@ -67,7 +67,6 @@ TEST(AxRwDetectionLevelContainer, TakesItsTableFromTheFileAndWritesTheNameAlone)
     AxFilenameList const force{AxFilename(ZEDOBJPARAM_SOURCE_DIR "/examples/force")};
     ASSERT_TRUE(readFrom(container, "(levels (detection-table-file \"detection/day-sight.det\"))", {}, force));
     AxPrbRangeTableEntry row;
-    AxEntityType matched;
     ASSERT_TRUE(container.detectionTable().getProbabilities(AxEntityType(1, 1, 225, 1, 1, 3, 0), 1000.0, &row));
     EXPECT_EQ(row.probability(axDetectionLevelWord(Level::Detected)), 0.8);
     EXPECT_EQ(row.probability(axDetectionLevelWord(Level::Identified)), 0.2);

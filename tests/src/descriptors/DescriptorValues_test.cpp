@@ -26,7 +26,7 @@
 
 namespace
 {
-struct Case
+struct ValueCase
 {
     char const* kind;
     std::unique_ptr<AxReaderWriter> (*make)();
@@ -35,13 +35,13 @@ struct Case
 };
 
 template <class T>
-std::unique_ptr<AxReaderWriter> made()
+std::unique_ptr<AxReaderWriter> madeValue()
 {
     return std::make_unique<T>("x", nullptr);
 }
 
-Case const theCases[] = {
-    {"emitter beam", made<AxEmitterBeamEntry>,
+ValueCase const theValues[] = {
+    {"emitter beam", madeValue<AxEmitterBeamEntry>,
      "(x\n  (beam-number 2)\n  (beam-parameter-index 7)\n  (beam-function 4)\n  (radar-mode \"track\")\n"
      "  (frequency 9400000000.0)\n  (frequency-range 5000000.0)\n  (effective-radiated-power 90.0)\n"
      "  (pulse-repetition-frequency 2500.0)\n  (pulse-width 1.5)\n  (azimuth-center 0.1)\n  (azimuth-sweep 3.14159)\n"
@@ -50,35 +50,36 @@ Case const theCases[] = {
      " (frequency-range 5e6) (effective-radiated-power 90) (pulse-repetition-frequency 2500) (pulse-width 1.5)"
      " (azimuth-center 0.1) (azimuth-sweep 3.14159) (elevation-center 0.2) (elevation-sweep 0.3) (sweep-sync 50)"
      " (jamming-technique 4))"},
-    {"emitter", made<AxEmitterSystemEntry>,
+    {"emitter", madeValue<AxEmitterSystemEntry>,
      "(x\n  (emitter-name 35)\n  (emitter-function 2)\n  (emitter-number 1)\n  (location 1.0 0.0 -2.0)\n  (beams\n"
      "    (beam\n      (beam-function 1))\n    (beam\n      (beam-function 4))))\n",
      "(x (emitter-name 35) (emitter-function 2) (emitter-number 1) (location 1.0 0.0 -2.0) (beams"
      " (beam (beam-function 1)) (beam (beam-function 7))))"},
-    {"sonar", made<AxActiveSonarSystemEntry>,
+    {"sonar", madeValue<AxActiveSonarSystemEntry>,
      "(x\n  (acoustic-name 3)\n  (acoustic-function 1)\n  (location 40.0 0.0 6.0)\n  (beams\n    (beam\n"
      "      (parameter-index 5)\n      (scan-pattern 1)\n      (azimuth-center 0.5)\n      (azimuth-width 6.2832)\n"
      "      (elevation-center -0.1)\n      (elevation-width 0.35))))\n",
      "(x (acoustic-name 3) (acoustic-function 1) (location 40.0 0.0 6.0) (beams (beam (parameter-index 5)"
      " (scan-pattern 1) (azimuth-center 0.5) (azimuth-width 6.2832) (elevation-center -0.1) (elevation-width 0.3))))"},
-    {"field of view", made<AxSensorFieldOfViewEntry>,
+    {"field of view", madeValue<AxSensorFieldOfViewEntry>,
      "(x\n  (azimuth 0.5)\n  (azimuth-width 1.0472)\n  (elevation 0.1)\n  (elevation-width 0.3491)\n"
      "  (range 4000.0))\n",
      "(x (azimuth 0.5) (azimuth-width 1.0472) (elevation 0.1) (elevation-width 0.3491))"},
-    {"detection levels", made<AxRwDetectionLevelContainer>,
+    {"detection levels", madeValue<AxRwDetectionLevelContainer>,
      "(x\n  (detection-table\n    (entity-range\n      (entity-type 1 1 -1 -1 -1 -1 -1)\n      (range-determinant\n"
      "        (range-list\n          (range-entry 800.0 (detected 0.95))))))\n"
      "  (level-thresholds (\"detected\" 0.2) (\"identified\" 3.0)))\n",
      "(x (detection-table (entity-range (entity-type 1 1 -1 -1 -1 -1 -1) (range-determinant (range-list"
      " (range-entry 800.0 (detected 0.95)))))) (level-thresholds (detected 0.2) (identified 2.0)))"},
-    {"report deltas", made<AxRwSpotReportDeltaCheckList>,
+    {"report deltas", madeValue<AxRwSpotReportDeltaCheckList>,
      "(x\n  (delta-check\n    (object-type 1 1 2 -1 -1 -1 -1 -1)\n    (delta 2000.0)))\n",
      "(x (delta-check (object-type 1 1 2 -1 -1 -1 -1 -1) (delta 1000.0)))"},
-    {"soil factors", made<AxRwSoilSpeedFactorList>, "(x (\"mud\" 0.4) (\"sand\" 0.7))\n", "(x (mud 0.4) (sand 0.6))"},
-    {"joystick control", made<AxRwJoystickControl>,
+    {"soil factors", madeValue<AxRwSoilSpeedFactorList>, "(x (\"mud\" 0.4) (\"sand\" 0.7))\n",
+     "(x (mud 0.4) (sand 0.6))"},
+    {"joystick control", madeValue<AxRwJoystickControl>,
      "(x\n  (axis 2)\n  (button 0)\n  (inverted true)\n  (dead-zone 0.1)\n  (scale 2.0))\n",
      "(x (axis 2) (button 0) (inverted true) (dead-zone 0.1) (scale 1.5))"},
-    {"mobility entry", made<AxAggregatedMovementDescriptor::MobilityEntry>,
+    {"mobility entry", madeValue<AxAggregatedMovementDescriptor::MobilityEntry>,
      "(x\n  (terrain-type \"swamp\")\n  (speed-factor 0.2))\n", "(x (terrain-type \"swamp\") (speed-factor 0.3))"},
 };
 
@@ -128,7 +129,7 @@ AxObjectType tank(int country)
 
 TEST(DescriptorValues, RoundTripCopyCompareAndReset)
 {
-    for (Case const& test : theCases)
+    for (ValueCase const& test : theValues)
     {
         std::unique_ptr<AxReaderWriter> const value = test.make();
         std::unique_ptr<AxReaderWriter> const other = test.make();
@@ -149,7 +150,7 @@ TEST(DescriptorValues, RoundTripCopyCompareAndReset)
 
 TEST(DescriptorValues, CellsAndTreesHoldWhatTheTextHolds)
 {
-    for (Case const& test : theCases)
+    for (ValueCase const& test : theValues)
     {
         std::unique_ptr<AxReaderWriter> const byCells = test.make();
         AxlInputStream stream(test.text);

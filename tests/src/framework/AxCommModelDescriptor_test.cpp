@@ -12,7 +12,7 @@ TEST_F(AxCommModelDescriptorTest, RoundTripsInItsList)
                        "    (line-of-sight-required true)\n"
                        "    (success-probability 0.9)))\n";
     AxCommModelDescriptorList list("comm-models", nullptr);
-    readInto(list, text);
+    readFrom(list, text);
     AxCommModelDescriptor const* const vhf = list.lookupCommModelDescriptor("vhf");
     ASSERT_TRUE(vhf);
     EXPECT_EQ(vhf->maxRange(), 20000.0);
@@ -24,7 +24,7 @@ TEST_F(AxCommModelDescriptorTest, RoundTripsInItsList)
 TEST_F(AxCommModelDescriptorTest, GivesOneWarningForAnUnknownType)
 {
     AxCommModelDescriptorList list("comm-models", nullptr);
-    readInto(list, "(comm-models (vhf (comm-model-descriptor-type \"comm-modle-descriptor\")))");
+    readFrom(list, "(comm-models (vhf (comm-model-descriptor-type \"comm-modle-descriptor\")))");
     EXPECT_EQ(list.count(), 0);
     EXPECT_EQ(warnings.text(), "could not create signature propagator descriptor\n");
     ASSERT_EQ(findings.size(), 1U);
@@ -36,7 +36,7 @@ TEST_F(AxCommModelDescriptorTest, TakesNewTypes)
 {
     AxCommModelDescriptor::addCreatorFcn("test-model-descriptor", &AxCommModelDescriptor::creator);
     AxCommModelDescriptorList list("comm-models", nullptr);
-    readInto(list, "(comm-models (vhf (comm-model-descriptor-type \"test-model-descriptor\") (max-range 1)))");
+    readFrom(list, "(comm-models (vhf (comm-model-descriptor-type \"test-model-descriptor\") (max-range 1)))");
     EXPECT_EQ(list.count(), 1);
     EXPECT_EQ(warnings.text(), "");
 }

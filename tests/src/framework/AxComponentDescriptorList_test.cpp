@@ -27,7 +27,7 @@ TEST_F(AxComponentDescriptorListTest, KeepsTheLaterOfTwoNamesAtTheEnd)
 {
     AxComponentDescriptorList list("sensors", nullptr);
     EXPECT_FALSE(list.valueSpecified());
-    readInto(list, "(sensors " + element("eye", "(min-tick-period 1.0)") + element("ear") +
+    readFrom(list, "(sensors " + element("eye", "(min-tick-period 1.0)") + element("ear") +
                        element("eye", "(min-tick-period 2.0)") + ")");
     EXPECT_EQ(names(list), "ear eye ");
     EXPECT_EQ(list.lookupComponentDescriptor("eye")->minTickPeriod(), 2.0);
@@ -39,7 +39,7 @@ TEST_F(AxComponentDescriptorListTest, KeepsTheLaterOfTwoNamesAtTheEnd)
 TEST_F(AxComponentDescriptorListTest, KeepsOtherElementsAndTheTextOfAnUnknownOne)
 {
     AxComponentDescriptorList list("sensors", nullptr);
-    readInto(list,
+    readFrom(list,
              "(sensors " + element("eye") + "(nose (component-descriptor-type \"smell\"))" + element("ear") + ")");
     EXPECT_EQ(names(list), "eye ear ");
     EXPECT_EQ(warnings.text(), "Can't create component descriptor of type smell.  No creator found.\n"
@@ -54,7 +54,7 @@ TEST_F(AxComponentDescriptorListTest, KeepsOtherElementsAndTheTextOfAnUnknownOne
 TEST_F(AxComponentDescriptorListTest, CopiesDeeplyAndKeepsItsFlag)
 {
     AxComponentDescriptorList list("sensors", nullptr);
-    readInto(list, "(sensors " + element("eye") + element("ear") + ")");
+    readFrom(list, "(sensors " + element("eye") + element("ear") + ")");
     AxComponentDescriptorList copy(list);
     EXPECT_EQ(copy, list);
     EXPECT_EQ(copy.writtenText(), list.writtenText());
@@ -141,7 +141,7 @@ TEST_F(AxComponentDescriptorListTest, ATypeWithoutACreatorIsReportedOnce)
 {
     AxComponentDescriptor::addComponentDescriptorCreatorFcn("empty-descriptor", nullptr);
     AxComponentDescriptorList list("sensors", nullptr);
-    readInto(list, "(sensors (eye (component-descriptor-type \"empty-descriptor\")))");
+    readFrom(list, "(sensors (eye (component-descriptor-type \"empty-descriptor\")))");
     EXPECT_EQ(warnings.text(), "Can't create component descriptor of type empty-descriptor.  No creator found.\n"
                                "could not create component descriptor\n");
 }
@@ -160,6 +160,6 @@ TEST_F(AxComponentDescriptorListTest, KeepsTheLaterOfTwoNamesInALongListToo)
         }
     }
     AxComponentDescriptorList list("sensors", nullptr);
-    readInto(list, text + ")");
+    readFrom(list, text + ")");
     EXPECT_EQ(names(list), expected);
 }

@@ -135,11 +135,11 @@ TEST_F(AxComponentDescriptorTest, ACloneIsWhatAssigningToANewOneMakes)
         [](AxLaserDetectorDescriptor&) {},
         [](AxLaserDetectorDescriptor& source) { source.setComponentType("a type of its own"); },
         [](AxLaserDetectorDescriptor& source)
-        { readInto(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (min-tick-period $a))"); },
+        { readFrom(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (min-tick-period $a))"); },
         [](AxLaserDetectorDescriptor& source)
-        { readInto(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (feathers 2))"); },
+        { readFrom(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (feathers 2))"); },
         [](AxLaserDetectorDescriptor& source)
-        { readInto(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (is-enabled 7))"); },
+        { readFrom(source, "(wing (component-descriptor-type \"laser-detector-descriptor\") (is-enabled 7))"); },
         [](AxLaserDetectorDescriptor& source) { source.registry()->lookup("is-enabled")->setReadonly(true); },
         [](AxLaserDetectorDescriptor& source) { source.registry()->lookup("is-enabled")->addAlias("enabled"); },
         [](AxLaserDetectorDescriptor& source) { source.registry()->lookup("is-enabled")->setInherited(true); },
@@ -157,7 +157,8 @@ TEST_F(AxComponentDescriptorTest, ACloneIsWhatAssigningToANewOneMakes)
         AxReaderWriterRegistry owner;
         std::unique_ptr<AxComponentDescriptor> const clone(source->clone(&owner));
         source.reset(); // its texts must not go with it
-        EXPECT_EQ(typeid(*clone), typeid(assigned));
+        AxComponentDescriptor const& copy = *clone;
+        EXPECT_EQ(typeid(copy), typeid(assigned));
         EXPECT_EQ(clone->parentRegistry(), &owner);
         EXPECT_EQ(owner.lookup(assigned.name()), clone.get());
         EXPECT_EQ(clone->writtenText(), assigned.writtenText());
@@ -213,7 +214,7 @@ TEST_F(AxComponentDescriptorTest, MakesTheClassThatTheTextTells)
 TEST_F(AxComponentDescriptorTest, DropsItsFirstItemWhateverItIs)
 {
     AxComponentDescriptor descriptor("", nullptr);
-    readInto(descriptor, "(engine (min-tick-period 1.0) (min-tick-period-variance 2.0))");
+    readFrom(descriptor, "(engine (min-tick-period 1.0) (min-tick-period-variance 2.0))");
     EXPECT_EQ(descriptor.minTickPeriod(), -1.0);
     EXPECT_EQ(descriptor.minTickPeriodVariance(), 2.0);
     ASSERT_EQ(findings.size(), 1U);

@@ -44,7 +44,7 @@ TEST_F(AxObjectSensorDescriptorTest, ReadsItsOwnKeywordsAndThoseOfItsBase)
 TEST(AxScriptEnableControllerDescriptor, HoldsScriptsAndTheirVariables)
 {
     AxScriptEnableControllerDescriptor controller("script", nullptr);
-    readInto(controller, "(script (component-descriptor-type \"script-enable-controller-descriptor\") "
+    readFrom(controller, "(script (component-descriptor-type \"script-enable-controller-descriptor\") "
                          "(script-ids \"patrol\" \"attack\") (script-variables (speed AxRwReal 4.5)))");
     EXPECT_TRUE(controller.scriptIds().contains("attack"));
     EXPECT_TRUE(controller.scriptVariables().find("speed"));

@@ -15,7 +15,7 @@ TEST_F(AxRwSpatialFilterContainerTest, WritesEachFilterUnderItsClass)
                        "  (sphere-filter\n"
                        "    (max-range 300.0)))\n";
     AxRwSpatialFilterContainer container("sensor-geometry", nullptr);
-    readInto(container, text);
+    readFrom(container, text);
     EXPECT_EQ(container.writtenText(), text);
     EXPECT_EQ(container.maxRange(), 8000.0);
     AxRwSpatialFilterContainer const copy(container);
@@ -30,7 +30,7 @@ TEST_F(AxRwSpatialFilterContainerTest, WritesEachFilterUnderItsClass)
 TEST_F(AxRwSpatialFilterContainerTest, NamesAnUnknownFilterOnceAndKeepsIt)
 {
     AxRwSpatialFilterContainer container("sensor-geometry", nullptr);
-    readInto(container, "(sensor-geometry (cone-filter (angle 1.0)) (sphere-filter (max-range 300.0)))");
+    readFrom(container, "(sensor-geometry (cone-filter (angle 1.0)) (sphere-filter (max-range 300.0)))");
     EXPECT_EQ(warnings.text(), "AxRwMultiTypeListTemplate: Cannot create content data of type \"cone-filter\"\n");
     EXPECT_EQ(container.count(), 1);
     EXPECT_NE(container.writtenText().find("(cone-filter (angle 1.0))"), std::string::npos);
@@ -82,7 +82,7 @@ TEST_F(AxRwSpatialFilterContainerTest, AcceptsPlacesByDistanceAndDirection)
     for (auto const& [geometry, place, inside] : cases)
     {
         AxRwSpatialFilterContainer container("g", nullptr);
-        readInto(container, geometry);
+        readFrom(container, geometry);
         EXPECT_EQ(container.accepts(place), inside)
             << geometry << ' ' << place.x() << ' ' << place.y() << ' ' << place.z();
     }

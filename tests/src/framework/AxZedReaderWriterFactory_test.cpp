@@ -8,14 +8,14 @@
 
 namespace
 {
-struct Row
+struct ClassRow
 {
     char const* type;
     char const* xmlType; // empty for lists that have none
     bool isPresent;
 };
 
-constexpr Row theRows[] = {
+constexpr ClassRow theRows[] = {
     {"AxTargetPriorityList", "list", true},
     {"AxTargetPriorityEntry", "readerWriter", true},
     {"AxRwResourceManagerType", "list", true},
@@ -60,7 +60,7 @@ TEST(AxZedReaderWriterFactory, KnowsExactlyThePresentTypes)
 TEST(AxZedReaderWriterFactory, CopiesWhatItCreates)
 {
     AxZedReaderWriterFactory factory;
-    for (Row const& row : theRows)
+    for (ClassRow const& row : theRows)
     {
         if (row.isPresent)
         {

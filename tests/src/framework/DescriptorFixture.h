@@ -4,24 +4,11 @@
 #include "AxDefaultComponentDescriptorFactory.h"
 #include "AxDiagnostic.h"
 #include "AxSinkScope.h"
-#include "AxlFunctions.h"
+#include "platform/sxp/Cells.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 #include <vector>
-
-/// The first expression of a text.
-inline AxlObjPtr cellsOf(std::string_view text)
-{
-    AxlInputStream stream(text);
-    return AxcRead(stream);
-}
-
-template <class T>
-bool readInto(T& rw, std::string_view text)
-{
-    return rw.readText(text, AxFilename("test.ope"), AxReaderWriter::nullFilenames(),
-                       AxReaderWriter::nullVariableReference());
-}
 
 /// A default factory installed, warnings and findings gathered.
 class DescriptorFixture : public testing::Test

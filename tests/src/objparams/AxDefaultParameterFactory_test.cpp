@@ -33,9 +33,9 @@ template <class T, auto statement>
 constexpr Transfer transfer = [](AxZedObjectParameters& to, AxZedObjectParameters const& from)
 { statement(dynamic_cast<T&>(to), dynamic_cast<T const&>(from)); };
 
-constexpr Transfer none = [](AxZedObjectParameters&, AxZedObjectParameters const&) {};
+constexpr Transfer noTransfer = [](AxZedObjectParameters&, AxZedObjectParameters const&) {};
 
-struct Kind
+struct RecordKind
 {
     char const* type;
     char const* specified;  ///< what a new record writes after its type item
@@ -46,9 +46,9 @@ struct Kind
 };
 
 // clang-format off
-Kind const theKinds[] = {
-    {"zed-object-param", "(bounding-geometry-type 2)", "", "", "", none},
-    {"moving-object-param", "(bounding-geometry-type 2) (is-organized true)", "", "", "", none},
+RecordKind const theRecordKinds[] = {
+    {"zed-object-param", "(bounding-geometry-type 2)", "", "", "", noTransfer},
+    {"moving-object-param", "(bounding-geometry-type 2) (is-organized true)", "", "", "", noTransfer},
     {"ground-vehicle-param", "(bounding-geometry-type 2) (is-organized true) (dr-algorithm 4)", "(soil-list)",
      "(dr-algorithm 4)", "(soil-list (soil-factors (soil-type \"mud\") (max-speed-factor 0.35)))",
      transfer<AxGroundVehicleParameters, [](auto& to, auto& from) { to.setSoilList(from.soilList()); }>},
@@ -133,7 +133,7 @@ Kind const theKinds[] = {
      "(dr-algorithm 4) (left-support 20.0 -5.0 0.0) (right-support 20.0 5.0 0.0) (other-support -20.0 0.0 0.0) "
      "(max-speed 15.0) (max-reverse-speed 4.0) (turning-radius 250.0) (ordered-speed 8.0) (max-acceleration 0.3) "
      "(max-deceleration 0.3) (max-lateral-acceleration 0.5)",
-     "", none},
+     "", noTransfer},
     {"individual-lifeform-param", "(bounding-geometry-type 2) (is-organized true) (dr-algorithm 4)",
      "(soil-list) (initial-posture 1) (initial-weapon-state 2)", "",
      "(initial-posture 4) (initial-weapon-state 3)",
@@ -235,7 +235,7 @@ TEST_F(AxDefaultParameterFactoryTest, ListsTheBuiltInNamesInTheirOrder)
 
 TEST_F(AxDefaultParameterFactoryTest, NewRecordsHoldTheDefaultsOfTheirKind)
 {
-    for (Kind const& kind : theKinds)
+    for (RecordKind const& kind : theRecordKinds)
     {
         RecordPtr const record = made(kind.type);
         ASSERT_TRUE(record) << kind.type;
@@ -253,10 +253,10 @@ TEST_F(AxDefaultParameterFactoryTest, NewRecordsHoldTheDefaultsOfTheirKind)
 
 TEST_F(AxDefaultParameterFactoryTest, AccessorsReachTheirKeywords)
 {
-    for (Kind const& kind : theKinds)
+    for (RecordKind const& kind : theRecordKinds)
     {
         RecordPtr const read = made(kind.type);
-        readInto(*read, std::string("(r (parameter-type \"") + kind.type + "\") " + kind.edited + ')');
+        readFrom(*read, std::string("(r (parameter-type \"") + kind.type + "\") " + kind.edited + ')');
         RecordPtr const set = made(kind.type);
         kind.transfer(*set, *read);
         std::string const text = itemsOf(*set);
@@ -268,7 +268,7 @@ TEST_F(AxDefaultParameterFactoryTest, AccessorsReachTheirKeywords)
 
 TEST_F(AxDefaultParameterFactoryTest, EditedRecordsSurviveTextAndCloning)
 {
-    for (Kind const& kind : theKinds)
+    for (RecordKind const& kind : theRecordKinds)
     {
         RecordPtr const record = created(std::string("(r (parameter-type \"") + kind.type + "\") " + kind.edited + ')');
         ASSERT_TRUE(record) << kind.type;
@@ -289,7 +289,7 @@ TEST_F(AxDefaultParameterFactoryTest, EditedRecordsSurviveTextAndCloning)
 TEST_F(AxDefaultParameterFactoryTest, InheritsWhatOthersSpecifiedAndKeepsItsOwnDefaults)
 {
     RecordPtr const general = created("(g (parameter-type \"moving-object-param\") (mass 7.0))");
-    for (Kind const& kind : theKinds)
+    for (RecordKind const& kind : theRecordKinds)
     {
         RecordPtr const record = made(kind.type);
         RecordPtr const fresh = made(kind.type);
@@ -317,12 +317,12 @@ TEST(AxFixedWingEntityParameters, AliasesNameTheSupports)
         AxFixedWingEntityParameters record("f", nullptr);
         std::string_view const text = "(f (nose-support 1.0 0.0 2.0) (left-wing-support 0.0 -3.0 1.0)"
                                       " (right-wing-support 0.0 3.0 1.0))";
-        byCells ? readCellsInto(record, text) : static_cast<void>(readInto(record, text));
+        byCells ? readCellsInto(record, text) : static_cast<void>(readFrom(record, text));
         EXPECT_EQ(record.otherSupport(), AxVector64(1.0, 0.0, 2.0));
         EXPECT_EQ(itemsOf(record), "(bounding-geometry-type 2) (is-organized true) (left-support 0.0 -3.0 1.0) "
                                    "(right-support 0.0 3.0 1.0) (other-support 1.0 0.0 2.0)");
         RecordPtr const clone(record.clone("c", nullptr));
-        readInto(*clone, "(c (nose-support 4.0 5.0 6.0))");
+        readFrom(*clone, "(c (nose-support 4.0 5.0 6.0))");
         EXPECT_EQ(dynamic_cast<AxMovingObjectParameters&>(*clone).otherSupport(), AxVector64(4.0, 5.0, 6.0));
     }
 }
@@ -330,14 +330,14 @@ TEST(AxFixedWingEntityParameters, AliasesNameTheSupports)
 TEST(AxRotaryWingEntityParameters, NoseSupportIsTheOtherSupport)
 {
     AxRotaryWingEntityParameters record("h", nullptr);
-    readInto(record, "(h (nose-support 1.0 2.0 3.0))");
+    readFrom(record, "(h (nose-support 1.0 2.0 3.0))");
     EXPECT_EQ(record.otherSupport(), AxVector64(1.0, 2.0, 3.0));
 }
 
 TEST(AxGroundVehicleParameters, RearSupportIsTheOtherSupportOfLifeFormsToo)
 {
     AxIndividualLifeFormParameters record("p", nullptr);
-    readInto(record, "(p (rear-support 1.0 2.0 3.0) (soil-list (soil-factors (soil-type \"mud\"))))");
+    readFrom(record, "(p (rear-support 1.0 2.0 3.0) (soil-list (soil-factors (soil-type \"mud\"))))");
     EXPECT_EQ(record.otherSupport(), AxVector64(1.0, 2.0, 3.0));
     EXPECT_NE(record.soilList().lookupSoil("mud"), nullptr);
 }
@@ -368,6 +368,6 @@ TEST(AxSurfaceEntityParameters, DraftIsTheDepthOfTheKeel)
 {
     AxSubSurfaceEntityParameters record("s", nullptr);
     EXPECT_EQ(record.draft(), 0.0);
-    readInto(record, "(s (bounding-volume (min -40.0 -6.0 -15.0) (max 40.0 6.0 5.5)))");
+    readFrom(record, "(s (bounding-volume (min -40.0 -6.0 -15.0) (max 40.0 6.0 5.5)))");
     EXPECT_DOUBLE_EQ(record.draft(), 5.5);
 }

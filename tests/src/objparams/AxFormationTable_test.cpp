@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr char const* theText = R"((formation-list
+constexpr char const* theFormations = R"((formation-list
   (default-formation "wedge")
   (formation-entry
     (formation-type "column")
@@ -27,21 +27,21 @@ constexpr char const* theText = R"((formation-list
 class AxFormationTableTest : public RecordFixture
 {
 protected:
-    AxFormationTableTest() { readInto(table, theText); }
+    AxFormationTableTest() { readFrom(table, theFormations); }
     AxFormationTable table{"formation-list", nullptr};
 };
 } // namespace
 
 TEST_F(AxFormationTableTest, TextComesBackAsItWas)
 {
-    EXPECT_EQ(table.writtenText(), theText);
+    EXPECT_EQ(table.writtenText(), theFormations);
     AxFormationTable byCells("formation-list", nullptr);
-    readCellsInto(byCells, theText);
-    EXPECT_EQ(byCells.writtenText(), theText);
+    readCellsInto(byCells, theFormations);
+    EXPECT_EQ(byCells.writtenText(), theFormations);
     EXPECT_TRUE(byCells == table);
     AxFormationTable byTree("formation-list", nullptr);
     EXPECT_TRUE(byTree.fromXml(table.toXml()));
-    EXPECT_EQ(byTree.writtenText(), theText);
+    EXPECT_EQ(byTree.writtenText(), theFormations);
     EXPECT_TRUE(findings.empty());
 }
 

@@ -11,7 +11,7 @@ class AxSimResourceManagerTest : public RecordFixture
 protected:
     AxSimResourceManager resources{"resources", nullptr};
 };
-constexpr char const* theText = R"((resources
+constexpr char const* theResourceList = R"((resources
   (real-resource
     (resource-name "fuel")
     (amount 1900.0)
@@ -30,26 +30,26 @@ constexpr char const* theText = R"((resources
 
 TEST_F(AxSimResourceManagerTest, TextComesBackAsItWas)
 {
-    ASSERT_TRUE(readInto(resources, theText));
-    EXPECT_EQ(resources.writtenText(), theText);
+    ASSERT_TRUE(readFrom(resources, theResourceList));
+    EXPECT_EQ(resources.writtenText(), theResourceList);
     EXPECT_TRUE(findings.empty());
     auto const* const heat = dynamic_cast<AxMunitionResource*>(resources.findResource("main-gun-heat"));
     ASSERT_TRUE(heat);
     EXPECT_EQ(heat->amount(), 16);
     EXPECT_EQ(heat->capacity(), -1);
     AxSimResourceManager other("resources", nullptr);
-    readCellsInto(other, theText);
+    readCellsInto(other, theResourceList);
     EXPECT_TRUE(other == resources);
 }
 
 TEST_F(AxSimResourceManagerTest, CopiesAreDeepAndEqual)
 {
-    readInto(resources, theText);
+    readFrom(resources, theResourceList);
     AxSimResourceManager copy(resources);
     AxSimResourceManager assigned("resources", nullptr);
     assigned = copy;
     EXPECT_TRUE(copy == resources && assigned == resources);
-    EXPECT_EQ(assigned.writtenText(), theText);
+    EXPECT_EQ(assigned.writtenText(), theResourceList);
     EXPECT_TRUE(assigned.removeResource("fuel"));
     EXPECT_FALSE(assigned.removeResource("fuel"));
     EXPECT_FALSE(assigned == resources);
@@ -58,7 +58,7 @@ TEST_F(AxSimResourceManagerTest, CopiesAreDeepAndEqual)
 
 TEST_F(AxSimResourceManagerTest, RepeatedResourceNameReplacesAtTheEnd)
 {
-    readInto(resources, theText);
+    readFrom(resources, theResourceList);
     AxRealResource fuel("any", nullptr);
     fuel.setResourceName("fuel");
     fuel.setAmount(5.0);
@@ -83,7 +83,7 @@ TEST_F(AxSimResourceManagerTest, UnknownTypeIsToldAndKept)
     {
         warnings.clear();
         std::string_view const text = "(resources (real-resorce (amount 1.0)) (AxRwReal 3) (integer-resource))";
-        byCells ? readCellsInto(resources, text) : static_cast<void>(readInto(resources, text));
+        byCells ? readCellsInto(resources, text) : static_cast<void>(readFrom(resources, text));
         EXPECT_EQ(warnings.text(), "could not create resource of type \"real-resorce\"\n"
                                    "could not create resource of type \"AxRwReal\"\n");
         ASSERT_FALSE(findings.empty());

@@ -54,7 +54,7 @@ TEST(AxSimSector, FullCircleHoldsEverything)
 TEST(AxSimSector, DirectionsFollowReadingCopyingAndReset)
 {
     AxSimSector sector("s", nullptr);
-    readInto(sector, "(s (sector-center 1.5707963267948966) (sector-size 0.2))");
+    readFrom(sector, "(s (sector-center 1.5707963267948966) (sector-size 0.2))");
     EXPECT_NEAR(sector.centerVector().y(), 1.0, 1e-15);
     EXPECT_TRUE(sector.inSector(AxVector64(0.0, 1.0, 0.0)));
     AxSimSector const copy(sector);

@@ -19,7 +19,9 @@ TEST_F(AxZedObjectParameterFactoryTest, EachNameCreatesItsClassAndIsRemembered)
         EXPECT_NE(record->subordinateObjects(), nullptr);
         RecordPtr const again = made(record->type().c_str());
         ASSERT_TRUE(again);
-        EXPECT_EQ(typeid(*again), typeid(*record));
+        AxZedObjectParameters const& first = *record;
+        AxZedObjectParameters const& second = *again;
+        EXPECT_EQ(typeid(second), typeid(first));
     }
     EXPECT_EQ(made("point-object-param")->type(), "zed-object-param");
 }
@@ -30,7 +32,9 @@ TEST_F(AxZedObjectParameterFactoryTest, EachClassPassesTheSameRounds)
     {
         RecordPtr const record = made(name.c_str());
         RecordPtr const clone(record->clone(record->name(), nullptr));
-        EXPECT_EQ(typeid(*clone), typeid(*record));
+        AxZedObjectParameters const& original = *record;
+        AxZedObjectParameters const& copy = *clone;
+        EXPECT_EQ(typeid(copy), typeid(original));
         EXPECT_TRUE(*clone == *record) << name;
         EXPECT_EQ(clone->writtenText(), record->writtenText());
         EXPECT_EQ(clone->registry()->count(), record->registry()->count());

@@ -105,7 +105,7 @@ TEST_F(AxZedObjectParametersTest, MembersAreCountedAsTheyComeToLife)
     EXPECT_TRUE(record.init());
     EXPECT_EQ(record.registry()->count(), 43);
     EXPECT_EQ(record.registry()->comparedCount(), 39);
-    ASSERT_TRUE(readInto(record, "(m1 (parameter-type \"zed-object-param\"))"));
+    ASSERT_TRUE(readFrom(record, "(m1 (parameter-type \"zed-object-param\"))"));
     EXPECT_EQ(record.registry()->count(), 44);
 }
 
@@ -132,7 +132,7 @@ TEST_F(AxZedObjectParametersTest, TextComesBackAsItWas)
     RecordPtr const byCells = created(theFullText);
     ASSERT_TRUE(byCells);
     RecordPtr const byText = made("zed-object-param");
-    ASSERT_TRUE(readInto(*byText, theFullText));
+    ASSERT_TRUE(readFrom(*byText, theFullText));
     EXPECT_EQ(warnings.text(), "");
     std::string expected(theFullText);
     // Members are written in binding order.
@@ -148,7 +148,7 @@ TEST_F(AxZedObjectParametersTest, TextComesBackAsItWas)
     EXPECT_EQ(byText->name(), "m1a1");
 
     RecordPtr const again = made("zed-object-param");
-    ASSERT_TRUE(readInto(*again, byText->writtenText(true)));
+    ASSERT_TRUE(readFrom(*again, byText->writtenText(true)));
     EXPECT_EQ(again->writtenText(true), byText->writtenText(true));
     EXPECT_TRUE(*again == *byText);
 }
@@ -245,7 +245,7 @@ TEST_F(AxZedObjectParametersTest, WithoutFactoryNothingIsCreated)
 
 TEST_F(AxZedObjectParametersTest, TakesObjectAndMatchTypeItems)
 {
-    for (auto* read : {+[](AxReaderWriter&rw, std::string_view text) { readInto(rw, text); },
+    for (auto* read : {+[](AxReaderWriter&rw, std::string_view text) { readFrom(rw, text); },
                        +[](AxReaderWriter&rw, std::string_view text) { readCellsInto(rw, text); }})
     {
         Record record("m1", nullptr);
@@ -256,7 +256,7 @@ TEST_F(AxZedObjectParametersTest, TakesObjectAndMatchTypeItems)
         EXPECT_TRUE(findings.empty());
     }
     Record faulty("m1", nullptr);
-    readInto(faulty, "(m1 (object-type 1 2))");
+    readFrom(faulty, "(m1 (object-type 1 2))");
     EXPECT_TRUE(faulty.objectType().isNull());
     EXPECT_NE(faulty.writtenText().find("(object-type 1 2)"), std::string::npos);
 }
@@ -272,12 +272,12 @@ TEST_F(AxZedObjectParametersTest, OwnBindingsStandInFrontOfTheCallers)
     for (bool byCells : {false, true})
     {
         Record record("m1", nullptr);
-        byCells ? readCellsInto(record, text, {&callers}) : static_cast<void>(readInto(record, text, {&callers}));
+        byCells ? readCellsInto(record, text, {&callers}) : static_cast<void>(readFrom(record, text, {&callers}));
         EXPECT_EQ(record.mass(), 2.0);
         EXPECT_EQ(record.category(), "big caller");
         EXPECT_EQ(record.variableBindingsFromLoad().size(), 2U);
         EXPECT_EQ(record.findVariableBinding("weight"), "2.0");
-        readInto(record, "(m1 (parameter-type \"zed-object-param\"))");
+        readFrom(record, "(m1 (parameter-type \"zed-object-param\"))");
         EXPECT_TRUE(record.variableBindingsFromLoad().empty());
     }
 }
@@ -292,7 +292,7 @@ TEST_F(AxZedObjectParametersTest, OwnBindingsCountForWhatStandsBeforeThem)
     for (bool byCells : {false, true})
     {
         Record record("m1", nullptr);
-        byCells ? readCellsInto(record, text, {&callers}) : static_cast<void>(readInto(record, text, {&callers}));
+        byCells ? readCellsInto(record, text, {&callers}) : static_cast<void>(readFrom(record, text, {&callers}));
         EXPECT_EQ(record.mass(), 2.0);
         EXPECT_EQ(record.deadReckoningThresholds().translationThreshold(), 3.0);
         EXPECT_EQ(record.underFireTime(), 3.0);
@@ -306,7 +306,7 @@ TEST_F(AxZedObjectParametersTest, OwnBindingsCountForWhatStandsBeforeThem)
 TEST_F(AxZedObjectParametersTest, KeepsOtherItemsAfterUnknownKeyword)
 {
     Record record("m1", nullptr);
-    readInto(record, "(m1 (parameter-type \"zed-object-param\") (mas 1.0) (mass \"heavy\") (category \"tank\"))");
+    readFrom(record, "(m1 (parameter-type \"zed-object-param\") (mas 1.0) (mass \"heavy\") (category \"tank\"))");
     EXPECT_EQ(record.category(), "tank");
     EXPECT_EQ(record.mass(), 5000.0);
     ASSERT_EQ(findings.size(), 2U);
@@ -323,7 +323,7 @@ TEST_F(AxZedObjectParametersTest, DraftIsTheLargestZOfTheBox)
     record.setBoundingVolume({-40.0, -6.0, -15.0}, {40.0, 6.0, 5.5});
     EXPECT_DOUBLE_EQ(record.draft(), 5.5);
     Record read("m1", nullptr);
-    readInto(read, "(m1 (bounding-volume (max 1.0 1.0 2.0)))");
+    readFrom(read, "(m1 (bounding-volume (max 1.0 1.0 2.0)))");
     ASSERT_NE(read.boundingVolume(), nullptr);
     EXPECT_DOUBLE_EQ(read.draft(), 2.0);
 }
@@ -342,7 +342,7 @@ TEST_F(AxZedObjectParametersTest, SettersOfRecordsMarkEverythingBelow)
 TEST_F(AxZedObjectParametersTest, ReportsNamesThatAreBothParameterAndStateData)
 {
     Record record("m1", nullptr);
-    readInto(record, "(m1 (parameter-data (a AxRwInt 1) (b AxRwInt 2)) (state-data (b AxRwInt 3)))");
+    readFrom(record, "(m1 (parameter-data (a AxRwInt 1) (b AxRwInt 2)) (state-data (b AxRwInt 3)))");
     EXPECT_EQ(warnings.text(), "m1 has duplicate parameter and state data named: b.  Only state data will be published "
                                "on the network by that name.\n");
     ASSERT_NE(record.findProperty("b"), nullptr);
@@ -398,7 +398,7 @@ TEST_F(AxZedObjectParametersTest, ExtensionReadsItsItemOnceItExists)
         std::string_view const text = "(m1 (parameter-type \"zed-object-param\") (user-extension (points 7.0))"
                                       " (state-repository-extension-type \"point-extension\"))";
         Record record("m1", nullptr);
-        byCells ? readCellsInto(record, text) : static_cast<void>(readInto(record, text));
+        byCells ? readCellsInto(record, text) : static_cast<void>(readFrom(record, text));
         auto const* const extension = dynamic_cast<PointExtension*>(record.stateRepositoryUserExtension());
         ASSERT_TRUE(extension);
         EXPECT_EQ(extension->points.value(), 7.0);
@@ -437,7 +437,7 @@ TEST_F(AxZedObjectParametersTest, FailedExtensionsAreToldAndTheirItemsKept)
         ExtensionFactoryScope const scope(test.factory);
         warnings.clear();
         Record record("m1", nullptr);
-        readInto(record, "(m1 (user-extension (points 7.0)) (state-repository-extension-type \"" +
+        readFrom(record, "(m1 (user-extension (points 7.0)) (state-repository-extension-type \"" +
                              std::string(test.type) + "\"))");
         EXPECT_EQ(warnings.text(),
                   "AxZedObjectParameters::getSelf() : Error creating myStateRepositoryUserExtension\n" +
@@ -475,7 +475,7 @@ TEST_F(AxZedObjectParametersTest, TaskRulesAreCopiedWithTheirFileOrInline)
     EXPECT_EQ(copy.writtenText(), "(m2\n  (parameter-type \"zed-object-param\")\n  (bounding-geometry-type 2)\n"
                                   "  (task-execution-rules\n    (all-tasks-exclusive true)))\n");
     Record again("m3", nullptr);
-    readInto(again, copy.writtenText());
+    readFrom(again, copy.writtenText());
     EXPECT_TRUE(again.taskExecutionRules().allTasksExclusive());
     copy.setTaskExecutionRulesFilename("rules.ter");
     EXPECT_EQ(copy.taskExecutionRulesFilename(), AxFilename("rules.ter"));
@@ -488,7 +488,7 @@ namespace
 AxComponentSystemDescriptor& addSystem(Record& record, char const* name, std::string const& definition)
 {
     auto* const system = new AxComponentSystemDescriptor(name, nullptr);
-    readInto(*system->systemDefinition(), "(system-definition " + definition + ")");
+    readFrom(*system->systemDefinition(), "(system-definition " + definition + ")");
     record.systemDescriptorList().addToEnd(system);
     return *system;
 }
@@ -512,7 +512,7 @@ TEST_F(AxZedObjectParametersTest, AutomaticRulesWireEachFittingPairOnce)
     addSystem(record, "eye", "(connections (connect e:out system:tracks))");
     addSystem(record, "gun", "(connections (connect system:targets g:in)) (meta-data (system-categories \"weapon\"))");
     addSystem(record, "relay", "(connections (connect system:targets x:in) (connect x:out system:tracks))");
-    readInto(record.autoConnections(), "(auto-connections"
+    readFrom(record.autoConnections(), "(auto-connections"
                                        " (auto-connection (output \"tracks\") (input \"targets\")"
                                        "  (output-category \"sensor\"))"
                                        " (auto-connection (output \"tracks\") (input \"targets\")"

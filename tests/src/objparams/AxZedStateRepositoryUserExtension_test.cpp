@@ -55,7 +55,7 @@ protected:
 TEST_F(AxZedStateRepositoryUserExtensionTest, KeywordsOfAHostAreReadAndWrittenWithTheRecord)
 {
     RecordPtr const read = record();
-    ASSERT_TRUE(readInto(*read, theText));
+    ASSERT_TRUE(readFrom(*read, theText));
     auto const* const pilots = dynamic_cast<PilotExtension const*>(read->stateRepositoryUserExtension());
     ASSERT_TRUE(pilots);
     EXPECT_EQ(pilots->fatigue.value(), 3600.0);
@@ -71,7 +71,7 @@ TEST_F(AxZedStateRepositoryUserExtensionTest, KeywordsOfAHostAreReadAndWrittenWi
 TEST_F(AxZedStateRepositoryUserExtensionTest, TheTreeFormSaysTheSame)
 {
     RecordPtr const read = record();
-    ASSERT_TRUE(readInto(*read, theText));
+    ASSERT_TRUE(readFrom(*read, theText));
     RecordPtr const back = record();
     EXPECT_TRUE(back->fromXml(read->toXml())) << read->toXml().string();
     EXPECT_EQ(back->writtenText(), theText) << read->toXml().string();
@@ -84,7 +84,7 @@ TEST_F(AxZedStateRepositoryUserExtensionTest, TheRecordsOwnVariablesAreKnown)
                                  " (state-repository-extension-type \"crew-extension\")"
                                  " (user-extension (fatigue $rest)))";
     RecordPtr const read = record();
-    ASSERT_TRUE(readInto(*read, text));
+    ASSERT_TRUE(readFrom(*read, text));
     RecordPtr const byCells = created(text);
     for (AxZedObjectParameters const* each : {read.get(), byCells.get()})
     {
@@ -110,7 +110,7 @@ TEST_F(AxZedStateRepositoryUserExtensionTest, ACreatorThatThrowsCostsTheExtensio
 TEST_F(AxZedStateRepositoryUserExtensionTest, UnknownKeywordsStayWithTheExtension)
 {
     RecordPtr const read = record();
-    readInto(*read, "(m1 (user-extension (rank \"major\") (fatigue 1.0))"
+    readFrom(*read, "(m1 (user-extension (rank \"major\") (fatigue 1.0))"
                     " (state-repository-extension-type \"crew-extension\"))");
     ASSERT_EQ(findings.size(), 1U);
     EXPECT_EQ(findings[0].code, "unknown-keyword");

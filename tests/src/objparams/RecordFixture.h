@@ -4,24 +4,14 @@
 #include "AxDefaultParameterFactory.h"
 #include "AxDiagnostic.h"
 #include "AxSinkScope.h"
-#include "AxlFunctions.h"
+#include "platform/sxp/Cells.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>
 
 using RecordPtr = std::unique_ptr<AxZedObjectParameters>;
-
-inline AxlObjPtr cellsOf(std::string_view text)
-{
-    AxlInputStream stream(text);
-    return AxcRead(stream);
-}
-
-inline bool readInto(AxReaderWriter& rw, std::string_view text, AxBindingsList const& bindings = {})
-{
-    return rw.readText(text, AxFilename("test.ope"), AxReaderWriter::nullFilenames(), bindings);
-}
 
 inline void readCellsInto(AxReaderWriter& rw, std::string_view text, AxBindingsList const& bindings = {})
 {

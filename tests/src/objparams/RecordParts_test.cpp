@@ -14,7 +14,7 @@ protected:
                             std::function<void(Object&, Object const&)> const& take)
     {
         std::string const fresh = target->writtenText();
-        ASSERT_TRUE(readInto(*source, "(" + target->AxReaderWriter::name().string().string() + "x " + text + ')'));
+        ASSERT_TRUE(readFrom(*source, "(" + target->AxReaderWriter::name().string().string() + "x " + text + ')'));
         take(*target, *source);
         source->setName(target->AxReaderWriter::name().string());
         EXPECT_EQ(target->writtenText(), source->writtenText()) << text;
@@ -35,11 +35,10 @@ constexpr char const* theResources = "(resources (real-resource (resource-name \
 
 TEST_F(RecordParts, ARecordTakesTheListsOfAnother)
 {
-    using Record = AxZedObjectParameters;
     struct Case
     {
         char const* text;
-        std::function<void(Record&, Record const&)> take;
+        std::function<void(AxZedObjectParameters&, AxZedObjectParameters const&)> take;
     };
     for (auto const& [text, take] :
          {
@@ -61,7 +60,7 @@ TEST_F(RecordParts, ARecordTakesTheListsOfAnother)
               [](auto&to, auto&from) { to.setBoundingGeometryType(from.boundingGeometryType()); }},
          })
     {
-        expectTaken<Record>(text, made("ground-vehicle-param"), made("ground-vehicle-param"), take);
+        expectTaken<AxZedObjectParameters>(text, made("ground-vehicle-param"), made("ground-vehicle-param"), take);
     }
 }
 
@@ -89,7 +88,7 @@ TEST_F(RecordParts, ADefinitionTakesTheListsOfAnother)
         auto target = std::make_unique<Definition>("d", nullptr);
         Definition other("d", nullptr);
         EXPECT_EQ(*target, other);
-        ASSERT_TRUE(readInto(other, std::string("(d ") + text + ')'));
+        ASSERT_TRUE(readFrom(other, std::string("(d ") + text + ')'));
         EXPECT_NE(*target, other) << text;
         expectTaken<Definition>(text, std::move(source), std::move(target), take);
     }

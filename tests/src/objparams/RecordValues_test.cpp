@@ -11,7 +11,7 @@
 
 namespace
 {
-struct Case
+struct PartCase
 {
     char const* kind;
     AxReaderWriter* (*make)();
@@ -21,7 +21,7 @@ struct Case
 template <class T>
 constexpr AxReaderWriter* (*maker)() = []() -> AxReaderWriter* { return new T("x", nullptr); };
 
-Case const theCases[] = {
+PartCase const theParts[] = {
     {"navigation", maker<AxRwNavigationParameters>,
      "(clearance-radius 2.5) (max-step-height 0.6) (max-water-depth 1.2) (avoid-feature-types \"river\" \"wood\")"},
     {"thresholds", maker<AxRwDeadReckonThresholds>, "(translation 0.5) (rotation 2.0) (aggregate-dimension 0.1)"},
@@ -62,13 +62,13 @@ std::string layout(std::string items)
 
 TEST(RecordValues, RoundTripsCopiesAndSilence)
 {
-    for (Case const& test : theCases)
+    for (PartCase const& test : theParts)
     {
         std::unique_ptr<AxReaderWriter> const value(test.make());
         std::unique_ptr<AxReaderWriter> const other(test.make());
         EXPECT_EQ(value->writtenText(), "(x)\n") << test.kind;
         EXPECT_TRUE(AxReaderWriterFactory::equalByType(*value, *other)) << test.kind;
-        ASSERT_TRUE(readInto(*value, layout(test.text))) << test.kind;
+        ASSERT_TRUE(readFrom(*value, layout(test.text))) << test.kind;
         EXPECT_EQ(value->writtenText(), layout(test.text)) << test.kind;
         EXPECT_EQ(value->writtenText(true), layout(test.text)) << test.kind;
         EXPECT_FALSE(AxReaderWriterFactory::equalByType(*value, *other)) << test.kind;
@@ -83,7 +83,7 @@ TEST(RecordValues, RoundTripsCopiesAndSilence)
 TEST(AxRwDeadReckonThresholds, EmptyTextLeavesTheDefaults)
 {
     AxRwDeadReckonThresholds thresholds("dr-thresholds", nullptr);
-    readInto(thresholds, "(dr-thresholds)");
+    readFrom(thresholds, "(dr-thresholds)");
     EXPECT_EQ(thresholds.translationThreshold(), 1.0);
     EXPECT_EQ(thresholds.rotationThreshold(), 3.0);
     EXPECT_EQ(thresholds.aggregateDimensionThreshold(), 0.05);
@@ -107,7 +107,7 @@ TEST(AxZedObjectSubComponentTypes, PeriodsNotGivenAreNegative)
 TEST(AxTaskExecutionRules, FindsGroupsByNameAndTask)
 {
     AxTaskExecutionRules rules("r", nullptr);
-    readInto(rules, "(r (mutually-exclusive-task-groups (task-group (group-name \"a\") (task-names \"x\" \"y\"))"
+    readFrom(rules, "(r (mutually-exclusive-task-groups (task-group (group-name \"a\") (task-names \"x\" \"y\"))"
                     " (task-group (group-name \"b\") (task-names \"y\")) (task-group (group-name \"a\"))))");
     ASSERT_NE(rules.findTaskGroup("a"), nullptr);
     EXPECT_EQ(rules.findTaskGroup("a")->taskNames().size(), 2U);
@@ -131,10 +131,10 @@ TEST(AxDummyParameters, KeepsOnlyTheTypeOfAnyRecord)
 {
     AxSinkScope warnings(AxWarn);
     AxDummyParameters dummy("x", nullptr);
-    EXPECT_TRUE(readInto(dummy, "(x (mass 5.0) (nonsense) 7 (parameter-type \"human-param\") (sensors (eye)))"));
+    EXPECT_TRUE(readFrom(dummy, "(x (mass 5.0) (nonsense) 7 (parameter-type \"human-param\") (sensors (eye)))"));
     EXPECT_EQ(dummy.parameterType(), "human-param");
     AxDummyParameters none("x", nullptr);
-    EXPECT_TRUE(readInto(none, "(x (mass 5.0))"));
+    EXPECT_TRUE(readFrom(none, "(x (mass 5.0))"));
     EXPECT_EQ(none.parameterType(), "");
     EXPECT_EQ(warnings.text(), "");
 }

@@ -28,7 +28,7 @@ public:
     AxObjectType type(int lowest)
     {
         AxObjectType::Fields fields{};
-        for (std::size_t i : {0, 1, 3})
+        for (std::size_t i : {0U, 1U, 3U})
         {
             fields[i] = number(lowest, 1);
         }

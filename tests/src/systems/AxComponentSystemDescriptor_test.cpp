@@ -5,33 +5,17 @@
 #include "AxRwVariableBindings.h"
 #include "AxSinkScope.h"
 #include "AxSystemRealParameterData.h"
+#include "Folder.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <boost/filesystem.hpp>
-#include <fstream>
 
 namespace
 {
-namespace fs = boost::filesystem;
-
-class Folder
-{
-public:
-    Folder() : myPath(fs::temp_directory_path() / fs::unique_path()) { fs::create_directories(myPath); }
-    ~Folder() { fs::remove_all(myPath); }
-    void write(char const* name, std::string const& text) const { std::ofstream((myPath / name).string()) << text; }
-    AxFilenameList files() const { return {AxFilename(myPath.string())}; }
-    AxFilename operator/(char const* name) const { return AxFilename((myPath / name).string()); }
-
-private:
-    fs::path myPath;
-};
-
 void read(AxReaderWriter& rw, std::string const& text, Folder const& folder)
 {
-    rw.readText(text, "tank.ope", folder.files(), AxReaderWriter::nullVariableReference());
+    rw.readText(text, "tank.ope", folder.search(), AxReaderWriter::nullVariableReference());
 }
 
 char const* const gunSystem = R"sys((system-definition
@@ -233,8 +217,7 @@ TEST(AxComponentSystemDescriptor, NamesThatDoubleEachOtherEnd)
     {
         std::string const next = std::to_string(i + 1);
         std::string const file = "(system-definition \"" + next + ".sys\")";
-        folder.write((std::to_string(i) + ".sys").c_str(),
-                     "(system-definition (systems (a " + file + ") (b " + file + ")))");
+        folder.write(std::to_string(i) + ".sys", "(system-definition (systems (a " + file + ") (b " + file + ")))");
         std::string const value = "(system-definition (systems $v" + next + "))";
         bindings += " (v" + std::to_string(i) + " (a " + value + ") (b " + value + "))";
     }
@@ -261,7 +244,7 @@ TEST(AxComponentSystemDescriptor, NamesThatDoubleEachOtherEnd)
         AxSinkScope warnings(AxWarn);
         AxComponentSystemDescriptor system("gun", nullptr);
         system.readText("(gun (system-definition (systems " + one.systems + ")))", AxFilename("gun.ope"),
-                        folder.files(), {&set});
+                        folder.search(), {&set});
         std::string const& told = warnings.text();
         EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), *one.code == '\0' ? 0 : 1) << told;
         EXPECT_NE(told.find(one.code), std::string::npos) << told;

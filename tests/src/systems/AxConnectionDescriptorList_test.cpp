@@ -1,22 +1,15 @@
 #include "AxConnectionDescriptorList.h"
 
 #include "AxSinkScope.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
-
-namespace
-{
-void read(AxReaderWriter& rw, std::string const& text)
-{
-    rw.readText(text, "test", AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
-}
-} // namespace
 
 TEST(AxConnectionDescriptorList, WritesWhatItReads)
 {
     AxConnectionDescriptorList list("connections", nullptr);
     EXPECT_FALSE(list.valueSpecified());
-    read(list, "(connections (connect a b) (join system:in \"has blank\") (connect 12 $x))");
+    readFrom(list, "(connections (connect a b) (join system:in \"has blank\") (connect 12 $x))");
     ASSERT_EQ(list.count(), 3);
     EXPECT_TRUE((*list.begin())->name().isNull());
     EXPECT_EQ((*list.begin())->source(), "a");
@@ -27,7 +20,7 @@ TEST(AxConnectionDescriptorList, WritesWhatItReads)
                              "  (connect \"12\" \"$x\"))\n";
     EXPECT_EQ(list.writtenText(), text);
     AxConnectionDescriptorList again("connections", nullptr);
-    read(again, text);
+    readFrom(again, text);
     EXPECT_TRUE(again == list);
     EXPECT_EQ(again.writtenText(), text);
 }
@@ -35,7 +28,7 @@ TEST(AxConnectionDescriptorList, WritesWhatItReads)
 TEST(AxConnectionDescriptorList, StandsInATreeAsConnections)
 {
     AxConnectionDescriptorList list("connections", nullptr);
-    read(list, "(connections (connect a b) (connect system:in \"has blank\"))");
+    readFrom(list, "(connections (connect a b) (connect system:in \"has blank\"))");
     EXPECT_NE(list.toXml().string().find("<connections name=\"connections\">\n  <connection"), std::string::npos)
         << list.toXml().string();
     AxConnectionDescriptorList back("connections", nullptr);
@@ -47,7 +40,7 @@ TEST(AxConnectionDescriptorList, ReportsMissingEndpointsAndKeepsFurtherItems)
 {
     AxSinkScope warnings(AxWarn);
     AxConnectionDescriptorList list("connections", nullptr);
-    read(list, "(connections (connect $x) (connect a b (gain 2)) c)");
+    readFrom(list, "(connections (connect $x) (connect a b (gain 2)) c)");
     ASSERT_EQ(list.count(), 2);
     EXPECT_EQ((*list.begin())->source(), "$x");
     EXPECT_EQ((*list.begin())->destination(), "");
@@ -167,9 +160,9 @@ TEST(AxConnectionDescriptorList, KeepsAnElementWhoseEndpointIsAList)
 {
     AxSinkScope warnings(AxWarn);
     AxConnectionDescriptorList list("connections", nullptr);
-    read(list, "(connections (connect (a) b) (connect) (connect c d))");
-    EXPECT_NE(warnings.text().find("test:1:14: "), std::string::npos);
-    EXPECT_NE(warnings.text().find("test:1:30: "), std::string::npos);
+    readFrom(list, "(connections (connect (a) b) (connect) (connect c d))");
+    EXPECT_NE(warnings.text().find("test.ope:1:14: "), std::string::npos);
+    EXPECT_NE(warnings.text().find("test.ope:1:30: "), std::string::npos);
     EXPECT_NE(list.writtenText().find("(connect (a) b)"), std::string::npos);
     EXPECT_NE(list.findConnection("c", "d"), nullptr);
 }

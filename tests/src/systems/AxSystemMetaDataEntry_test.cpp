@@ -4,6 +4,7 @@
 #include "AxSoilFactorsMetaDataEntry.h"
 #include "AxSystemMetaDataEntryList.h"
 #include "AxTargetSelectionMetaDataEntry.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 
@@ -11,17 +12,12 @@
 
 namespace
 {
-void read(AxReaderWriter& rw, std::string const& text)
-{
-    rw.readText(text, "test", AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
-}
-
-struct Kind
+struct EntryKind
 {
     char const* type;
     char const* written; // of a new entry
     char const* changed;
-} const kinds[] = {
+} const theEntryKinds[] = {
     {"target-selection",
      "(target-selection\n"
      "  (target-selection-criteria\n"
@@ -50,7 +46,7 @@ TEST(AxSystemMetaDataEntry, FactoryKnowsTheKindsInOrder)
     AxDefaultSystemMetaDataEntryFactory empty;
     EXPECT_TRUE(empty.keys().empty());
     std::list<AxString> expected;
-    for (Kind const& kind : kinds)
+    for (EntryKind const& kind : theEntryKinds)
     {
         expected.emplace_back(kind.type);
     }
@@ -61,7 +57,7 @@ TEST(AxSystemMetaDataEntry, FactoryKnowsTheKindsInOrder)
 
 TEST(AxSystemMetaDataEntry, EveryKindWritesItsDefaultsRoundTripsAndClones)
 {
-    for (Kind const& kind : kinds)
+    for (EntryKind const& kind : theEntryKinds)
     {
         std::unique_ptr<AxSystemMetaDataEntry> const entry(AxSystemMetaDataEntry::createMetaDataEntry(kind.type));
         ASSERT_NE(entry, nullptr) << kind.type;
@@ -69,7 +65,7 @@ TEST(AxSystemMetaDataEntry, EveryKindWritesItsDefaultsRoundTripsAndClones)
         EXPECT_EQ(entry->writtenText(), kind.written);
         std::unique_ptr<AxSystemMetaDataEntry> const clone(entry->clone());
         EXPECT_TRUE(clone->compare(*entry));
-        read(*entry, kind.changed);
+        readFrom(*entry, kind.changed);
         EXPECT_EQ(entry->writtenText(), kind.changed);
         EXPECT_FALSE(clone->compare(*entry)) << kind.type;
         std::unique_ptr<AxSystemMetaDataEntry> const again(entry->clone());
@@ -94,12 +90,12 @@ TEST(AxSystemMetaDataEntry, EqualCriteriaBehindAnotherPortDiffer)
 TEST(AxSystemMetaDataEntryList, HoldsAllKindsInOrder)
 {
     std::string text = "(meta-data-entry-list";
-    for (Kind const& kind : kinds)
+    for (EntryKind const& kind : theEntryKinds)
     {
         text += kind.changed;
     }
     AxSystemMetaDataEntryList list("meta-data-entry-list", nullptr);
-    read(list, text + ')');
+    readFrom(list, text + ')');
     EXPECT_EQ(list.count(), 4);
     AxSystemMetaDataEntryList copy(list);
     EXPECT_TRUE(copy == list);

@@ -8,6 +8,7 @@
 #include "AxSystemSensitivityParameterData.h"
 #include "AxSystemStringParameterData.h"
 #include "AxSystemVectorParameterData.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 
@@ -22,18 +23,13 @@ Made make(char const* type)
     return Made(AxSystemParameterData::createSystemParamterData(type));
 }
 
-void read(AxReaderWriter& rw, std::string const& text)
-{
-    rw.readText(text, "test", AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
-}
-
-struct Kind
+struct ParameterKind
 {
     char const* type;
     char const* variableType;
     char const* rollUpRule;
     char const* value; // of its own keyword
-} const kinds[] = {
+} const theParameterKinds[] = {
     {"vector-parameter-data", "AxRwVector", "none", "(default-value 1.0 2.0 3.0)"},
     {"int-parameter-data", "AxRwInt", "sum", "(default-value 7)"},
     {"real-parameter-data", "AxRwReal", "sum", "(default-value 2.5)"},
@@ -48,7 +44,7 @@ struct Kind
 TEST(AxSystemParameterData, FactoryKnowsTheKindsInOrder)
 {
     std::list<AxString> expected;
-    for (Kind const& kind : kinds)
+    for (ParameterKind const& kind : theParameterKinds)
     {
         expected.emplace_back(kind.type);
     }
@@ -59,7 +55,7 @@ TEST(AxSystemParameterData, FactoryKnowsTheKindsInOrder)
 
 TEST(AxSystemParameterData, NewRecordsWriteTheirFourDefaults)
 {
-    for (Kind const& kind : kinds)
+    for (ParameterKind const& kind : theParameterKinds)
     {
         Made const made = make(kind.type);
         ASSERT_NE(made, nullptr) << kind.type;
@@ -74,7 +70,7 @@ TEST(AxSystemParameterData, NewRecordsWriteTheirFourDefaults)
 
 TEST(AxSystemParameterData, EveryKindRoundTripsAndClones)
 {
-    for (Kind const& kind : kinds)
+    for (ParameterKind const& kind : theParameterKinds)
     {
         std::string const text = std::string("(") + kind.type +
                                  "\n  (parameter-name \"p\")\n  (variable-type \"V\")\n" +
@@ -82,7 +78,7 @@ TEST(AxSystemParameterData, EveryKindRoundTripsAndClones)
                                  "  (list-items \"a=1;b\")\n  (list-display 2)\n  (allow-edit false)\n" +
                                  "  (roll-up-rule \"max\")\n  " + kind.value + ")\n";
         Made const made = make(kind.type);
-        read(*made, text);
+        readFrom(*made, text);
         EXPECT_EQ(made->writtenText(), text);
         made->setName("other name");
         Made const clone(made->clone());
@@ -195,8 +191,8 @@ TEST(AxSystemParameterDataList, ReadsKindsByTheirHeadsAndKeepsUnknownOnes)
 {
     AxSinkScope warnings(AxWarn);
     AxSystemParameterDataList list("parameter-data-list", nullptr);
-    read(list, "(parameter-data-list (int-parameter-data (parameter-name \"n\")) (matrix-parameter-data 1)"
-               " (bool-parameter-data (parameter-name \"b\")))");
+    readFrom(list, "(parameter-data-list (int-parameter-data (parameter-name \"n\")) (matrix-parameter-data 1)"
+                   " (bool-parameter-data (parameter-name \"b\")))");
     EXPECT_EQ(list.count(), 2);
     EXPECT_EQ(warnings.text(),
               "AxRwMultiTypeListTemplate: Cannot create content data of type \"matrix-parameter-data\"\n");

@@ -1,6 +1,7 @@
 #include "AxAmmoSelectTable.h"
 
 #include "AxSinkScope.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +11,6 @@ char const* const mainGunAmmo = R"((main-gun-ammo
   (ammo-select (target-type 1 1 225 1 1 3 0) (ammo (munition (munition-name "sabot"))))
   (ammo-select (target-type 1 1 225 -1 -1 -1 -1) (ammo (munition (munition-name "heat"))))
   (ammo-select (target-type 1 1 -1 -1 -1 -1 -1) (ammo (munition (munition-name "he")) (munition (munition-name "heat"))))))";
-
-void read(AxReaderWriter& rw, char const* text)
-{
-    rw.readText(text, "main-gun.asl", AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
-}
 
 std::string namesOf(AxSimMunitionList const& munitions)
 {
@@ -30,7 +26,7 @@ std::string namesOf(AxSimMunitionList const& munitions)
 TEST(AxAmmoSelectTable, ExactTypeWinsElseTheLastFittingPattern)
 {
     AxAmmoSelectTable table;
-    read(table, mainGunAmmo);
+    readFrom(table, mainGunAmmo);
     AxEntityType matched;
     EXPECT_EQ(namesOf(table.simMunitionList({1, 1, 225, 1, 1, 3, 0}, &matched)), "sabot ");
     EXPECT_EQ(matched, AxEntityType(1, 1, 225, 1, 1, 3, 0));
@@ -56,9 +52,9 @@ TEST(AxAmmoSelectTable, MissAnswersTheEmptyListOfTheTable)
 TEST(AxAmmoSelectTable, CopiesAndRoundTrips)
 {
     AxAmmoSelectTable table("main-gun-ammo", nullptr);
-    read(table, mainGunAmmo);
+    readFrom(table, mainGunAmmo);
     AxAmmoSelectTable again("main-gun-ammo", nullptr);
-    read(again, table.writtenText().c_str());
+    readFrom(again, table.writtenText());
     EXPECT_TRUE(again == table);
     AxAmmoSelectTable copy(table);
     EXPECT_TRUE(copy == table);
@@ -72,7 +68,8 @@ TEST(AxAmmoSelectTable, CopiesAndRoundTrips)
 TEST(AxSimMunitionList, FindsTheFirstOfANameAndRemovesOneElement)
 {
     AxSimMunitionList list("ammo", nullptr);
-    read(list, "(ammo (munition (munition-name \"a\")) (m (munition-name \"b\")) (munition (munition-name \"b\")))");
+    readFrom(list,
+             "(ammo (munition (munition-name \"a\")) (m (munition-name \"b\")) (munition (munition-name \"b\")))");
     EXPECT_EQ(list.count(), 3);
     AxSimMunition* const second = list.lookupSimMunition("b");
     ASSERT_NE(second, nullptr);

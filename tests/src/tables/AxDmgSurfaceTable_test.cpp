@@ -12,7 +12,7 @@
 
 namespace
 {
-char const* const heat = R"((damage-table
+char const* const heatDamage = R"((damage-table
   (front
     (angle-of-incidence
       (angle 30.0)
@@ -38,10 +38,10 @@ char const* const heat = R"((damage-table
           (range-entry 3.0 (catastrophic 0.1)))))))
 )";
 
-class Table : public AxDmgSurfaceTable
+class DamageTable : public AxDmgSurfaceTable
 {
 public:
-    explicit Table(std::string_view text) : AxDmgSurfaceTable(AxSymbolString(), nullptr)
+    explicit DamageTable(std::string_view text) : AxDmgSurfaceTable(AxSymbolString(), nullptr)
     {
         ReportedFindings reported;
         readFrom(*this, text);
@@ -71,7 +71,7 @@ AxDmgSurfaceEntry surfaceOf(char const* name, std::vector<double> const& angles)
 
 TEST(AxDmgSurfaceTable, AnswersBySurfaceAngleAndRange)
 {
-    Table const table(heat);
+    DamageTable const table(heatDamage);
     struct
     {
         char const* surface;
@@ -96,7 +96,7 @@ TEST(AxDmgSurfaceTable, AnswersBySurfaceAngleAndRange)
 
 TEST(AxDmgSurfaceTable, TellsOfAnAngleThatNoTableIsForButNotOfAnUnknownSurface)
 {
-    Table const table(heat);
+    DamageTable const table(heatDamage);
     AxPrbRangeTableEntry out(7.0);
     out.addProbability("hit", 0.5);
     AxSinkScope warnings(AxWarn);
@@ -113,12 +113,12 @@ TEST(AxDmgSurfaceTable, TellsOfAnAngleThatNoTableIsForButNotOfAnUnknownSurface)
 
 TEST(AxDmgSurfaceTable, WritesWhatItReads)
 {
-    Table table(heat);
+    DamageTable table(heatDamage);
     EXPECT_EQ(table.codes, "");
-    EXPECT_EQ(table.writtenText(), heat);
+    EXPECT_EQ(table.writtenText(), heatDamage);
     AxDmgSurfaceTable copy(table);
     EXPECT_TRUE(copy == table);
-    EXPECT_EQ(copy.writtenText(), heat);
+    EXPECT_EQ(copy.writtenText(), heatDamage);
     AxPrbRangeTableEntry out;
     EXPECT_TRUE(copy.getProbabilities("rear", 10.0, 0.5, &out));
     copy.removeSurfaceEntry(copy.lookupSurfaceEntry("rear"));
@@ -130,24 +130,24 @@ TEST(AxDmgSurfaceTable, WritesWhatItReads)
 
 TEST(AxDmgSurfaceTable, ComesBackFromATree)
 {
-    Table table(heat);
-    Table fromTree("(x)");
+    DamageTable table(heatDamage);
+    DamageTable fromTree("(x)");
     EXPECT_TRUE(fromTree.fromXml(table.toXml()));
     fromTree.setName("damage-table");
-    EXPECT_EQ(fromTree.writtenText(), heat);
+    EXPECT_EQ(fromTree.writtenText(), heatDamage);
 }
 
 TEST(AxDmgSurfaceTable, EqualTablesHaveTheSameSurfaces)
 {
-    EXPECT_FALSE(Table("(t (front))") == Table("(t (rear))"));
-    EXPECT_TRUE(Table("(t (front))") == Table("(u (front))"));
+    EXPECT_FALSE(DamageTable("(t (front))") == DamageTable("(t (rear))"));
+    EXPECT_TRUE(DamageTable("(t (front))") == DamageTable("(u (front))"));
 }
 
 TEST(AxDmgSurfaceTable, LastOfSeveralEntriesOfASurfaceAnswers)
 {
-    Table table("(t\n"
-                "  (front (angle-of-incidence (angle 90.0) (range-determinant (coefficients (hit 0.1)))))\n"
-                "  (front (angle-of-incidence (angle 90.0) (range-determinant (coefficients (hit 0.2))))))");
+    DamageTable table("(t\n"
+                      "  (front (angle-of-incidence (angle 90.0) (range-determinant (coefficients (hit 0.1)))))\n"
+                      "  (front (angle-of-incidence (angle 90.0) (range-determinant (coefficients (hit 0.2))))))");
     EXPECT_EQ(table.codes, "repeated-surface@3:4");
     EXPECT_EQ(table.count(), 2);
     std::string const text = table.writtenText();
@@ -165,23 +165,24 @@ TEST(AxDmgSurfaceTable, LastOfSeveralEntriesOfASurfaceAnswers)
 
 TEST(AxDmgSurfaceTable, ReportsAndKeepsElementsOfUnknownDeterminants)
 {
-    Table table("(t (front (angle-of-incidence (angle 30.0) (range-determinant (spline 1 2)))\n"
-                "  (angle-of-incidence (angle 60.0) (range-determinant (coefficients (hit 0.5))))))");
+    DamageTable table("(t (front (angle-of-incidence (angle 30.0) (range-determinant (spline 1 2)))\n"
+                      "  (angle-of-incidence (angle 60.0) (range-determinant (coefficients (hit 0.5))))))");
     EXPECT_EQ(table.codes, "unknown-determinant@1:64");
     EXPECT_EQ(table.warnings, "Unrecognized range determinant spline in damage table\n");
     EXPECT_EQ(table.lookupSurfaceEntry("front")->count(), 1);
     EXPECT_NE(table.writtenText().find("(angle-of-incidence (angle 30.0) (range-determinant (spline 1 2)))\n"),
               std::string::npos);
-    EXPECT_EQ(Table("(t (front (angle-of-incidence (angle 30.0))))").warnings,
+    EXPECT_EQ(DamageTable("(t (front (angle-of-incidence (angle 30.0))))").warnings,
               "Unrecognized range determinant  in damage table\n");
 }
 
 TEST(AxDmgSurfaceTable, RadiusIsTheLargestRangeOfAnyDeterminant)
 {
-    EXPECT_EQ(Table(heat).getMaximumDamageRadius(), 3.0);
-    EXPECT_EQ(Table(heat).lookupSurfaceEntry("front")->getMaximumDamageRadius(), 2.0) << "the root of the line";
+    EXPECT_EQ(DamageTable(heatDamage).getMaximumDamageRadius(), 3.0);
+    EXPECT_EQ(DamageTable(heatDamage).lookupSurfaceEntry("front")->getMaximumDamageRadius(), 2.0)
+        << "the root of the line";
     EXPECT_EQ(AxDmgSurfaceTable().getMaximumDamageRadius(), 0.0);
-    EXPECT_EQ(Table("(t (front (angle-of-incidence (range-determinant (coefficients (hit 1 0 1))))))")
+    EXPECT_EQ(DamageTable("(t (front (angle-of-incidence (range-determinant (coefficients (hit 1 0 1))))))")
                   .getMaximumDamageRadius(),
               0.0)
         << "no root is no range";

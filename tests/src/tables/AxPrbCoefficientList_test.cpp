@@ -1,6 +1,7 @@
 #include "AxPrbCoefficientList.h"
 
 #include "AxSinkScope.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 
@@ -13,11 +14,6 @@ AxPrbProbabilityCoefficients polynomial(std::vector<double> const& coefficients)
     AxPrbProbabilityCoefficients made("hit", nullptr);
     made.setCoefficients(static_cast<int>(coefficients.size()), coefficients.data());
     return made;
-}
-
-void read(AxReaderWriter& rw, char const* text)
-{
-    rw.readText(text, "table", AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
 }
 } // namespace
 
@@ -80,7 +76,7 @@ TEST(AxPrbProbabilityCoefficients, ReportsAccessOutsideTheSet)
 TEST(AxPrbCoefficientList, ReadsAndWritesPolynomialsOfAnyLength)
 {
     AxPrbCoefficientList list("coefficients", nullptr);
-    read(list, "(coefficients (hit -0.0005 1) (kill) (seen 1 2 3 4 5))");
+    readFrom(list, "(coefficients (hit -0.0005 1) (kill) (seen 1 2 3 4 5))");
     EXPECT_EQ(list.writtenText(), "(coefficients\n  (hit -0.0005 1.0)\n  (kill)\n  (seen 1.0 2.0 3.0 4.0 5.0))\n");
     AxPrbCoefficientList copy(list);
     EXPECT_TRUE(copy == list);
@@ -92,12 +88,12 @@ TEST(AxPrbCoefficientList, KeepsWhatIsNoPolynomialUnread)
 {
     AxSinkScope warnings(AxWarn);
     AxPrbCoefficientList list("coefficients", nullptr);
-    read(list, "(coefficients (hit -0.0005 one) (kill 0.5))");
+    readFrom(list, "(coefficients (hit -0.0005 one) (kill 0.5))");
     EXPECT_EQ(list.count(), 1);
-    EXPECT_NE(warnings.text().find("table:1:28: error: a polynomial expects numbers"), std::string::npos);
+    EXPECT_NE(warnings.text().find("test.ope:1:28: error: a polynomial expects numbers"), std::string::npos);
     EXPECT_EQ(list.writtenText(), "(coefficients\n  (hit -0.0005 one)\n  (kill 0.5))\n");
 
-    read(list, "(coefficients (hit (1 2)) (kill $k 0.5) (seen $s) (none ($n 1 2)))");
+    readFrom(list, "(coefficients (hit (1 2)) (kill $k 0.5) (seen $s) (none ($n 1 2)))");
     EXPECT_EQ(list.count(), 2);
     EXPECT_EQ(list.writtenText(), "(coefficients\n  (hit (1 2))\n  (kill $k 0.5)\n  (seen $s)\n  (none ($n 1 2)))\n");
 }
@@ -105,7 +101,7 @@ TEST(AxPrbCoefficientList, KeepsWhatIsNoPolynomialUnread)
 TEST(AxPrbCoefficientList, FillsTheRowAnewEachTime)
 {
     AxPrbCoefficientList list;
-    read(list, "(coefficients (hit -0.001 1.0) (kill 0.25))");
+    readFrom(list, "(coefficients (hit -0.001 1.0) (kill 0.25))");
     AxPrbRangeTableEntry out;
     out.addProbability("hit", 0.9);
     EXPECT_TRUE(list.getProbabilities(500.0, &out));
@@ -124,6 +120,6 @@ TEST(AxPrbCoefficientList, ReachIgnoresNegativeAndUnrealRoots)
 {
     AxPrbCoefficientList list;
     EXPECT_EQ(list.maxRangeValue(), 0.0);
-    read(list, "(coefficients (a 1.0 5.0) (b 1.0 0.0 1.0))");
+    readFrom(list, "(coefficients (a 1.0 5.0) (b 1.0 0.0 1.0))");
     EXPECT_EQ(list.maxRangeValue(), 0.0);
 }

@@ -1,6 +1,7 @@
 #include "AxPrbRangeList.h"
 
 #include "AxSinkScope.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
 
@@ -16,11 +17,6 @@ AxPrbRangeTableEntry row(double range, double hit)
     AxPrbRangeTableEntry made(range);
     made.addProbability("hit", hit);
     return made;
-}
-
-void read(AxPrbRangeList& list, char const* text)
-{
-    list.readText(text, "table", AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
 }
 } // namespace
 
@@ -98,10 +94,10 @@ TEST(AxPrbRangeList, TellsOfReplacedRowsAndKeepsUnreadableOnes)
     AxSinkScope warnings(AxWarn);
     AxSinkScope notes(AxInfo);
     AxPrbRangeList list;
-    read(list, "(range-list\n(r 500 (hit 0.9))\n(r far (hit 0.1))\n(r 100 (hit 1))\n(r 500 (hit 0.85)))");
+    readFrom(list, "(range-list\n(r 500 (hit 0.9))\n(r far (hit 0.1))\n(r 100 (hit 1))\n(r 500 (hit 0.85)))");
     EXPECT_EQ(list.count(), 2);
-    EXPECT_NE(notes.text().find("table:2:1: info: the row of range 500.0 is replaced"), std::string::npos);
-    EXPECT_NE(warnings.text().find("table:3:1: error: a row expects its range"), std::string::npos);
+    EXPECT_NE(notes.text().find("test.ope:2:1: info: the row of range 500.0 is replaced"), std::string::npos);
+    EXPECT_NE(warnings.text().find("test.ope:3:1: error: a row expects its range"), std::string::npos);
     EXPECT_EQ(list.writtenText(), "(range-list\n  (r 100.0 (hit 1.0))\n  (r far (hit 0.1))\n  (r 500.0 (hit 0.85)))\n");
 }
 
@@ -123,7 +119,7 @@ TEST(AxPrbRangeList, TakesBothZerosForOneRangeAndItselfForNothing)
 {
     AxSinkScope notes(AxInfo);
     AxPrbRangeList list;
-    read(list, "(range-list (r -0.0 (hit 0.9)) (r 0.0 (hit 0.1)))");
+    readFrom(list, "(range-list (r -0.0 (hit 0.9)) (r 0.0 (hit 0.1)))");
     EXPECT_NE(notes.text().find("is replaced by a later one"), std::string::npos);
     list.copyList(list);
     EXPECT_EQ(list.count(), 1);

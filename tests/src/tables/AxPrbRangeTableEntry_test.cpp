@@ -2,16 +2,9 @@
 
 #include "AxRwVariableBindings.h"
 #include "AxSinkScope.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
-
-namespace
-{
-bool read(AxReaderWriter& rw, char const* text)
-{
-    return rw.readText(text, "row", AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
-}
-} // namespace
 
 TEST(AxPrbRangeTableEntry, IsWrittenOnOneLineAndReadBack)
 {
@@ -21,7 +14,7 @@ TEST(AxPrbRangeTableEntry, IsWrittenOnOneLineAndReadBack)
     EXPECT_EQ(row.writtenText(), "(range-entry 500.0 (hit 0.8) (\"kill no\" 0.25))\n");
 
     AxPrbRangeTableEntry copy;
-    EXPECT_TRUE(read(copy, row.writtenText().c_str()));
+    EXPECT_TRUE(readFrom(copy, row.writtenText()));
     EXPECT_TRUE(copy == row);
     copy.setRange(501.0);
     EXPECT_FALSE(copy == row);
@@ -30,7 +23,7 @@ TEST(AxPrbRangeTableEntry, IsWrittenOnOneLineAndReadBack)
 TEST(AxPrbRangeTableEntry, KeepsTheHeadOfANamedRow)
 {
     AxPrbRangeTableEntry row(AxSymbolString(), nullptr);
-    read(row, "(near 10 (hit 1))");
+    readFrom(row, "(near 10 (hit 1))");
     EXPECT_EQ(row.writtenText(), "(near 10.0 (hit 1.0))\n");
 }
 
@@ -48,10 +41,10 @@ TEST(AxPrbRangeTableEntry, SkipsWhatIsNoOutcomeAndWritesItBack)
 {
     AxSinkScope warnings(AxWarn);
     AxPrbRangeTableEntry row;
-    read(row, "(range-entry 100.0 (hit \"x\") (kill 0.5) (seen 0.1 0.2))");
+    readFrom(row, "(range-entry 100.0 (hit \"x\") (kill 0.5) (seen 0.1 0.2))");
     EXPECT_EQ(row.count(), 1);
     EXPECT_EQ(row.probability("kill"), 0.5);
-    EXPECT_NE(warnings.text().find("row:1:20: warning: an outcome expects a name and a number; it is skipped"),
+    EXPECT_NE(warnings.text().find("test.ope:1:20: warning: an outcome expects a name and a number; it is skipped"),
               std::string::npos);
     EXPECT_EQ(row.writtenText(), "(range-entry 100.0 (kill 0.5)\n  (hit \"x\")\n  (seen 0.1 0.2))\n");
 }
@@ -96,12 +89,12 @@ TEST(AxPrbRangeTableEntry, NothingThatIsNoOutcomeIsLost)
 {
     AxSinkScope quiet(AxWarn);
     AxPrbRangeTableEntry row;
-    read(row, "(range-entry 100.0 hit (kill (0.5)) (seen ($s x y) 1))");
+    readFrom(row, "(range-entry 100.0 hit (kill (0.5)) (seen ($s x y) 1))");
     EXPECT_EQ(row.count(), 0);
     std::string const text = "(range-entry 100.0\n  hit\n  (kill (0.5))\n  (seen ($s x y) 1))\n";
     EXPECT_EQ(row.writtenText(), text);
     AxPrbRangeTableEntry again;
-    read(again, text.c_str());
+    readFrom(again, text.c_str());
     EXPECT_EQ(again.writtenText(), text);
     EXPECT_EQ(AxPrbRangeTableEntry(row).writtenText(), text);
 }
@@ -109,16 +102,16 @@ TEST(AxPrbRangeTableEntry, NothingThatIsNoOutcomeIsLost)
 TEST(AxPrbRangeTableEntry, CopiesReferToTheVariablesToo)
 {
     AxPrbRangeTableEntry row;
-    read(row, "(range-entry 100.0 (hit $p) (kill ($q 0.5)) (seen 0.25))");
+    readFrom(row, "(range-entry 100.0 (hit $p) (kill ($q 0.5)) (seen 0.25))");
     AxPrbRangeTableEntry copy(row);
     EXPECT_EQ(copy.writtenText(), row.writtenText());
     AxRwVariableBindings values;
-    read(values, "(variable-bindings (p 0.75))");
+    readFrom(values, "(variable-bindings (p 0.75))");
     copy.bindVariables({&values});
     EXPECT_EQ(copy.probability("hit"), 0.75);
     EXPECT_EQ(row.probability("hit"), 0.0);
 
-    read(row, "(range-entry 50.0 (hit 0.125) (kill 0.5))");
+    readFrom(row, "(range-entry 50.0 (hit 0.125) (kill 0.5))");
     copy = row;
     EXPECT_EQ(copy.writtenText(), "(range-entry 50.0 (hit 0.125) (kill 0.5))\n");
 }

@@ -17,13 +17,13 @@ char const* const gunHit = R"((gun-hit
   (entity-range (entity-type 1 1 225 -1 -1 -1 -1) (range-determinant (coefficients (hit -0.0005 1.0))))
   (entity-range (entity-type 1 2 -1 -1 -1 -1 -1) (range-determinant (spline 1 2)))))";
 
-class Table : public AxRangeProbabilityTable
+class HitTable : public AxRangeProbabilityTable
 {
 public:
     using AxRangeProbabilityTable::AxRangeProbabilityTable;
     using AxRangeProbabilityTable::lookupDetectProbEntry;
 
-    explicit Table(char const* text) : AxRangeProbabilityTable(AxSymbolString(), nullptr)
+    explicit HitTable(char const* text) : AxRangeProbabilityTable(AxSymbolString(), nullptr)
     {
         AxSinkScope quiet(AxWarn);
         readText(text, "gun.hit", nullFilenames(), nullVariableReference());
@@ -35,7 +35,7 @@ public:
 
 TEST(AxRangeProbabilityTable, AnswersByTypeAndRange)
 {
-    Table const table(gunHit);
+    HitTable const table(gunHit);
     AxEntityType const patternOfAll(1, 1, -1, -1, -1, -1, -1);
     AxEntityType const patternOf225(1, 1, 225, -1, -1, -1, -1);
     AxEntityType const exact(1, 1, 225, 1, 1, 3, 0);
@@ -70,7 +70,7 @@ TEST(AxRangeProbabilityTable, AnswersByTypeAndRange)
 
 TEST(AxRangeProbabilityTable, MissLeavesEverythingAsItIs)
 {
-    Table const table(gunHit);
+    HitTable const table(gunHit);
     AxPrbRangeTableEntry out(7.0);
     out.addProbability("hit", 0.5);
     AxEntityType matched(9, 9, 9, 9, 9, 9, 9);
@@ -83,20 +83,20 @@ TEST(AxRangeProbabilityTable, MissLeavesEverythingAsItIs)
 
 TEST(AxRangeProbabilityTable, ReportsAndKeepsElementsOfUnknownDeterminants)
 {
-    Table table(gunHit);
+    HitTable table(gunHit);
     EXPECT_EQ(table.count(), 3);
     EXPECT_EQ(table.warnings, "Unrecognized range determinant spline in detect prob table\n");
     EXPECT_NE(
         table.writtenText().find("(entity-range (entity-type 1 2 -1 -1 -1 -1 -1) (range-determinant (spline 1 2))))\n"),
         std::string::npos);
-    EXPECT_EQ(Table("(t (entity-range (entity-type 1 1 1 1 1 1 1)))").warnings,
+    EXPECT_EQ(HitTable("(t (entity-range (entity-type 1 1 1 1 1 1 1)))").warnings,
               "Unrecognized range determinant  in detect prob table\n");
 }
 
 TEST(AxRangeProbabilityTable, WritesWhatItReads)
 {
-    Table table("(hit (x (entity-type 1 1 -1 -1 -1 -1 -1) (range-determinant (range-list)))"
-                "(entity-range (range-determinant (coefficients (hit 0.5)))))");
+    HitTable table("(hit (x (entity-type 1 1 -1 -1 -1 -1 -1) (range-determinant (range-list)))"
+                   "(entity-range (range-determinant (coefficients (hit 0.5)))))");
     std::string const text = "(hit\n"
                              "  (entity-range\n"
                              "    (entity-type 1 1 -1 -1 -1 -1 -1)\n"
@@ -107,7 +107,7 @@ TEST(AxRangeProbabilityTable, WritesWhatItReads)
                              "      (coefficients\n"
                              "        (hit 0.5)))))\n";
     EXPECT_EQ(table.writtenText(), text);
-    EXPECT_EQ(Table(text.c_str()).writtenText(), text);
+    EXPECT_EQ(HitTable(text.c_str()).writtenText(), text);
     AxRangeProbabilityTable const copy(table);
     EXPECT_TRUE(copy == table);
     EXPECT_EQ(copy.writtenText(), text);
@@ -126,7 +126,7 @@ TEST(AxRangeProbabilityTable, EntriesMadeInCodeAreCopiedIn)
     coefficients.setCoefficients(2, values);
     line.addProbabilityCoefficients(coefficients);
 
-    Table table("eye", nullptr);
+    HitTable table("eye", nullptr);
     AxRangeProbEntry const* const added = table.addDetectionProbabilityEntry(steps);
     EXPECT_NE(added, &steps);
     table.addDetectionProbabilityEntry(line);
@@ -143,7 +143,7 @@ TEST(AxRangeProbabilityTable, LookUpFollowsTheRuleForAllPatterns)
     std::uniform_int_distribution<int> field(-2, 1);
     for (int round = 0; round < 200; ++round)
     {
-        Table table("t", nullptr);
+        HitTable table("t", nullptr);
         std::vector<AxEntityType> types;
         for (int i = 0; i < 12; ++i)
         {

@@ -1,16 +1,9 @@
 #include "AxSinkScope.h"
 #include "AxTargetAcquireCriteria.h"
 #include "AxTargetSelectionCriteria.h"
+#include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
-
-namespace
-{
-void read(AxReaderWriter& rw, std::string const& text)
-{
-    rw.readText(text, "test", AxReaderWriter::nullFilenames(), AxReaderWriter::nullVariableReference());
-}
-} // namespace
 
 TEST(AxTargetPriorityList, ExactTypeWinsElseTheLastFittingPattern)
 {
@@ -37,7 +30,7 @@ TEST(AxTargetPriorityList, ExactTypeWinsElseTheLastFittingPattern)
 TEST(AxTargetPriorityList, IsWrittenUnderItsElementWord)
 {
     AxTargetPriorityList list("target-priorities", nullptr);
-    read(list, "(target-priorities (x (entity-type 1 1 1 1 1 1 1) (priority 2)))");
+    readFrom(list, "(target-priorities (x (entity-type 1 1 1 1 1 1 1) (priority 2)))");
     EXPECT_EQ(list.writtenText(), "(target-priorities\n"
                                   "  (entity-priority\n"
                                   "    (entity-type 1 1 1 1 1 1 1)\n"
@@ -59,9 +52,9 @@ TEST(AxTargetSelectionCriteria, RoundTripsAndCopies)
     criteria.priorityList().addTargetPriorityEntry(AxEntityType(1, 1, 1, 1, 1, 1, 1))->setPriority(4);
     criteria.setMaxTargets(3);
     criteria.setFireWithSpotReportOnly(true);
-    read(criteria.targetRegion(), "(target-region (sphere-filter (max-range 300.0)))");
+    readFrom(criteria.targetRegion(), "(target-region (sphere-filter (max-range 300.0)))");
     AxTargetSelectionCriteria again("c", nullptr);
-    read(again, criteria.writtenText());
+    readFrom(again, criteria.writtenText());
     EXPECT_TRUE(again == criteria);
     AxTargetSelectionCriteria const copy(criteria);
     EXPECT_EQ(copy.writtenText(), criteria.writtenText());
@@ -104,7 +97,7 @@ TEST(AxTargetAcquireCriteria, EachSetterReachesItsKeyword)
                     "  (check-elevation-to-acquire true)\n"
                     "  (max-elevation-to-acquire 750.0))\n");
     AxTargetAcquireCriteria again("c", nullptr);
-    read(again, text);
+    readFrom(again, text);
     EXPECT_EQ(again.entityType(), AxEntityType(1, 2, 3, 4, 5, 6, 7));
     EXPECT_EQ(again.timeToAcquire(), 2.5);
     EXPECT_FALSE(again.checkSpeed());

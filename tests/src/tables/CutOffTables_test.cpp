@@ -10,26 +10,26 @@ namespace
 {
 
 template <class T>
-std::unique_ptr<AxRwList> made()
+std::unique_ptr<AxRwList> madeTable()
 {
     return std::make_unique<T>(AxSymbolString("table"), nullptr);
 }
 
-struct Case
+struct TableCase
 {
     std::unique_ptr<AxRwList> (*make)();
     char const* text;
 };
 
-Case const theCases[] = {
-    {made<AxRangeProbabilityTable>,
+TableCase const theTables[] = {
+    {madeTable<AxRangeProbabilityTable>,
      "(gun-hit (entity-range (entity-type 1 1 -1 -1 -1 -1 -1) (range-determinant (range-list"
      " (range-entry 500.0 (hit 0.9)) (range-entry 1000.0 (hit 0.6)))))"
      " (entity-range (entity-type 1 1 225 -1 -1 -1 -1) (range-determinant (coefficients (hit -0.0005 1.0)))))"},
-    {made<AxAmmoSelectTable>,
+    {madeTable<AxAmmoSelectTable>,
      "(gun (ammo-select (target-type 1 1 -1 -1 -1 -1 -1) (ammo (munition (munition-name \"sabot\"))))"
      " (ammo-select (target-type 1 2 -1 -1 -1 -1 -1) (ammo (munition (munition-name \"heat\")))))"},
-    {made<AxDmgSurfaceTable>,
+    {madeTable<AxDmgSurfaceTable>,
      "(heat (front (angle-of-incidence (angle 30.0) (range-determinant (range-list (range-entry 1.0 (hit 0.6))))))"
      " (rear (angle-of-incidence (angle 90.0) (range-determinant (coefficients (hit -0.1 0.2))))))"},
 };
@@ -51,7 +51,7 @@ std::size_t wholeElements(std::string_view text, std::size_t length)
 
 TEST(CutOffTables, KeepWhatIsWholeAndTellOneFault)
 {
-    for (Case const& test : theCases)
+    for (TableCase const& test : theTables)
     {
         std::string_view const text = test.text;
         for (std::size_t length = 1; length < text.size(); ++length)

@@ -11,7 +11,7 @@
 
 namespace
 {
-constexpr char const* theForce = R"(<entities>
+constexpr char const* theForceXml = R"(<entities>
   <simObject name="m1">
     <variableBindings name="variable-bindings">
       <variable name="road-speed" value="18.5"/>
@@ -91,7 +91,7 @@ protected:
 
 TEST_F(AxZedXmlUtilsTest, FindsObjectsByTheirTypes)
 {
-    AxEnvironmentPtr const env = treeOf(theForce);
+    AxEnvironmentPtr const env = treeOf(theForceXml);
     std::vector<AxEnvValuePtr> const objects = objectsOf(env);
     ASSERT_EQ(objects.size(), 2U);
     EXPECT_EQ(AxZedXmlUtils::getObjectType(env, objects[0]), tank);
@@ -121,7 +121,7 @@ TEST_F(AxZedXmlUtilsTest, OfTwoElementsOfATypeTheLaterAnswersAndARootMayBeAnObje
 
 TEST_F(AxZedXmlUtilsTest, MakesTheRecordOfAnElement)
 {
-    AxEnvironmentPtr const env = treeOf(theForce);
+    AxEnvironmentPtr const env = treeOf(theForceXml);
     AxEnvValuePtr const element = objectsOf(env).at(0);
     RecordPtr const record = recordOf(env, element);
     ASSERT_TRUE(record);
@@ -317,7 +317,7 @@ TEST_F(AxZedXmlUtilsTest, FilesThatCannotBeReadAreToldWhenAskedTo)
     EXPECT_EQ(codes(), "");
     EXPECT_FALSE(AxZedXmlUtils::CreateZedXmlEnvironment(AxFilename(path("bad.entity")), true));
     EXPECT_EQ(codes(), "xml-syntax@1");
-    AxEnvironmentPtr const env = treeOf(theForce);
+    AxEnvironmentPtr const env = treeOf(theForceXml);
     EXPECT_TRUE(AxZedXmlUtils::writeEnvironment(env, AxFilename(path("force.entity"))));
     EXPECT_TRUE(equalTrees(AxZedXmlUtils::CreateZedXmlEnvironment(AxFilename(path("force.entity")), true), env));
     EXPECT_FALSE(AxZedXmlUtils::writeEnvironment(AxEnvironmentPtr(), AxFilename(path("force.entity"))));

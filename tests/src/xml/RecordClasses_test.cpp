@@ -40,7 +40,7 @@ protected:
         std::ifstream in(ZEDOBJPARAM_SOURCE_DIR "/examples/force/" + std::string(file), std::ios::binary);
         std::string const text{std::istreambuf_iterator<char>(in), {}};
         Content content("content", nullptr);
-        ASSERT_TRUE(readInto(content, text)) << file;
+        ASSERT_TRUE(readFrom(content, text)) << file;
         Content back("content", nullptr);
         expectSame(back, content, file);
         EXPECT_TRUE(findings.empty()) << file << ": " << findings[0].format();
@@ -54,7 +54,7 @@ TEST_F(RecordClassesInXml, ObjectRecordsComeBackWithAllTheyHold)
         RecordPtr const empty = made(type.c_str());
         RecordPtr const record = made(type.c_str());
         empty->setName("one");
-        readInto(*record, fullText(*empty));
+        readFrom(*record, fullText(*empty));
         RecordPtr const back = made(type.c_str());
         expectSame(*back, *record, type.c_str());
     }
@@ -72,7 +72,7 @@ TEST_F(RecordClassesInXml, ComponentDescriptorsComeBackWithAllTheyHold)
         std::unique_ptr<AxComponentDescriptor> const empty = create();
         std::unique_ptr<AxComponentDescriptor> const descriptor = create();
         empty->setName("one");
-        readInto(*descriptor, fullText(*empty));
+        readFrom(*descriptor, fullText(*empty));
         expectSame(*create(), *descriptor, type.c_str());
     }
 }

@@ -13,7 +13,6 @@
 
 namespace
 {
-namespace fs = std::filesystem;
 
 /// Records are read from characters where that is possible, and else from a tree. A processing instruction behind the
 /// root makes the whole document one for the parser, which makes a whole tree; nothing else may come of it.
@@ -75,7 +74,7 @@ protected:
         std::unique_ptr<AxReaderWriter> const empty = make();
         std::unique_ptr<AxReaderWriter> const record = make();
         empty->setName("one");
-        readInto(*record, empty->writtenText(true));
+        readFrom(*record, empty->writtenText(true));
         std::string const xml = record->toXml().string();
         return xml.substr(xml.find('\n') + 1);
     }
@@ -305,7 +304,8 @@ TEST_F(XmlReading, OddElementsAreReadAsFromTheirTree)
 TEST_F(XmlReading, ObjectsOfFilesAreReadAsFromTheirTree)
 {
     std::size_t objects = 0;
-    for (fs::directory_entry const& file : fs::recursive_directory_iterator(ZEDOBJPARAM_SOURCE_DIR "/examples/force"))
+    for (std::filesystem::directory_entry const& file :
+         std::filesystem::recursive_directory_iterator(ZEDOBJPARAM_SOURCE_DIR "/examples/force"))
     {
         if (file.path().extension() != ".entity")
         {
