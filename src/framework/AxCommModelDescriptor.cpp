@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr char const* theTypeHead = "comm-model-descriptor-type";
+constexpr char const* theCommModelType = "comm-model-descriptor-type";
 
 using Creators = std::map<AxString, AxCommModelDescriptor::CreatorFcn>;
 
@@ -113,12 +113,12 @@ void AxCommModelDescriptor::setSuccessProbability(double probability)
 
 void AxCommModelDescriptor::putData(std::string& out, int indent)
 {
-    AxTypeItem::write(out, indent, theTypeHead, type());
+    AxTypeItem::write(out, indent, theCommModelType, type());
 }
 
 AxlObjPtr AxCommModelDescriptor::getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const&)
 {
-    AxTypeItem::check(items->car(), theTypeHead);
+    AxTypeItem::check(items->car(), theCommModelType);
     return AxlObjPtr(items->cdr());
 }
 

@@ -8,11 +8,11 @@
 
 namespace
 {
-constexpr char const* theTypeHead = "component-descriptor-type";
+constexpr char const* theComponentType = "component-descriptor-type";
 AxComponentDescriptorFactory* theFactory = nullptr;
 
 /// For descriptors of every class: all values stand in the registry, and only the type item needs cells.
-AxTypeOps typeOps()
+AxTypeOps descriptorOps()
 {
     AxTypeOps ops;
     ops.create = [](AxSymbolString name, AxReaderWriterRegistry* registry) -> AxReaderWriter*
@@ -20,19 +20,19 @@ AxTypeOps typeOps()
     ops.copy = [](AxReaderWriter& to, AxReaderWriter const& from) { to.assign(from); };
     ops.equal = [](AxReaderWriter const& a, AxReaderWriter const& b) { return typeid(a) == typeid(b) && a == b; };
     ops.isForEachClass = true;
-    ops.leadHead = theTypeHead;
+    ops.leadHead = theComponentType;
     ops.ownItem = [](AxReaderWriter&, AxlObj const* item, std::size_t index, AxBindingsList&)
     {
         if (index == 0)
         {
-            AxTypeItem::check(item, theTypeHead);
+            AxTypeItem::check(item, theComponentType);
         }
         return index == 0;
     };
     return ops;
 }
 
-AxTypeEntry<AxComponentDescriptor> const theEntry(typeOps());
+AxTypeEntry<AxComponentDescriptor> const theDescriptorEntry(descriptorOps());
 } // namespace
 
 AxComponentDescriptor::AxComponentDescriptor(AxSymbolString name, AxReaderWriterRegistry* parent)
@@ -199,12 +199,12 @@ bool AxComponentDescriptor::createOnRemoteObject() const
 
 void AxComponentDescriptor::putData(std::string& out, int indent)
 {
-    AxTypeItem::write(out, indent, theTypeHead, type());
+    AxTypeItem::write(out, indent, theComponentType, type());
 }
 
 AxlObjPtr AxComponentDescriptor::getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const&)
 {
-    AxTypeItem::check(items->car(), theTypeHead);
+    AxTypeItem::check(items->car(), theComponentType);
     return AxlObjPtr(items->cdr());
 }
 

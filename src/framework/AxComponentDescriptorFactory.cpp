@@ -8,7 +8,7 @@
 
 namespace
 {
-AxComponentDescriptorFactoryEntry* entryOf(AxListItem const* item)
+AxComponentDescriptorFactoryEntry* descriptorEntryOf(AxListItem const* item)
 {
     return static_cast<AxComponentDescriptorFactoryEntry*>(item->data());
 }
@@ -40,7 +40,7 @@ void AxComponentDescriptorFactory::addEntriesOf(AxComponentDescriptorFactory con
 {
     for (AxListItem const* item = other.first(); item; item = item->next())
     {
-        addCreatorFcn(entryOf(item)->typeToCreate(), entryOf(item)->creatorFcn());
+        addCreatorFcn(descriptorEntryOf(item)->typeToCreate(), descriptorEntryOf(item)->creatorFcn());
     }
 }
 
@@ -79,7 +79,7 @@ AxComponentDescriptor* AxComponentDescriptorFactory::createComponentDescriptor(A
     std::vector<std::string_view> known;
     for (AxListItem const* item = first(); item; item = item->next())
     {
-        known.push_back(entryOf(item)->typeToCreate().string());
+        known.push_back(descriptorEntryOf(item)->typeToCreate().string());
     }
     axReportUnknownType(type.string(), AxTypeItem::Scope::cell(),
                         "Can't create component descriptor of type " + type.string() + ".  No creator found.\n", known);

@@ -23,7 +23,7 @@ AxSimResource* newResource(std::string_view head)
 }
 
 /// Elements of known types are read without cells.
-AxTypeOps typeOps()
+AxTypeOps managerOps()
 {
     AxTypeOps ops = AxTypeOps::withCreator<AxSimResourceManager>();
     ops.readElement =
@@ -42,7 +42,7 @@ AxTypeOps typeOps()
     return ops;
 }
 
-AxTypeEntry<AxSimResourceManager> const theEntry(typeOps());
+AxTypeEntry<AxSimResourceManager> const theManagerEntry(managerOps());
 } // namespace
 
 AxSimResourceManager::AxSimResourceManager(AxSimResourceManager const& other, AxReaderWriterRegistry* registry)

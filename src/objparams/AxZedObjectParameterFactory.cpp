@@ -8,7 +8,7 @@
 
 namespace
 {
-AxZedObjectParameterFactoryEntry* entryOf(AxListItem const* item)
+AxZedObjectParameterFactoryEntry* recordEntryOf(AxListItem const* item)
 {
     return static_cast<AxZedObjectParameterFactoryEntry*>(item->data());
 }
@@ -40,7 +40,7 @@ void AxZedObjectParameterFactory::addEntriesOf(AxZedObjectParameterFactory const
 {
     for (AxListItem const* item = other.first(); item; item = item->next())
     {
-        AxZedObjectParameterFactoryEntry* const copy = entryOf(item)->clone(*entryOf(item));
+        AxZedObjectParameterFactoryEntry* const copy = recordEntryOf(item)->clone(*recordEntryOf(item));
         void* replaced = nullptr;
         add(AxStringHashKey(copy->typeToCreate()), copy, &replaced);
         delete static_cast<AxZedObjectParameterFactoryEntry*>(replaced);
@@ -98,7 +98,7 @@ AxZedObjectParameters* AxZedObjectParameterFactory::createParameters(AxString co
     std::vector<std::string_view> known;
     for (AxListItem const* item = first(); item; item = item->next())
     {
-        known.push_back(entryOf(item)->typeToCreate().string());
+        known.push_back(recordEntryOf(item)->typeToCreate().string());
     }
     axReportUnknownType(name.string(), AxTypeItem::Scope::cell(), unknownTypeLine(name), known);
     return nullptr;
@@ -119,7 +119,7 @@ std::list<AxString> AxZedObjectParameterFactory::typeNames() const
     std::list<AxString> names;
     for (AxListItem const* item = first(); item; item = item->next())
     {
-        names.push_back(entryOf(item)->typeToCreate());
+        names.push_back(recordEntryOf(item)->typeToCreate());
     }
     return names;
 }

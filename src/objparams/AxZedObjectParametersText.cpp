@@ -1,3 +1,4 @@
+#include "AxTreeCells.h"
 #include "AxZedObjectParameters.h"
 
 #include "AxDiagnostic.h"
@@ -18,15 +19,8 @@
 
 namespace
 {
-constexpr char const* theTypeHead = "parameter-type";
+constexpr char const* theRecordTypeHead = "parameter-type";
 constexpr char const* theNoFactoryLine = "Can't create parameters without a parameter factory.\n";
-
-std::string printed(AxlObj const* cell)
-{
-    std::string text;
-    axAppendCell(text, cell);
-    return text;
-}
 
 AxDiagnostic located(AxlObj const* cell, char const* code, std::string text)
 {
@@ -63,7 +57,7 @@ AxlObj const* typeItemOf(AxlObj const* record)
 {
     for (AxlObj const* rest = record->cdr(); rest->isPair(); rest = rest->cdr())
     {
-        if (rest->car()->car()->text() == theTypeHead)
+        if (rest->car()->car()->text() == theRecordTypeHead)
         {
             return rest->car();
         }
@@ -80,7 +74,7 @@ struct AxZedObjectParameters::Entry : AxTypeEntry<AxZedObjectParameters>
     static AxTypeOps ops()
     {
         AxTypeOps ops = AxTypeOps::withCreator<AxZedObjectParameters>();
-        ops.leadHead = theTypeHead;
+        ops.leadHead = theRecordTypeHead;
         ops.ownItem = [](AxReaderWriter& rw, AxlObj const* item, std::size_t, AxBindingsList& bindings)
         {
             auto& record = static_cast<AxZedObjectParameters&>(rw);
@@ -218,7 +212,7 @@ void AxZedObjectParameters::finishReading(AxFilenameList const& files, AxBinding
     myExtensionItem = axcNil();
     if (!createStateRepositoryUserExtension(extensionItem, files, bindings) && !extensionItem.nil())
     {
-        keepItem(registry()->entry(registry()->size() - 1).keyword, printed(extensionItem.get()));
+        keepItem(registry()->entry(registry()->size() - 1).keyword, AxTreeCells::printed(extensionItem.get()));
     }
     reportDuplicateData();
 }
@@ -338,7 +332,7 @@ AxlObjPtr AxZedObjectParameters::getData(AxlObjPtr const& items, AxFilenameList 
 
 bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& bindings)
 {
-    static AxSymbolString const typeHead(theTypeHead);
+    static AxSymbolString const typeHead(theRecordTypeHead);
     static AxSymbolString const extensionHead("user-extension");
     static AxSymbolString const objectTypeHead("object-type");
     static AxSymbolString const matchTypeHead("match-type");
@@ -364,7 +358,7 @@ bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& b
         }
         else
         {
-            keepItem(AxSymbolString(), printed(item));
+            keepItem(AxSymbolString(), AxTreeCells::printed(item));
         }
         return true;
     }
@@ -378,7 +372,7 @@ bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& b
 
 void AxZedObjectParameters::putData(std::string& out, int indent)
 {
-    AxTypeItem::write(out, indent, theTypeHead, type());
+    AxTypeItem::write(out, indent, theRecordTypeHead, type());
     for (AxRwVariableBindings const* bindings : myVariableBindings)
     {
         out += '\n';

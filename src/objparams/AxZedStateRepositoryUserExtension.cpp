@@ -6,8 +6,8 @@
 
 namespace
 {
-AxZedStateRepositoryUserExtensionFactory* ourFactory = nullptr;
-bool ourFactoryWasSet = false;
+AxZedStateRepositoryUserExtensionFactory* ourExtensionFactory = nullptr;
+bool ourExtensionFactoryWasSet = false;
 
 AxZedStateRepositoryUserExtension* createBase(AxString const&)
 {
@@ -58,13 +58,13 @@ char const* AxZedStateRepositoryUserExtension::readerWriterType() const
 AxZedStateRepositoryUserExtensionFactory* AxZedStateRepositoryUserExtension::factory()
 {
     static AxZedStateRepositoryUserExtensionFactory builtIn;
-    return ourFactoryWasSet ? ourFactory : &builtIn;
+    return ourExtensionFactoryWasSet ? ourExtensionFactory : &builtIn;
 }
 
 void AxZedStateRepositoryUserExtension::setFactory(AxZedStateRepositoryUserExtensionFactory* factory)
 {
-    ourFactory = factory;
-    ourFactoryWasSet = true;
+    ourExtensionFactory = factory;
+    ourExtensionFactoryWasSet = true;
 }
 
 AxZedStateRepositoryUserExtensionFactory::AxZedStateRepositoryUserExtensionFactory()

@@ -11,14 +11,14 @@
 namespace
 {
 /// Elements are read through cells, one by one, so that a fault leaves those in front of it.
-AxTypeOps typeOps()
+AxTypeOps modelSetOps()
 {
     AxTypeOps ops = AxTypeOps::withCreator<AxModelSet>();
     ops.readElement = [](AxRwList&, AxTextReader&, AxFilenameList const&, AxBindingsList const&) { return false; };
     return ops;
 }
 
-AxTypeEntry<AxModelSet> const typeEntry(typeOps());
+AxTypeEntry<AxModelSet> const theModelSetEntry(modelSetOps());
 
 int equalFields(AxObjectType const& a, AxObjectType const& b)
 {

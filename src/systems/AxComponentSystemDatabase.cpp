@@ -2,6 +2,7 @@
 
 #include "AxComponentSystemDefinition.h"
 #include "AxDiagnostic.h"
+#include "AxFileCells.h"
 #include "AxReadWholeFile.h"
 #include "AxStreams.h"
 #include "AxlFunctions.h"
@@ -15,12 +16,6 @@
 static bool isUnreadable(int error)
 {
     return error == EISDIR || error == EINVAL || error == EFBIG || error == EIO;
-}
-
-static void reportParseFailure(AxFilename const& file, AxDiagnostic fault)
-{
-    AxDiagnostics::reportStated(std::move(fault),
-                                "AxReaderWriterFile::getSelf failed while parsing " + file.string().string() + '\n');
 }
 
 static void reportTextAfterEnd(AxlInputStream& stream)
@@ -47,7 +42,7 @@ static void readDefinition(AxComponentSystemDefinition& definition, AxFilename c
         AxlReadResult const read = AxcRead(stream, AxlEnv(), options);
         if (read.unclosed)
         {
-            reportParseFailure(file, read.fault().diagnostic());
+            axReportParseFailure(file.string().string(), read.fault().diagnostic());
             read.settleCutOff();
         }
         if (!read.expr->isEof())
@@ -58,14 +53,14 @@ static void readDefinition(AxComponentSystemDefinition& definition, AxFilename c
     }
     catch (AxlSyntaxError const& error)
     {
-        reportParseFailure(file, error.diagnostic());
+        axReportParseFailure(file.string().string(), error.diagnostic());
     }
     catch (std::exception const& error)
     {
         AxDiagnostic fault;
         fault.code = "read-failed";
         fault.text = error.what();
-        reportParseFailure(file, std::move(fault));
+        axReportParseFailure(file.string().string(), std::move(fault));
     }
 }
 

@@ -4,7 +4,7 @@
 #include "AxSourceScope.h"
 #include "AxlObj.h"
 
-static constexpr std::string_view theWords[] = {"range-list", "coefficients"};
+static constexpr std::string_view theDeterminants[] = {"range-list", "coefficients"};
 
 AxlObj const* axDeterminantWord(AxlObj const* element)
 {
@@ -28,7 +28,7 @@ void axReportDeterminant(AxlObj const* element, AxlObj const* word, std::string 
     {
         return; // the text ends in this element, which has been told
     }
-    std::string_view const nearest = axNearest(text, theWords);
+    std::string_view const nearest = axNearest(text, theDeterminants);
     if (!nearest.empty())
     {
         fault.hint = "did you mean \"" + std::string(nearest) + "\"?";

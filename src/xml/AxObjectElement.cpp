@@ -1,5 +1,6 @@
 #include "AxObjectElement.h"
 
+#include "AxCharacters.h"
 #include "AxElement.h"
 #include "AxSystemElement.h"
 #include "AxTreeCells.h"
@@ -50,7 +51,7 @@ bool isLeftOut(AxEnvObject const& part)
     AxObjectType type;
     AxString const* const value = part.attribute("value");
     bool const isUnreadable =
-        value && !AxTreeCells::isBlank(value->string()) && !AxObjectType::fromString(value->string(), type);
+        value && !axIsBlank(value->string()) && !AxObjectType::fromString(value->string(), type);
     return isUnreadable || (part.count() == 0 && type.isNull() && !(part.type() == AxObjectElement::thePlatformTag));
 }
 
@@ -159,7 +160,7 @@ bool AxObjectElement::hasUnreadableType(AxEnvValuePtr const& element)
     {
         AxObjectType type;
         std::string const text = AxElement::attribute(child, "value").string();
-        isUnreadable = isUnreadable || (!AxTreeCells::isBlank(text) && !AxObjectType::fromString(text, type));
+        isUnreadable = isUnreadable || (!axIsBlank(text) && !AxObjectType::fromString(text, type));
     };
     AxElement::forEach(element, theTypeTag, look);
     AxElement::forEach(element, theMatchTypeTag, look);

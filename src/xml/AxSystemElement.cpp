@@ -1,5 +1,6 @@
 #include "AxSystemElement.h"
 
+#include "AxCharacters.h"
 #include "AxElement.h"
 #include "AxRwElement.h"
 #include "AxRwVariableBindings.h"
@@ -15,7 +16,7 @@ namespace
 {
 constexpr char const* theDefinition = "system-definition";
 constexpr char const* theTextType = "string";
-constexpr char const* theVariable = "variable";
+constexpr char const* theVariableTag = "variable";
 
 AxEnvObjectPtr newObject(AxString const& type, AxEnvValue const& place)
 {
@@ -96,13 +97,13 @@ void addVariableItems(AxEnvValuePtr const& element, AxEnvObject& record, Keep co
             record.add(AxXmlFragment::copyOf(*child));
             continue;
         }
-        bool const isVariable = child && child->type() == theVariable;
+        bool const isVariable = child && child->type() == theVariableTag;
         if (AxEnvObjectPtr const item = isVariable ? itemOf(*child) : AxEnvObjectPtr())
         {
             record.add(item);
             continue;
         }
-        if (!child && AxTreeCells::isBlank(node->value().string()))
+        if (!child && axIsBlank(node->value().string()))
         {
             continue;
         }
@@ -290,7 +291,7 @@ AxEnvObjectPtr AxSystemElement::restOfVariables(AxEnvObject const& variables, bo
         AxEnvObjectPtr const child = node->castToObject();
         // One that cannot be read is kept as a whole.
         bool const isRead =
-            child && child->type() == theVariable && !child->name().isNull() && !valuesOf(*child, false).empty();
+            child && child->type() == theVariableTag && !child->name().isNull() && !valuesOf(*child, false).empty();
         if (AxEnvObjectPtr const part = isRead ? AxXmlFragment::restOf(*child, nullptr, reports) : AxEnvObjectPtr())
         {
             rest->add(part);
@@ -302,7 +303,7 @@ AxEnvObjectPtr AxSystemElement::restOfVariables(AxEnvObject const& variables, bo
 void AxSystemElement::addVariable(AxEnvironmentPtr const& env, AxEnvObjectPtr const& variables, AxString const& name,
                                   AxlObj const* values)
 {
-    AxEnvObjectPtr const variable = env->addObject(name, theVariable, variables);
+    AxEnvObjectPtr const variable = env->addObject(name, theVariableTag, variables);
     if (values->car()->isString() && values->cdr()->nil())
     {
         variable->setAttribute("value", AxString(values->car()->text()));

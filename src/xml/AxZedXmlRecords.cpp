@@ -16,7 +16,7 @@
 namespace
 {
 constexpr char const* theRecordType = "parameter-type";
-constexpr char const* theBindings = "variable-bindings";
+constexpr char const* theVariableBindings = "variable-bindings";
 
 /// An empty record of the type that the platform names; null after a report.
 std::unique_ptr<AxZedObjectParameters> newRecord(AxEnvironmentPtr const& env, AxEnvValuePtr element,
@@ -91,7 +91,7 @@ void moveVariables(AxEnvironmentPtr const& env, AxEnvObject& platform)
     for (AxEnvValuePtr const& node : platform.children())
     {
         AxEnvObjectPtr const child = node->castToObject();
-        if (child && child->type() == AxTreeCells::theTextTag && child->name() == theBindings)
+        if (child && child->type() == AxTreeCells::theTextTag && child->name() == theVariableBindings)
         {
             sets.push_back(child);
         }

@@ -4,12 +4,12 @@
 
 namespace
 {
-constexpr AxEntityType theNullType;
+constexpr AxEntityType theNullEntityType;
 } // namespace
 
 AxEntityType const& AxEntityType::nullType()
 {
-    return theNullType;
+    return theNullEntityType;
 }
 
 AxString AxEntityType::string(std::string_view separator) const

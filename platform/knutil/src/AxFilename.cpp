@@ -1,5 +1,7 @@
 #include "AxFilename.h"
 
+#include "AxCharacters.h"
+
 #include <algorithm>
 #include <boost/filesystem/operations.hpp>
 #include <ostream>
@@ -9,11 +11,6 @@ namespace
 {
 constexpr std::string_view theSeparators = "/\\";
 
-bool isLetter(char c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
 /// Length of the part that makes a name absolute: "/" or "C:/"; 0 for a relative name.
 std::size_t rootLength(std::string_view path)
 {
@@ -21,7 +18,7 @@ std::size_t rootLength(std::string_view path)
     {
         return 1;
     }
-    bool const drive = path.size() >= 3 && isLetter(path[0]) && path[1] == ':' && AxFilename::isSeparator(path[2]);
+    bool const drive = path.size() >= 3 && axIsLetter(path[0]) && path[1] == ':' && AxFilename::isSeparator(path[2]);
     return drive ? 3 : 0;
 }
 } // namespace

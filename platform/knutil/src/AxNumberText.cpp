@@ -1,5 +1,7 @@
 #include "AxNumberText.h"
 
+#include "AxCharacters.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -25,11 +27,6 @@ struct NumberScan
 constexpr std::uint64_t theMantissaLimit = 100'000'000'000'000'000;
 constexpr int theExponentLimit = 100'000;
 
-constexpr bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 NumberScan scanNumber(std::string_view token)
 {
     NumberScan scan;
@@ -43,7 +40,7 @@ NumberScan scanNumber(std::string_view token)
     int scale = 0;
     auto const takeDigits = [&](int step)
     {
-        for (; at != end && isDigit(*at); ++at)
+        for (; at != end && axIsDigit(*at); ++at)
         {
             anyDigit = true;
             if (scan.mantissa < theMantissaLimit)
@@ -79,7 +76,7 @@ NumberScan scanNumber(std::string_view token)
         {
             return scan;
         }
-        for (; at != end && isDigit(*at); ++at)
+        for (; at != end && axIsDigit(*at); ++at)
         {
             scan.exponent = scan.exponent < theExponentLimit ? scan.exponent * 10 + (*at - '0') : scan.exponent;
         }
@@ -208,7 +205,7 @@ bool axParseReal(std::string_view token, double& value)
 
 bool axParseInt(std::string_view token, long long& value)
 {
-    bool const plus = token.size() > 1 && token[0] == '+' && isDigit(token[1]);
+    bool const plus = token.size() > 1 && token[0] == '+' && axIsDigit(token[1]);
     char const* const begin = token.data() + (plus ? 1 : 0);
     char const* const end = token.data() + token.size();
     long long read = 0;

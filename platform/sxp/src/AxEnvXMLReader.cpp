@@ -11,6 +11,7 @@
 #include <boost/make_shared.hpp>
 #include <expat.h>
 
+#include "AxCharacters.h"
 #include "AxDiagnostic.h"
 #include "AxFileBytes.h"
 #include "AxLimits.h"
@@ -20,11 +21,6 @@
 
 namespace
 {
-bool isBlank(std::string_view text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
-}
-
 bool equalsIgnoringCase(std::string_view a, std::string_view b)
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
@@ -409,7 +405,7 @@ void XmlParse::endText()
     {
         return;
     }
-    if (!isBlank(myGathered))
+    if (!axIsBlank(myGathered))
     {
         myOpen.back().keepsText = true;
     }

@@ -4,6 +4,7 @@
 #include <array>
 #include <stdexcept>
 
+#include "AxCharacters.h"
 #include "AxDiagnostic.h"
 #include "AxLimits.h"
 #include "AxWindows1252.h"
@@ -59,16 +60,6 @@ bool isXmlName(std::string_view text)
         }
     }
     return text.empty();
-}
-
-bool isXmlCharacter(std::uint32_t point)
-{
-    return point >= 0x20 ? point != 0xFFFE && point != 0xFFFF : point == '\t' || point == '\n' || point == '\r';
-}
-
-bool isBlank(std::string_view text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
 /// The whole text below a comment or instruction.
@@ -176,7 +167,7 @@ void AxXmlPrinter::content(AxEnvList const& list, std::string const& tag, unsign
     for (AxEnvValuePtr const& child : list.children())
     {
         hasText = hasText || !child->isList();
-        onlyBlanks = onlyBlanks && (child->isList() || isBlank(child->value().string()));
+        onlyBlanks = onlyBlanks && (child->isList() || axIsBlank(child->value().string()));
     }
     inlined = inlined || hasText;
     bool toldMeant = !onlyBlanks;
@@ -221,7 +212,7 @@ void AxXmlPrinter::instruction(AxEnvObject const& object)
     bool isDeclaration =
         target.size() == 3 && (target[0] | 0x20) == 'x' && (target[1] | 0x20) == 'm' && (target[2] | 0x20) == 'l';
     if (!isXmlName(target) || isDeclaration || data.find("?>") != std::string::npos ||
-        data.find('\r') != std::string::npos || (!data.empty() && isBlank(data.substr(0, 1))))
+        data.find('\r') != std::string::npos || (!data.empty() && axIsBlank(data.substr(0, 1))))
     {
         throw std::runtime_error("processing instruction \"" + target + "\" cannot be written");
     }
@@ -297,7 +288,7 @@ std::string AxXmlPrinter::checked(std::string_view text, std::string const& owne
     std::uint32_t point = 0;
     while (axTakeUtf8(rest, point))
     {
-        if (!isXmlCharacter(point))
+        if (!axIsXmlCharacter(point))
         {
             static constexpr char theDigits[] = "0123456789ABCDEF";
             std::string number;

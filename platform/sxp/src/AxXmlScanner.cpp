@@ -6,6 +6,7 @@
 #include <cstring>
 #include <limits>
 
+#include "AxCharacters.h"
 #include "AxWindows1252.h"
 
 namespace
@@ -69,11 +70,6 @@ char const* past(char const* at, Class what)
     return at;
 }
 
-char const* pastBlanks(char const* at)
-{
-    return past(at, Blank);
-}
-
 template <class Word>
 std::uint64_t wordAt(char const* at)
 {
@@ -92,13 +88,6 @@ std::size_t bucketOf(std::string_view name, std::size_t count)
                                                   : wordAt<unsigned char>(begin) * 31 + wordAt<unsigned char>(end - 1);
     return static_cast<std::size_t>(((ends + name.size()) * 0x9E3779B97F4A7C15U) >> 32) & (count - 1);
 }
-
-bool isXmlCharacter(std::uint32_t point)
-{
-    bool const isSurrogate = point >= 0xD800 && point <= 0xDFFF;
-    return point >= ' ' ? point <= 0x10FFFF && !isSurrogate && point != 0xFFFE && point != 0xFFFF
-                        : point == '\t' || point == '\n' || point == '\r';
-}
 } // namespace
 
 bool AxXmlScanner::scan()
@@ -111,7 +100,7 @@ bool AxXmlScanner::scan()
     for (;;)
     {
         char const* const begin = myAt;
-        myAt = pastBlanks(myAt);
+        myAt = past(myAt, Blank);
         if (static_cast<std::size_t>(myAt - begin) > axLimits.tokenSize)
         {
             return false;
@@ -197,7 +186,7 @@ bool AxXmlScanner::startTag()
     for (;;)
     {
         char const* const behind = myAt;
-        myAt = pastBlanks(myAt);
+        myAt = past(myAt, Blank);
         if (*myAt == '>')
         {
             ++myAt;
@@ -221,12 +210,12 @@ bool AxXmlScanner::attribute(std::uint32_t first)
     myAt = is(*name, NameStart) ? past(name, NamePart) : name;
     auto const size = static_cast<std::size_t>(myAt - name);
     AxXmlDocument::Attribute made{offset(name), 0, 0, static_cast<std::uint16_t>(size), false};
-    myAt = pastBlanks(myAt);
+    myAt = past(myAt, Blank);
     if (size == 0 || size > std::numeric_limits<std::uint16_t>::max() || *myAt != '=')
     {
         return false;
     }
-    myAt = pastBlanks(myAt + 1);
+    myAt = past(myAt + 1, Blank);
     if (!attributeValue(made) || isRepeated(first, made))
     {
         return false;
@@ -313,7 +302,7 @@ bool AxXmlScanner::endTag()
     {
         return false;
     }
-    myAt = pastBlanks(myAt);
+    myAt = past(myAt, Blank);
     element.next = static_cast<std::uint32_t>(myNodes.size());
     return *myAt == '>' && (++myAt, true);
 }
@@ -392,7 +381,7 @@ bool AxXmlScanner::character()
     std::string_view rest(myAt, static_cast<std::size_t>(std::min<std::ptrdiff_t>(myEnd - myAt, 4)));
     std::uint32_t point = 0;
     std::size_t const before = rest.size();
-    if (static_cast<unsigned char>(*myAt) < 0x80 || !axTakeUtf8(rest, point) || !isXmlCharacter(point))
+    if (static_cast<unsigned char>(*myAt) < 0x80 || !axTakeUtf8(rest, point) || !axIsXmlCharacter(point))
     {
         return false;
     }
@@ -416,5 +405,5 @@ bool AxXmlScanner::reference()
     auto const [end, error] = std::from_chars(myAt, myEnd, point, isHex ? 16 : 10);
     bool const isWhole = error == std::errc() && *end == ';';
     myAt = isWhole ? end + 1 : end;
-    return isWhole && isXmlCharacter(point);
+    return isWhole && axIsXmlCharacter(point);
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "AxCharacters.h"
 #include "AxLimits.h"
 #include "AxNumberText.h"
 #include "AxlCellPool.h"
@@ -108,7 +109,6 @@ private:
                                                            1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
     static bool isAtom(char byte) { return classOf(byte) <= Class::NumberSign; }
-    static bool isDigit(char byte) { return static_cast<unsigned char>(byte - '0') < 10; }
 
     static constexpr std::uint64_t eightOf(unsigned char byte) { return 0x0101010101010101U * byte; }
 
@@ -268,7 +268,7 @@ inline AxlScanner::Token AxlScanner::scanNumber()
 
     std::uint64_t digits = 0;
     char const* whole = byte;
-    for (; isDigit(*byte); ++byte)
+    for (; axIsDigit(*byte); ++byte)
     {
         digits = digits * 10 + static_cast<unsigned char>(*byte - '0');
     }
@@ -278,7 +278,7 @@ inline AxlScanner::Token AxlScanner::scanNumber()
     if (point)
     {
         char const* fraction = ++byte;
-        for (; isDigit(*byte); ++byte)
+        for (; axIsDigit(*byte); ++byte)
         {
             digits = digits * 10 + static_cast<unsigned char>(*byte - '0');
         }

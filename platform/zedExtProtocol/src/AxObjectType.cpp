@@ -6,12 +6,12 @@
 
 namespace
 {
-constexpr AxObjectType theNullType;
+constexpr AxObjectType theNullObjectType;
 } // namespace
 
 AxObjectType const& AxObjectType::nullType()
 {
-    return theNullType;
+    return theNullObjectType;
 }
 
 AxString AxObjectType::string(std::string_view separator) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AxCharacters.h"
+
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
@@ -11,13 +13,12 @@ inline char const* axTakeDecimal(char const* const begin, double& value)
 {
     static constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                         1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-    auto const isDigit = [](char byte) { return static_cast<unsigned char>(byte - '0') < 10; };
     char const* at = begin;
     bool const isNegative = *at == '-';
     at += isNegative ? 1 : 0;
     char const* const first = at;
     std::uint64_t digits = 0;
-    while (isDigit(*at))
+    while (axIsDigit(*at))
     {
         digits = digits * 10 + static_cast<std::uint64_t>(*at++ - '0');
     }
@@ -26,7 +27,7 @@ inline char const* axTakeDecimal(char const* const begin, double& value)
     if (*at == '.')
     {
         char const* const point = ++at;
-        while (isDigit(*at))
+        while (axIsDigit(*at))
         {
             digits = digits * 10 + static_cast<std::uint64_t>(*at++ - '0');
         }

@@ -130,3 +130,8 @@ void axForgetFileCells()
     cache().files.clear();
     cache().size = 0;
 }
+
+void axReportParseFailure(std::string const& file, AxDiagnostic fault)
+{
+    AxDiagnostics::reportStated(std::move(fault), "AxReaderWriterFile::getSelf failed while parsing " + file + '\n');
+}

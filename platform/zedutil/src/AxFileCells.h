@@ -1,9 +1,11 @@
 #pragma once
 
+#include "AxDiagnostic.h"
 #include "AxFilename.h"
 #include "AxlReadResult.h"
 
 #include <cstdint>
+#include <string>
 #include <sys/types.h>
 
 /// Which file, and which state of it, a name stands for now.
@@ -30,3 +32,6 @@ struct AxFileIdentity
 bool axReadFileCells(AxFilename const& file, AxFileIdentity const& identity, AxlReadResult& read);
 
 void axForgetFileCells();
+
+/// Reports why a file that a record names could not be parsed.
+void axReportParseFailure(std::string const& file, AxDiagnostic fault);

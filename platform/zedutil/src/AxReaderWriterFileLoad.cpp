@@ -121,11 +121,6 @@ bool find(Search& search, std::vector<AxFilename> const& names, AxFilenameList c
     return false;
 }
 
-void reportParseFailure(AxFilename const& file, AxDiagnostic fault)
-{
-    AxDiagnostics::reportStated(std::move(fault),
-                                "AxReaderWriterFile::getSelf failed while parsing " + file.native() + '\n');
-}
 } // namespace
 
 void AxReaderWriterFile::Content::giveWay(AxReaderWriterFile const& member, AxlObj const* place) const
@@ -217,7 +212,7 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
     }
     catch (AxlSyntaxError const& error)
     {
-        reportParseFailure(search.found, error.diagnostic());
+        axReportParseFailure(search.found.native(), error.diagnostic());
         return false;
     }
     myContent->found = search.found;
@@ -227,14 +222,14 @@ bool AxReaderWriterFile::readFile(AxlObj const* place, AxFilenameList const& fil
                                      "expected a list (name item...), found the end of the text");
         empty.line = 1;
         empty.column = 1;
-        reportParseFailure(search.found, std::move(empty));
+        axReportParseFailure(search.found.native(), std::move(empty));
         return false;
     }
     AxFilenameList directories = files;
     directories.push_front(search.found.directory());
     if (read.unclosed)
     {
-        reportParseFailure(search.found, read.fault().diagnostic());
+        axReportParseFailure(search.found.native(), read.fault().diagnostic());
         read.settleCutOff();
     }
     myContent->object->getSelf(read.expr, directories, bindings);

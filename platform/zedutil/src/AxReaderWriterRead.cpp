@@ -39,13 +39,6 @@ private:
     AxlObj const* myOuter;
 };
 
-std::string printed(AxlObj const* cell)
-{
-    std::string text;
-    axAppendCell(text, cell);
-    return text;
-}
-
 /// A text short enough for a message.
 std::string clipped(std::string_view text)
 {
@@ -62,7 +55,7 @@ std::string found(AxlObj const* cell)
     {
         return "nothing";
     }
-    std::string text = printed(cell);
+    std::string text = AxTreeCells::printed(cell);
     constexpr std::size_t longest = 40;
     if (text.size() > longest)
     {
@@ -113,7 +106,7 @@ bool isConsumed(AxReaderWriter& record, AxlObj const* item, std::string const& w
     AxEnvValuePtr const node = env->addObject(AxString(word), AxString("item"));
     for (AxlObj const* rest = item->cdr(); rest->tag() == AxlObj::Tag::Pair; rest = rest->cdr())
     {
-        env->addValue(AxString(printed(rest->car())), node);
+        env->addValue(AxString(AxTreeCells::printed(rest->car())), node);
     }
     return record.unrecognizedItem(env, node, files, bindings);
 }
@@ -261,7 +254,7 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
     {
         AxDiagnostics::report(
             diagnostic(AxSeverity::Warning, "not-an-item", item, "expected (keyword value), found " + found(item)));
-        keepItem(frame.last, printed(item));
+        keepItem(frame.last, AxTreeCells::printed(item));
         return;
     }
     AxSymbolString const keyword =
@@ -297,7 +290,7 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
             {
                 reportUnknown(head, word);
             }
-            keepItem(frame.last, printed(item));
+            keepItem(frame.last, AxTreeCells::printed(item));
         }
         return;
     }
@@ -307,7 +300,7 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
         AxDiagnostics::report(
             diagnostic(AxSeverity::Warning, "file-and-inline", head,
                        "\"" + std::string(head->text()) + "\" is given in the text and by a file; the file counts"));
-        keepItem(member->AxReaderWriter::name(), printed(item));
+        keepItem(member->AxReaderWriter::name(), AxTreeCells::printed(item));
         return;
     }
     if (isRepeated)
@@ -328,7 +321,7 @@ void AxReaderWriter::readItem(AxlObj const* item, AxReadFrame& frame, AxFilename
         // Beside a value that the text gave before it stands for itself.
         auto const standsFor = [&frame](AxKeptItem const& kept) { return kept.replaces && kept.after == frame.last; };
         bool const hasValue = isRepeated && std::ranges::none_of(rare().kept, standsFor);
-        rare().kept.push_back({frame.last, printed(item), !hasValue, member->lastStamp()});
+        rare().kept.push_back({frame.last, AxTreeCells::printed(item), !hasValue, member->lastStamp()});
         setFlag(KeepsItems, true);
     }
 }

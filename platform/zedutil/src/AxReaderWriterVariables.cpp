@@ -10,11 +10,6 @@
 
 namespace
 {
-bool isPair(AxlObj const* cell)
-{
-    return cell->tag() == AxlObj::Tag::Pair;
-}
-
 /// The variable that one cell refers to: `$name`, or a string that is nothing but `$(name)`; else empty.
 std::string_view variableOf(AxlObj const* cell)
 {
@@ -36,12 +31,12 @@ std::string_view variableOf(AxlObj const* cell)
 /// The variable that stands for all of a value, with a default or without; empty when it is no such value.
 std::string_view wholeReference(AxlObj const* items)
 {
-    if (!isPair(items) || isPair(items->cdr()))
+    if (!items->isPair() || items->cdr()->isPair())
     {
         return {};
     }
     AxlObj const* const first = items->car();
-    bool const hasDefault = isPair(first) && isPair(first->cdr());
+    bool const hasDefault = first->isPair() && first->cdr()->isPair();
     return variableOf(hasDefault ? first->car() : first);
 }
 
@@ -182,7 +177,7 @@ bool AxReaderWriter::readReference(AxlObj const* items, AxFilenameList const& fi
         return false;
     }
     AxlObj const* const first = items->car();
-    bool const hasDefault = isPair(first);
+    bool const hasDefault = first->isPair();
     std::string written;
     axAppendCell(written, first);
     keepReference(AxSymbolString(variable), std::move(written), false);
@@ -211,7 +206,7 @@ bool AxReaderWriter::readBinding(AxFilenameList const& files, AxBindingsList con
     for (unsigned i = 0; i < axLimits.variableChain; ++i)
     {
         cells = AxRwVariableBindings::find(variable, bindings);
-        std::string_view const next = cells && isPair(cells->get()) ? variableOf((*cells)->car()) : std::string_view();
+        std::string_view const next = cells && (*cells)->isPair() ? variableOf((*cells)->car()) : std::string_view();
         if (next.empty())
         {
             break;
@@ -239,7 +234,7 @@ bool AxReaderWriter::checkAndSetDefaultRWValue(AxlObjPtr const& item, AxFilename
                                                AxBindingsList const& bindings)
 {
     AxlObj const* const list = item.get();
-    if (!isPair(list) || variableOf(list->car()).empty())
+    if (!list->isPair() || variableOf(list->car()).empty())
     {
         return false;
     }

@@ -26,11 +26,6 @@ bool same(double a, double b)
     return AxRwReal::same(a, b);
 }
 
-bool isPair(AxlObj const* cell)
-{
-    return cell->tag() == AxlObj::Tag::Pair;
-}
-
 /// A number, or one of the words inf, -inf and nan.
 bool realOf(AxlObj const* cell, double& value)
 {
@@ -83,12 +78,12 @@ bool integerOf(AxlObj const* cell, double low, double high, double& value)
 /// Three reals side by side or in one nested list.
 bool threeReals(AxlObj const*& items, std::array<double, 3>& values)
 {
-    bool const isNested = isPair(items) && isPair(items->car());
+    bool const isNested = items->isPair() && items->car()->isPair();
     AxlObj const* item = isNested ? items->car() : items;
     std::array<double, 3> read{};
     for (double& value : read)
     {
-        if (!isPair(item) || !realOf(item->car(), value))
+        if (!item->isPair() || !realOf(item->car(), value))
         {
             return false;
         }
@@ -96,7 +91,7 @@ bool threeReals(AxlObj const*& items, std::array<double, 3>& values)
     }
     if (isNested)
     {
-        if (isPair(item))
+        if (item->isPair())
         {
             return false;
         }
@@ -148,7 +143,7 @@ void appendFields(std::string& out, Fields const& fields, std::size_t from)
 template <class Type>
 bool typeOf(AxlObj const*& items, Type& value)
 {
-    if (!isPair(items))
+    if (!items->isPair())
     {
         return false;
     }
@@ -164,11 +159,11 @@ bool typeOf(AxlObj const*& items, Type& value)
         items = items->cdr();
         return true;
     }
-    bool const isNested = isPair(first);
+    bool const isNested = first->isPair();
     AxlObj const* item = isNested ? first : items;
     std::array<int, 8> fields{};
     std::size_t count = 0;
-    for (; isPair(item) && count < fields.size(); item = item->cdr(), ++count)
+    for (; item->isPair() && count < fields.size(); item = item->cdr(), ++count)
     {
         double number = 0.0;
         if (!integerOf(item->car(), std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), number))
@@ -177,7 +172,7 @@ bool typeOf(AxlObj const*& items, Type& value)
         }
         fields[count] = static_cast<int>(number);
     }
-    if (isPair(item) || !fieldsTo(fields, count, value))
+    if (item->isPair() || !fieldsTo(fields, count, value))
     {
         return false;
     }
@@ -221,7 +216,7 @@ char const* AxRwReal::xmlType() const
 
 bool AxRwReal::readValue(AxlObj const*& items, double& value)
 {
-    if (!isPair(items) || !realOf(items->car(), value))
+    if (!items->isPair() || !realOf(items->car(), value))
     {
         return false;
     }
@@ -242,7 +237,7 @@ char const* AxRwInt::xmlType() const
 bool AxRwInt::readValue(AxlObj const*& items, int& value)
 {
     double number = 0.0;
-    if (!isPair(items) ||
+    if (!items->isPair() ||
         !integerOf(items->car(), std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), number))
     {
         return false;
@@ -265,7 +260,7 @@ char const* AxRwUnsigned::xmlType() const
 bool AxRwUnsigned::readValue(AxlObj const*& items, unsigned& value)
 {
     double number = 0.0;
-    if (!isPair(items) || !integerOf(items->car(), 0.0, std::numeric_limits<unsigned>::max(), number))
+    if (!items->isPair() || !integerOf(items->car(), 0.0, std::numeric_limits<unsigned>::max(), number))
     {
         return false;
     }
@@ -286,7 +281,7 @@ char const* AxRwBoolean::xmlType() const
 
 bool AxRwBoolean::readValue(AxlObj const*& items, bool& value)
 {
-    if (!isPair(items))
+    if (!items->isPair())
     {
         return false;
     }

@@ -1,5 +1,6 @@
 #include "AxTextReader.h"
 
+#include "AxCharacters.h"
 #include "AxDecimal.h"
 #include "AxDiagnostic.h"
 #include "AxLimits.h"
@@ -33,16 +34,16 @@ namespace
 {
 using Reading = AxTypeInfo::Reading;
 
-enum Kind : unsigned char
+enum ByteKind : unsigned char
 {
     Word,
     Blank,
     Delimiter // parentheses, quote, semicolon and control bytes, the end of the text among them
 };
 
-constexpr std::array<Kind, 256> kinds()
+constexpr std::array<ByteKind, 256> byteKinds()
 {
-    std::array<Kind, 256> table{};
+    std::array<ByteKind, 256> table{};
     for (std::size_t byte = 0; byte < 0x20; ++byte)
     {
         table[byte] = Delimiter;
@@ -58,9 +59,9 @@ constexpr std::array<Kind, 256> kinds()
     return table;
 }
 
-Kind kindOf(char byte)
+ByteKind kindOf(char byte)
 {
-    static constexpr std::array<Kind, 256> table = kinds();
+    static constexpr std::array<ByteKind, 256> table = byteKinds();
     return table[static_cast<unsigned char>(byte)];
 }
 
@@ -107,15 +108,10 @@ bool beginsWith(char const* at, char const* end, std::string_view word)
     return static_cast<std::size_t>(end - at) >= word.size() && axSameBytes(at, word);
 }
 
-bool isDigit(char byte)
-{
-    return static_cast<unsigned char>(byte - '0') < 10;
-}
-
 /// A word that may be a name: neither a number, nor a reference, nor anything that only looks like one of them.
 bool isPlainName(std::string_view word)
 {
-    return !word.empty() && !isDigit(word[0]) && word[0] != '$' && word[0] != '+' && word[0] != '-' && word[0] != '.';
+    return !word.empty() && !axIsDigit(word[0]) && word[0] != '$' && word[0] != '+' && word[0] != '-' && word[0] != '.';
 }
 } // namespace
 

@@ -1,5 +1,6 @@
 #include "AxTreeCells.h"
 
+#include "AxCharacters.h"
 #include "AxDiagnostic.h"
 #include "AxNumberText.h"
 #include "AxReaderWriterFactory.h"
@@ -112,8 +113,7 @@ bool isProperty(AxEnvObject const& object, AxReaderWriter const* guide)
 bool isNullType(AxEnvObject const& object)
 {
     AxString const* const value = object.attribute("value");
-    return (object.type() == "objectType" || object.type() == "entityType") && value &&
-           AxTreeCells::isBlank(value->string());
+    return (object.type() == "objectType" || object.type() == "entityType") && value && axIsBlank(value->string());
 }
 
 std::unique_ptr<AxReaderWriter> modelFor(AxEnvObject const& object)
@@ -413,11 +413,6 @@ AxReaderWriter* AxTreeCells::inlined(AxEnvObject const& object, AxReaderWriter* 
     bool const isNamed = !file || object.type() == file->xmlType() || object.attribute("value") ||
                          object.attribute("variable") || object.type() == theTextTag;
     return isNamed || !file->content() ? guide : file->content();
-}
-
-bool AxTreeCells::isBlank(std::string_view text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
 bool AxTreeCells::hasItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide)

@@ -39,8 +39,6 @@ bool isPartOfValue(std::string_view parent, std::string_view tag);
 bool isElement(AxReaderWriter const& list, std::string_view tag, bool isNamed);
 /// What the element stands for: the content of a member that names a file, if it is given in place; else `guide`.
 AxReaderWriter* inlined(AxEnvObject const& object, AxReaderWriter* guide);
-/// Whether a text is but the space between elements.
-bool isBlank(std::string_view text);
 
 /// An attribute's text as the cell of a value.
 AxlObjPtr attributeCell(std::string_view text, AxEnvValue const& place, AxReaderWriter const* member);

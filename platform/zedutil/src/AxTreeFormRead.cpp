@@ -1,3 +1,4 @@
+#include "AxCharacters.h"
 #include "AxDiagnostic.h"
 #include "AxRegistryShape.h"
 #include "AxRwProperty.h"
@@ -253,7 +254,7 @@ void AxTreeForm::finishRecord(AxReaderWriter& rw, AxEnvironmentPtr const& env, A
                 isText ? void(order.take(item.get())) : order.takeAs(AxXmlFragment::ofNode(*child), item.get(), last);
             }
         }
-        else if (!member && (object || !AxTreeCells::isBlank(child->value().string())))
+        else if (!member && (object || !axIsBlank(child->value().string())))
         {
             AxXmlFragment::reportUnknown(*child);
             order.add(AxXmlFragment::ofNode(*child), last);
@@ -295,7 +296,7 @@ void AxTreeForm::finishList(AxRwList& list, AxEnvironmentPtr const& env, AxEnvOb
         }
         if (!AxTreeCells::hasItem(*child, *node, &list))
         {
-            if (object || !AxTreeCells::isBlank(child->value().string()))
+            if (object || !axIsBlank(child->value().string()))
             {
                 unknown.emplace_back(child, elements.size());
             }

@@ -1,3 +1,4 @@
+#include "AxCharacters.h"
 #include "AxNLengthRealVector.h"
 #include "AxReaderWriterFactory.h"
 #include "AxReaderWriterFile.h"
@@ -22,11 +23,10 @@ namespace
 /// Whether a keyword may be an attribute. The others belong to the form of elements.
 bool isAttributeName(std::string_view name)
 {
-    auto const isLetter = [](char byte)
-    { return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || byte == '_'; };
-    auto const isPart = [&isLetter](char byte)
-    { return isLetter(byte) || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.'; };
-    return !name.empty() && isLetter(name.front()) && std::all_of(name.begin(), name.end(), isPart) && name != "name" &&
+    auto const isStart = [](char byte) { return axIsLetter(byte) || byte == '_'; };
+    auto const isPart = [&isStart](char byte)
+    { return isStart(byte) || axIsDigit(byte) || byte == '-' || byte == '.'; };
+    return !name.empty() && isStart(name.front()) && std::all_of(name.begin(), name.end(), isPart) && name != "name" &&
            name != "value" && name != "type" && name != "variable" && !name.starts_with("xml");
 }
 

@@ -1,3 +1,4 @@
+#include "AxCharacters.h"
 #include "AxDiagnostic.h"
 #include "AxEnvXMLReader.h"
 #include "AxEnvXMLWriter.h"
@@ -196,7 +197,7 @@ AxEnvObjectPtr AxXmlFragment::restOf(AxEnvObject const& object, AxReaderWriter c
     for (AxEnvValuePtr const& node : object.children())
     {
         AxEnvObjectPtr const child = node->castToObject();
-        if ((!child && AxTreeCells::isBlank(node->value().string())) ||
+        if ((!child && axIsBlank(node->value().string())) ||
             (child && child->type() == AxTreeCells::theTextTag && AxTreeCells::hasItem(*child, object, value)))
         {
             continue;

@@ -1,5 +1,6 @@
 #include "AxXmlValue.h"
 
+#include "AxCharacters.h"
 #include "AxDecimal.h"
 #include "AxNumberText.h"
 #include "AxRwBoolean.h"
@@ -18,16 +19,6 @@ namespace
 {
 using Reading = AxTypeInfo::Reading;
 
-bool isDigit(char byte)
-{
-    return static_cast<unsigned char>(byte - '0') < 10;
-}
-
-bool isLetter(char byte)
-{
-    return static_cast<unsigned char>((byte | ' ') - 'a') < 26;
-}
-
 /// Whether an attribute may be anything but the literal text that it looks like.
 bool mayRefer(std::string_view text)
 {
@@ -36,10 +27,10 @@ bool mayRefer(std::string_view text)
 
 bool mayBeNumber(std::string_view text)
 {
-    return !text.empty() && (!isLetter(text.front()) || text == "inf" || text == "nan");
+    return !text.empty() && (!axIsLetter(text.front()) || text == "inf" || text == "nan");
 }
 
-std::string_view trimmed(std::string_view text)
+std::string_view withoutSpaces(std::string_view text)
 {
     while (text.starts_with(' '))
     {
@@ -77,12 +68,12 @@ bool AxXmlValue::isPlainWord(std::string_view text)
 {
     return !text.empty() && !mayBeNumber(text) &&
            std::all_of(text.begin(), text.end(),
-                       [](char byte) { return isLetter(byte) || isDigit(byte) || byte == '-' || byte == '_'; });
+                       [](char byte) { return axIsLetter(byte) || axIsDigit(byte) || byte == '-' || byte == '_'; });
 }
 
 bool AxXmlValue::readAttribute(AxReaderWriter& member, Reading reading, std::string_view text, bool isGuided)
 {
-    std::string_view const word = isGuided ? trimmed(text) : text;
+    std::string_view const word = isGuided ? withoutSpaces(text) : text;
     switch (reading)
     {
     case Reading::Real:
@@ -128,7 +119,7 @@ bool AxXmlValue::readElement(AxReaderWriter& member, Reading reading, std::strin
         AxObjectType type;
         bool const isPlain = text.find(':') != std::string_view::npos &&
                              std::all_of(text.begin(), text.end(),
-                                         [](char byte) { return isDigit(byte) || byte == ':' || byte == '-'; });
+                                         [](char byte) { return axIsDigit(byte) || byte == ':' || byte == '-'; });
         if (!isPlain || !AxObjectType::fromString(text, type))
         {
             return false;
@@ -139,15 +130,15 @@ bool AxXmlValue::readElement(AxReaderWriter& member, Reading reading, std::strin
     double xyz[3] = {};
     for (double& value : xyz)
     {
-        text = trimmed(text);
+        text = withoutSpaces(text);
         std::string_view const word = text.substr(0, text.find(' '));
-        if (word.empty() || !(isDigit(word.front()) || word.front() == '-') || !readReal(word, value))
+        if (word.empty() || !(axIsDigit(word.front()) || word.front() == '-') || !readReal(word, value))
         {
             return false;
         }
         text.remove_prefix(word.size());
     }
-    if (reading != Reading::Vector || !trimmed(text).empty())
+    if (reading != Reading::Vector || !withoutSpaces(text).empty())
     {
         return false;
     }
