@@ -15,7 +15,7 @@ char const* kindOf(AxSxpParameterDbEntry const& entry)
     return Database::isPattern(entry) ? "pattern" : "exact";
 }
 
-void printText(Database const& database)
+void printEntries(Database const& database)
 {
     std::size_t width = 0;
     for (AxSxpParameterDbEntry const* entry : database.entries())
@@ -29,7 +29,7 @@ void printText(Database const& database)
     }
 }
 
-void printJson(Database const& database)
+void printEntriesAsJson(Database const& database)
 {
     JsonWriter json;
     json.beginArray();
@@ -44,13 +44,13 @@ void printJson(Database const& database)
     json.endArray().print();
 }
 
-int list(std::string const& file, bool asJson)
+int listEntries(std::string const& file, bool asJson)
 {
-    return printDatabase(file, asJson ? printJson : printText);
+    return printDatabase(file, asJson ? printEntriesAsJson : printEntries);
 }
 } // namespace
 
 void addListCommand(CommandLine& line)
 {
-    addDatabaseCommand(line, "list", "All entries: type, exact or pattern, record file.", list);
+    addDatabaseCommand(line, "list", "All entries: type, exact or pattern, record file.", listEntries);
 }

@@ -10,13 +10,13 @@
 namespace
 {
 // Seen apart by all kinds of sight, and against white as well as against black.
-constexpr char const* theColours[] = {"#2878c8", "#c25a00", "#168552", "#9b51c9", "#d13a63", "#7a7012"};
+constexpr char const* theSvgColours[] = {"#2878c8", "#c25a00", "#168552", "#9b51c9", "#d13a63", "#7a7012"};
 
-constexpr double theWidth = 760.0;
+constexpr double theSvgWidth = 760.0;
 constexpr double theLeft = 56.0;
 constexpr double theRight = 20.0;
 constexpr double theTop = 34.0; // of the curves below the top of their panel
-constexpr double theHeight = 190.0;
+constexpr double thePanelHeight = 190.0;
 constexpr double theBelow = 46.0;
 constexpr double theLegendRow = 22.0;
 
@@ -27,7 +27,7 @@ public:
 
     std::string draw()
     {
-        double const panel = theTop + theHeight + theBelow;
+        double const panel = theTop + thePanelHeight + theBelow;
         auto const rows = static_cast<double>(myPlot.subjects.size() + (myPlot.versions.size() > 1 ? 2 : 0));
         double const legend = static_cast<double>(myPlot.panels.size()) * panel;
         begin(legend + rows * theLegendRow + 12.0);
@@ -49,7 +49,7 @@ private:
             title += (&version == &myPlot.versions.front() ? "" : " and ") + version;
         }
         myOut += "<svg xmlns=\"http://www.w3.org/2000/svg\" class=\"plot\" role=\"img\" viewBox=\"0 0 " +
-                 drawn(theWidth) + " " + drawn(height) + "\" width=\"" + drawn(theWidth) + "\" height=\"" +
+                 drawn(theSvgWidth) + " " + drawn(height) + "\" width=\"" + drawn(theSvgWidth) + "\" height=\"" +
                  drawn(height) + "\" font-family=\"sans-serif\" font-size=\"13\" fill=\"none\"" +
                  (myIsAlone ? " color=\"#222\"" : "") + ">\n<title>" + markup(title) + "</title>\n";
         if (myIsAlone)
@@ -58,9 +58,9 @@ private:
         }
     }
 
-    static double x(double part) { return theLeft + part * (theWidth - theLeft - theRight); }
+    static double x(double part) { return theLeft + part * (theSvgWidth - theLeft - theRight); }
     double xOf(double range) const { return x(range / myPlot.end); }
-    double yOf(double probability) const { return myY + theTop + (1.0 - probability) * theHeight; }
+    double yOf(double probability) const { return myY + theTop + (1.0 - probability) * thePanelHeight; }
 
     void text(double xPlace, double yPlace, char const* anchor, std::string const& content, char const* more = "")
     {
@@ -109,7 +109,7 @@ private:
 
     static std::string stroke(std::size_t subject, bool isSecond)
     {
-        return std::string("stroke=\"") + theColours[subject % std::size(theColours)] + "\" stroke-width=\"2\"" +
+        return std::string("stroke=\"") + theSvgColours[subject % std::size(theSvgColours)] + "\" stroke-width=\"2\"" +
                (isSecond ? " stroke-dasharray=\"7 5\"" : "");
     }
 

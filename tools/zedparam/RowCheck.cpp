@@ -13,13 +13,6 @@
 
 namespace
 {
-std::string shown(double value)
-{
-    std::string text;
-    axAppendReal(text, value);
-    return text;
-}
-
 bool isProbability(double value)
 {
     return value >= 0.0 && value <= 1.0;
@@ -45,11 +38,11 @@ Row readRow(AxlObj const& range, AxlObj const* outcomes, CellReport const& repor
         {
             continue;
         }
-        std::string const at = '"' + std::string(name) + "\" at " + shown(row.range) + " m";
+        std::string const at = '"' + std::string(name) + "\" at " + spelled(row.range) + " m";
         if (!isProbability(value.flonum()))
         {
             report("out-of-range", value,
-                   "probability of " + at + " is " + shown(value.flonum()) + ", expected 0 to 1");
+                   "probability of " + at + " is " + spelled(value.flonum()) + ", expected 0 to 1");
         }
         if (std::ranges::find(row.outcomes, name) != row.outcomes.end())
         {
@@ -68,7 +61,7 @@ std::string extentOf(AxlObj const& coefficients)
     if (coefficients.cdr()->nil())
     {
         double const constant = coefficients.car()->flonum();
-        return isProbability(constant) ? std::string() : shown(constant);
+        return isProbability(constant) ? std::string() : spelled(constant);
     }
     bool isBelow = true;
     bool isAbove = true;
@@ -94,18 +87,18 @@ void checkOrder(std::vector<Row> const& rows, CellReport const& report)
         Row const& row = rows[i];
         if (row.range < 0.0)
         {
-            report("out-of-range", *row.place, "range is " + shown(row.range) + ", expected 0.0 or more");
+            report("out-of-range", *row.place, "range is " + spelled(row.range) + ", expected 0.0 or more");
         }
         auto const isSame = [&](Row const& other) { return other.range == row.range; };
         auto const end = rows.begin() + static_cast<std::ptrdiff_t>(i);
         if (std::find_if(rows.begin(), end, isSame) != end)
         {
-            report("repeated-range", *row.place, "another row of range " + shown(row.range) + "; the later counts");
+            report("repeated-range", *row.place, "another row of range " + spelled(row.range) + "; the later counts");
         }
         else if (i != 0 && row.range < rows[i - 1].range)
         {
             report("out-of-order", *row.place,
-                   "the row of range " + shown(row.range) + " stands behind that of " + shown(rows[i - 1].range));
+                   "the row of range " + spelled(row.range) + " stands behind that of " + spelled(rows[i - 1].range));
         }
     }
 }
@@ -125,13 +118,20 @@ void checkOutcomes(std::vector<Row> const& rows, CellReport const& report)
             if (std::ranges::find(row.outcomes, name) == row.outcomes.end())
             {
                 report("missing-outcome", *row.place,
-                       "the row of range " + shown(row.range) + " has no \"" + std::string(name) +
+                       "the row of range " + spelled(row.range) + " has no \"" + std::string(name) +
                            "\", which counts as 0");
             }
         }
     }
 }
 } // namespace
+
+std::string spelled(double value)
+{
+    std::string text;
+    axAppendReal(text, value);
+    return text;
+}
 
 AxlObj const* itemOf(AxlObj const& list, std::string_view head)
 {

@@ -15,6 +15,9 @@ using CellReport = std::function<void(char const* code, AxlObj const& place, std
 /// The first item `(head ...)` in a list, null when there is none.
 AxlObj const* itemOf(AxlObj const& list, std::string_view head);
 
+/// The number as parameter text has it.
+std::string spelled(double value);
+
 /// Reports what is odd in the probability and damage tables of a file, wherever they stand in it: probabilities outside
 /// 0 to 1, rows and outcomes that are missing, repeated or out of order, angles of incidence that nothing covers or an
 /// earlier one hides, outcomes of damage that add up to more than 1, elements that others hide. Once for each file.

@@ -1,3 +1,4 @@
+#include "RecordValue.h"
 #include "Schema.h"
 
 #include <cmath>
@@ -37,15 +38,9 @@ ValueShape shapeOf(AxReaderWriter& value)
 
 namespace
 {
-constexpr int theDeepestNesting = 6;
+constexpr int theDeepestSchema = 6;
 
 void writeMembers(JsonWriter& json, AxReaderWriter& rw, int depth);
-
-bool hasMembers(AxReaderWriter const& rw)
-{
-    AxReaderWriterRegistry const* const registry = rw.registryIfAny();
-    return registry != nullptr && registry->count() != 0;
-}
 
 void writeLimits(JsonWriter& json, AxRange const& range)
 {
@@ -69,7 +64,7 @@ void writeElementSchema(JsonWriter& json, AxRwList& list, int depth)
     {
         json.member("type", "object");
         AxReaderWriter* const element = sampleElement(list);
-        if (element != nullptr && hasMembers(*element) && depth < theDeepestNesting)
+        if (element != nullptr && hasMembers(*element) && depth < theDeepestSchema)
         {
             writeMembers(json, *element, depth + 1);
         }
@@ -119,7 +114,7 @@ void writeMember(JsonWriter& json, AxReaderWriter& member, AxKeyword const* keyw
     else if (hasMembers(member))
     {
         json.member("type", "object");
-        if (depth < theDeepestNesting)
+        if (depth < theDeepestSchema)
         {
             writeMembers(json, member, depth + 1);
         }

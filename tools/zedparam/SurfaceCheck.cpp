@@ -14,18 +14,11 @@ constexpr double theLargestSum = 1.0 + 1e-6;
 /// Degrees between the shot and what stands upright on the surface.
 constexpr double theGrazingAngle = 90.0;
 
-std::string shown(double value)
-{
-    std::string text;
-    axAppendReal(text, value);
-    return text;
-}
-
 /// Without the traces of binary fractions.
 std::string shownSum(double sum)
 {
     constexpr double places = 1e6;
-    return shown(std::round(sum * places) / places);
+    return spelled(std::round(sum * places) / places);
 }
 
 /// Adds up the outcomes of each row.
@@ -42,7 +35,7 @@ void checkSumsOfRows(AxlObj const& rangeList, CellReport const& report)
         if (sum > theLargestSum)
         {
             report("sum-above-one", range,
-                   "the outcomes at " + shown(range.flonum()) + " m add up to " + shownSum(sum));
+                   "the outcomes at " + spelled(range.flonum()) + " m add up to " + shownSum(sum));
         }
     }
 }
@@ -72,7 +65,7 @@ void checkSumOfPolynomials(AxlObj const& coefficients, CellReport const& report)
             if (sum > theLargestSum)
             {
                 report("sum-above-one", coefficients,
-                       "the outcomes at " + shown(range) + " m add up to " + shownSum(sum));
+                       "the outcomes at " + spelled(range) + " m add up to " + shownSum(sum));
             }
             return sum <= theLargestSum;
         });
@@ -115,7 +108,7 @@ void checkSurface(AxlObj const& list, CellReport const& report)
         if (last != nullptr && angle <= largest)
         {
             report("out-of-order", place,
-                   "the angle " + shown(angle) + " stands behind " + shown(largest) + " and is never reached");
+                   "the angle " + spelled(angle) + " stands behind " + spelled(largest) + " and is never reached");
             continue;
         }
         largest = angle;
@@ -124,8 +117,8 @@ void checkSurface(AxlObj const& list, CellReport const& report)
     if (last != nullptr && largest < theGrazingAngle)
     {
         report("uncovered-angle", *last,
-               '"' + std::string(list.car()->text()) + "\" has no answer for angles above " + shown(largest) +
-                   ", expected up to " + shown(theGrazingAngle));
+               '"' + std::string(list.car()->text()) + "\" has no answer for angles above " + spelled(largest) +
+                   ", expected up to " + spelled(theGrazingAngle));
     }
 }
 

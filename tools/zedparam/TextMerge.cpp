@@ -374,7 +374,7 @@ private:
     std::vector<std::string> myPath;
 };
 
-std::vector<std::string_view> linesOf(std::string_view text)
+std::vector<std::string_view> wholeLines(std::string_view text)
 {
     std::vector<std::string_view> lines;
     while (!text.empty())
@@ -390,8 +390,8 @@ std::vector<std::string_view> linesOf(std::string_view text)
 MergeResult conflictOfAll(MergeSource const& ours, std::string const& theirs, std::string reason,
                           MergeOptions const& options)
 {
-    std::vector<std::string_view> const a = linesOf(ours.text());
-    std::vector<std::string_view> const b = linesOf(theirs);
+    std::vector<std::string_view> const a = wholeLines(ours.text());
+    std::vector<std::string_view> const b = wholeLines(theirs);
     std::size_t const shorter = std::min(a.size(), b.size());
     std::size_t begin = 0;
     std::size_t front = 0;

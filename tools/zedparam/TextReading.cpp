@@ -37,9 +37,9 @@ struct DatabaseFile : AxSxpParameterDbFileData
     AxRemoteConfigurationList configurations{"remote-configurations", registry()};
 };
 
-struct Collection : AxZedObjectParametersDB
+struct CollectionRecord : AxZedObjectParametersDB
 {
-    Collection() : AxZedObjectParametersDB("parameter-list", nullptr) { init(); }
+    CollectionRecord() : AxZedObjectParametersDB("parameter-list", nullptr) { init(); }
 };
 
 template <class Object>
@@ -66,9 +66,9 @@ constexpr FileKind theKindsByHead[] = {{"parameter-database", plain<DatabaseFile
                                        {"task-execution-rules", named<AxTaskExecutionRules>},
                                        {"model-set", named<AxModelSet>}};
 constexpr FileKind theKindsByFirstItem[] = {
-    {"sim-object-parameters", plain<Collection>},     {"ammo-entry", named<AxDmgMunitionTable>},
-    {"ammo-select", named<AxAmmoSelectTable>},        {"entity-range", named<AxRangeProbabilityTable>},
-    {"entity-priority", named<AxTargetPriorityList>}, {"meta-data", named<AxComponentSystemDefinition>}};
+    {"sim-object-parameters", plain<CollectionRecord>}, {"ammo-entry", named<AxDmgMunitionTable>},
+    {"ammo-select", named<AxAmmoSelectTable>},          {"entity-range", named<AxRangeProbabilityTable>},
+    {"entity-priority", named<AxTargetPriorityList>},   {"meta-data", named<AxComponentSystemDefinition>}};
 constexpr FileKind theKindsByExtension[] = {{".hit", named<AxRangeProbabilityTable>},
                                             {".det", named<AxRangeProbabilityTable>},
                                             {".asl", named<AxAmmoSelectTable>},

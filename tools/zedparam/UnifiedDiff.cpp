@@ -36,15 +36,15 @@ std::vector<Line> linesOf(std::string_view text)
 }
 
 /// A line of the one text, of the other, or of both.
-struct Step
+struct DiffStep
 {
     char mark; // '-', '+' or ' '
     std::string_view text;
 };
 
-std::vector<Step> stepsBetween(std::vector<Line> const& before, std::vector<Line> const& after)
+std::vector<DiffStep> stepsBetween(std::vector<Line> const& before, std::vector<Line> const& after)
 {
-    std::vector<Step> steps;
+    std::vector<DiffStep> steps;
     auto left = before.begin();
     auto right = after.begin();
     // What both end with stays, even where XML changed more than blanks in front of it.
@@ -67,18 +67,18 @@ std::vector<Step> stepsBetween(std::vector<Line> const& before, std::vector<Line
         bool const takesRight =
             left == leftEnd || (hasBoth && (isSamePlace ? solidBytes(left->text) != 0 && solidBytes(right->text) == 0
                                                         : right->position < left->position));
-        steps.push_back(takesRight ? Step{'+', right++->text} : Step{'-', left++->text});
+        steps.push_back(takesRight ? DiffStep{'+', right++->text} : DiffStep{'-', left++->text});
     }
     std::transform(leftEnd, before.end(), std::back_inserter(steps),
                    [](Line const& line) {
-                       return Step{' ', line.text};
+                       return DiffStep{' ', line.text};
                    });
     // Within a change, what goes stands before what comes.
     for (auto from = steps.begin(); from != steps.end();)
     {
-        auto const to = std::find_if(from, steps.end(), [](Step const& step) { return step.mark == ' '; });
-        std::stable_partition(from, to, [](Step const& step) { return step.mark == '-'; });
-        from = std::find_if_not(to, steps.end(), [](Step const& step) { return step.mark == ' '; });
+        auto const to = std::find_if(from, steps.end(), [](DiffStep const& step) { return step.mark == ' '; });
+        std::stable_partition(from, to, [](DiffStep const& step) { return step.mark == '-'; });
+        from = std::find_if_not(to, steps.end(), [](DiffStep const& step) { return step.mark == ' '; });
     }
     return steps;
 }
@@ -92,7 +92,7 @@ std::string span(std::size_t first, std::size_t count)
 std::string unifiedDiff(std::string const& file, std::string const& before, std::string const& after)
 {
     constexpr std::size_t theContext = 3;
-    std::vector<Step> const steps = stepsBetween(linesOf(before), linesOf(after));
+    std::vector<DiffStep> const steps = stepsBetween(linesOf(before), linesOf(after));
     std::string out;
     std::size_t lineBefore = 1;
     std::size_t lineAfter = 1;
@@ -105,7 +105,7 @@ std::string unifiedDiff(std::string const& file, std::string const& before, std:
             lineAfter += steps[at].mark != '-';
         }
     };
-    auto const isChange = [](Step const& step) { return step.mark != ' '; };
+    auto const isChange = [](DiffStep const& step) { return step.mark != ' '; };
     for (std::size_t next = 0; next < steps.size();)
     {
         auto const change = std::find_if(steps.begin() + static_cast<std::ptrdiff_t>(next), steps.end(), isChange);

@@ -14,7 +14,7 @@
 
 namespace
 {
-constexpr std::string_view theBoundary = "system:";
+constexpr std::string_view theBoundaryPrefix = "system:";
 
 std::string nearestHint(std::string_view word, std::vector<std::string_view> const& known)
 {
@@ -29,9 +29,9 @@ std::vector<std::string_view> portsOf(AxComponentSystemDefinition const& system,
     for (AxConnectionDescriptor const* wire : system.connectionDescriptorList())
     {
         std::string_view const end = (outputs ? wire->destination() : wire->source()).string();
-        if (end.starts_with(theBoundary))
+        if (end.starts_with(theBoundaryPrefix))
         {
-            ports.push_back(end.substr(theBoundary.size()));
+            ports.push_back(end.substr(theBoundaryPrefix.size()));
         }
     }
     return ports;
@@ -68,7 +68,7 @@ public:
 private:
     void checkEnd(AxConnectionDescriptor const& wire, std::string_view end, bool isSource) const
     {
-        if (end.empty() || end.starts_with(theBoundary))
+        if (end.empty() || end.starts_with(theBoundaryPrefix))
         {
             return;
         }

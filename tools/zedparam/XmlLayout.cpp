@@ -7,11 +7,11 @@
 
 namespace
 {
-constexpr std::string_view theByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view theXmlByteOrderMark = "\xEF\xBB\xBF";
 
 std::string_view withoutMark(std::string_view text)
 {
-    text.remove_prefix(text.starts_with(theByteOrderMark) ? theByteOrderMark.size() : 0);
+    text.remove_prefix(text.starts_with(theXmlByteOrderMark) ? theXmlByteOrderMark.size() : 0);
     return text;
 }
 

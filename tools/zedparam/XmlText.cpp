@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr std::string_view theBlanks = " \t\r\n";
+constexpr std::string_view theXmlBlanks = " \t\r\n";
 
 /// Behind `mark`, which is sought from a byte on; the end of the text when it is missing.
 std::size_t behind(std::string_view text, std::size_t from, std::string_view mark)
@@ -35,8 +35,8 @@ Range attributeValue(std::string_view text, std::size_t attribute)
 bool findAttribute(std::string_view text, std::size_t tag, std::string_view name, Range& value)
 {
     std::size_t const end = tagEnd(text, tag);
-    std::size_t at = text.find_first_of(theBlanks, tag);
-    while ((at = text.find_first_not_of(theBlanks, at)) < end && text[at] != '>' && text[at] != '/')
+    std::size_t at = text.find_first_of(theXmlBlanks, tag);
+    while ((at = text.find_first_not_of(theXmlBlanks, at)) < end && text[at] != '>' && text[at] != '/')
     {
         value = attributeValue(text, at);
         if (text.substr(at, text.find_first_of("= \t\r\n", at) - at) == name)
