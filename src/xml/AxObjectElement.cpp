@@ -50,8 +50,7 @@ bool isLeftOut(AxEnvObject const& part)
 {
     AxObjectType type;
     AxString const* const value = part.attribute("value");
-    bool const isUnreadable =
-        value && !axIsBlank(value->string()) && !AxObjectType::fromString(value->string(), type);
+    bool const isUnreadable = value && !axIsBlank(value->string()) && !AxObjectType::fromString(value->string(), type);
     return isUnreadable || (part.count() == 0 && type.isNull() && !(part.type() == AxObjectElement::thePlatformTag));
 }
 

@@ -40,7 +40,7 @@ Summary summarize(Database const& database)
     return summary;
 }
 
-void printText(std::string const& file, Summary const& summary)
+void printSummary(std::string const& file, Summary const& summary)
 {
     std::printf("database   %s\nversion    %d\n", file.c_str(), summary.version);
     std::printf("entries    %zu: %zu exact, %zu patterns\n", summary.entries, summary.entries - summary.patterns,
@@ -54,7 +54,7 @@ void printText(std::string const& file, Summary const& summary)
     std::printf("%s\n", summary.variables.empty() ? " none" : "");
 }
 
-void printJson(std::string const& file, Summary const& summary)
+void printSummaryAsJson(std::string const& file, Summary const& summary)
 {
     JsonWriter json;
     json.beginObject().member("database", file);
@@ -73,7 +73,7 @@ void printJson(std::string const& file, Summary const& summary)
 int info(std::string const& file, bool asJson)
 {
     return printDatabase(file, [&](Database const& database)
-                         { (asJson ? printJson : printText)(file, summarize(database)); });
+                         { (asJson ? printSummaryAsJson : printSummary)(file, summarize(database)); });
 }
 } // namespace
 

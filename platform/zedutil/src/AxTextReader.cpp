@@ -48,13 +48,13 @@ constexpr std::array<ByteKind, 256> byteKinds()
     {
         table[byte] = Delimiter;
     }
-    for (unsigned char byte : {' ', '\t', '\r', '\n', '\f', '\v'})
+    for (char const byte : {' ', '\t', '\r', '\n', '\f', '\v'})
     {
-        table[byte] = Blank;
+        table[static_cast<unsigned char>(byte)] = Blank;
     }
-    for (unsigned char byte : {'(', ')', '"', ';', '\x7f'})
+    for (char const byte : {'(', ')', '"', ';', '\x7f'})
     {
-        table[byte] = Delimiter;
+        table[static_cast<unsigned char>(byte)] = Delimiter;
     }
     return table;
 }

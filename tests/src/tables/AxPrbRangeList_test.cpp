@@ -10,7 +10,7 @@
 namespace
 {
 constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double theNan = std::numeric_limits<double>::quiet_NaN();
 
 AxPrbRangeTableEntry row(double range, double hit)
 {
@@ -47,7 +47,7 @@ TEST(AxPrbRangeList, IsAStepFunction)
         EXPECT_EQ(out.probability("hit"), c.hit) << c.asked;
         EXPECT_EQ(out.count(), 1) << c.asked;
     }
-    EXPECT_FALSE(list.getProbabilities(nan, &out));
+    EXPECT_FALSE(list.getProbabilities(theNan, &out));
     EXPECT_EQ(out.probability("hit"), 0.0);
     EXPECT_EQ(list.minRangeValue(), 100.0);
     EXPECT_EQ(list.maxRangeValue(), 1000.0);
@@ -85,7 +85,7 @@ TEST(AxPrbRangeList, RefusesARowWithoutARange)
     AxPrbRangeList list;
     list.addTableEntry(static_cast<AxPrbRangeTableEntry*>(nullptr));
     EXPECT_EQ(warnings.text(), "Memory allocation failed in AxPrbRangeList::addTableEntry()\n");
-    list.addTableEntry(row(nan, 0.5));
+    list.addTableEntry(row(theNan, 0.5));
     EXPECT_TRUE(list.isEmpty());
 }
 

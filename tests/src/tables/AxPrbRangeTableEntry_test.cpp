@@ -60,11 +60,11 @@ TEST(AxPrbRangeTableEntry, RowsDifferInRangeNamesNumberAndOutcomes)
         {
             AxPrbRangeTableEntry a;
             AxPrbRangeTableEntry b;
-            EXPECT_TRUE(read(a, one) && read(b, other));
+            EXPECT_TRUE(readFrom(a, one) && readFrom(b, other));
             EXPECT_EQ(a == b, one == other) << one << ' ' << other;
         }
         AxPrbRangeTableEntry row;
-        read(row, one);
+        readFrom(row, one);
         row.reset();
         EXPECT_TRUE(row == AxPrbRangeTableEntry()) << one;
     }
@@ -74,13 +74,13 @@ TEST(AxPrbRangeTableEntry, OutcomesMayBeVariablesButNotTheRange)
 {
     AxSinkScope warnings(AxWarn);
     AxPrbRangeTableEntry row;
-    read(row, "(range-entry 100.0 (hit $p) (kill ($q 0.25)))");
+    readFrom(row, "(range-entry 100.0 (hit $p) (kill ($q 0.25)))");
     EXPECT_EQ(warnings.text(), "");
     EXPECT_EQ(row.count(), 2);
     EXPECT_EQ(row.probability("kill"), 0.25);
     EXPECT_EQ(row.writtenText(), "(range-entry 100.0 (hit $p) (kill ($q 0.25)))\n");
     AxPrbRangeTableEntry other;
-    read(other, "(range-entry near (hit 0.5))");
+    readFrom(other, "(range-entry near (hit 0.5))");
     EXPECT_NE(warnings.text().find("a row expects its range, a number, first"), std::string::npos);
     EXPECT_EQ(other.probability("hit"), 0.5);
 }
