@@ -224,7 +224,10 @@ void printUses(KeywordUses const& uses)
             continue;
         }
         std::printf("  %s: given %zu %s", owner.c_str(), use.given, use.given == 1 ? "time" : "times");
-        std::printf(use.defaults == 0 ? "" : ", left out %zu %s", use.defaults, use.defaults == 1 ? "time" : "times");
+        if (use.defaults != 0)
+        {
+            std::printf(", left out %zu %s", use.defaults, use.defaults == 1 ? "time" : "times");
+        }
         std::printf(use.unit.empty() ? "\n" : ", in %s\n", use.unit.c_str());
         if (!use.numbers.empty())
         {
@@ -249,7 +252,10 @@ void printUses(KeywordUses const& uses)
             std::printf("    and %zu more values\n", use.texts.size() - use.commonest.size());
         }
     }
-    std::printf(without.empty() ? "" : "  left out by %s\n", without.c_str());
+    if (!without.empty())
+    {
+        std::printf("  left out by %s\n", without.c_str());
+    }
 }
 
 void writeUses(JsonWriter& json, KeywordUses const& uses)

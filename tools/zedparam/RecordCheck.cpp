@@ -114,7 +114,8 @@ bool keepsType(AxComponentDescriptor const& component)
     {
         std::unique_ptr<AxComponentDescriptor> const fresh(
             AxComponentDescriptor::createComponentDescriptor(component.type().c_str()));
-        entry->second = fresh != nullptr && typeid(*fresh) == typeid(component);
+        AxComponentDescriptor const* const made = fresh.get();
+        entry->second = made != nullptr && typeid(*made) == typeid(component);
     }
     return entry->second;
 }

@@ -29,22 +29,24 @@ constexpr std::array<unsigned char, 256> classes()
     std::array<unsigned char, 256> table{};
     auto const add = [&table](std::string_view bytes, unsigned what)
     {
-        for (unsigned char const byte : bytes)
+        for (char const byte : bytes)
         {
-            table[byte] = static_cast<unsigned char>(table[byte] | what);
+            unsigned char& entry = table[static_cast<unsigned char>(byte)];
+            entry = static_cast<unsigned char>(entry | what);
         }
     };
     for (unsigned byte = ' '; byte < 0x80; ++byte)
     {
         table[byte] = InValue | InText | InComment;
     }
-    for (unsigned char const byte : std::string_view("<&\"'"))
+    for (char const byte : std::string_view("<&\"'"))
     {
-        table[byte] = InText | InComment;
+        table[static_cast<unsigned char>(byte)] = InText | InComment;
     }
-    for (unsigned char const byte : std::string_view("<&]"))
+    for (char const byte : std::string_view("<&]"))
     {
-        table[byte] = static_cast<unsigned char>(table[byte] & ~InText);
+        unsigned char& entry = table[static_cast<unsigned char>(byte)];
+        entry = static_cast<unsigned char>(entry & ~InText);
     }
     table['-'] = InValue | InText;
     add("\t\n", InText | InComment);

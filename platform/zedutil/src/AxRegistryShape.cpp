@@ -80,19 +80,20 @@ AxRegistryShape* AxRegistryShape::addChild(AxReaderWriter const& owner, AxKeywor
     return made;
 }
 
-AxRegistryShape* AxRegistryShape::Details::find(char const* keyword, std::uint16_t place, void const* functions) const
+AxRegistryShape* AxRegistryShape::Details::find(char const* keyword, std::uint16_t itsPlace,
+                                                void const* itsFunctions) const
 {
     if (known.empty())
     {
         return nullptr;
     }
     std::size_t const mask = known.size() - 1;
-    for (std::size_t at = hashOf(keyword, reinterpret_cast<std::uintptr_t>(functions) + place) & mask;;
+    for (std::size_t at = hashOf(keyword, reinterpret_cast<std::uintptr_t>(itsFunctions) + itsPlace) & mask;;
          at = (at + 1) & mask)
     {
         Known const& entry = known[at];
         if (!entry.shape ||
-            (entry.text == keyword && entry.shape->place == place && entry.shape->functions == functions))
+            (entry.text == keyword && entry.shape->place == itsPlace && entry.shape->functions == itsFunctions))
         {
             return entry.shape;
         }

@@ -142,7 +142,7 @@ struct AxRegistryShape::Details
     {
         return initialSize == sizeof value && std::memcmp(initial, &value, sizeof value) == 0;
     }
-    AxRegistryShape* find(char const* keyword, std::uint16_t place, void const* functions) const;
+    AxRegistryShape* find(char const* keyword, std::uint16_t itsPlace, void const* itsFunctions) const;
     void enter(char const* keyword, AxRegistryShape* shape);
 };
 
