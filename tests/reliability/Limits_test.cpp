@@ -32,6 +32,16 @@ protected:
         readFrom(*read, text);
         return only();
     }
+    /// The display name that a record has where those variables are bound.
+    std::string nameWith(std::string const& bindings, std::string const& name)
+    {
+        put("m1.ope", record("(display-name \"" + name + "\")"));
+        put("force.opd", database(entry(theTank, "m1.ope"), "(version 101) (variable-bindings " + bindings + ")"));
+        db.removeAll();
+        EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
+        AxZedObjectParameters const* const read = db.lookup(tank);
+        return read ? read->displayName().string() : "(nothing)";
+    }
 };
 
 std::string repeated(std::string const& text, std::size_t count)
@@ -94,6 +104,7 @@ TEST_F(Limits, LengthOfATokenInEveryNotation)
     {
         std::string const token(length, 'x');
         EXPECT_EQ(ofText("(m1 (display-name \"" + token + "\"))"), code) << length;
+        EXPECT_EQ(ofText("(m1 (display-name " + token + "))"), code) << length;
         EXPECT_EQ(ofXml("<a>" + token + "</a>"), code) << length;
     }
 }
@@ -124,15 +135,62 @@ TEST_F(Limits, ExpansionOfEntitiesAndVariables)
         bomb += "<!ENTITY x" + std::to_string(i) + " \"" + repeated(before, 10) + "\">";
     }
     EXPECT_FALSE(AxEnvXMLReader::readText(bomb + "]><a>&x99;</a>", AxFilename("t.xml")));
+    EXPECT_EQ(only(), "xml-entity");
     std::string bindings = "(v0 \"ha\")";
     for (int i = 1; i < 40; ++i)
     {
         bindings += "(v" + std::to_string(i) + " \"" + repeated("$(v" + std::to_string(i - 1) + ")", 10) + "\")";
     }
-    put("m1.ope", record("(display-name \"$(v39)\")"));
-    put("force.opd", database(entry(theTank, "m1.ope"), "(variable-bindings " + bindings + "(loop \"$(loop)\"))"));
-    EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
-    AxZedObjectParameters const* const read = db.lookup(tank);
-    ASSERT_TRUE(read);
-    EXPECT_LE(read->displayName().string().size(), 1000000U);
+    EXPECT_EQ(nameWith(bindings, "a $(v39)"), "a $(v39)");
+    EXPECT_EQ(only(), "variable-limit");
+    EXPECT_EQ(nameWith("(loop \"$(loop)\")", "a $(loop)"), "a $(loop)");
+}
+
+TEST_F(Limits, VariablesMadeOfEachOther)
+{
+    for (unsigned const length : {axLimits.variableChain - 1, axLimits.variableChain, axLimits.variableChain + 1})
+    {
+        std::string bindings = "(v1 \"ha\")";
+        for (unsigned i = 2; i <= length; ++i)
+        {
+            bindings += "(v" + std::to_string(i) + " \"$(v" + std::to_string(i - 1) + ")\")";
+        }
+        std::string const expected = length > axLimits.variableChain ? "a $(v1)" : "a ha";
+        EXPECT_EQ(nameWith(bindings, "a $(v" + std::to_string(length) + ")"), expected) << length;
+        only();
+    }
+}
+
+TEST_F(Limits, VariablesPutInBecauseOthersNameThem)
+{
+    std::size_t const most = axLimits.variableUses + 100; // the text itself names one
+    for (auto const& [count, code] :
+         {std::pair(most - 1, ""), std::pair(most, ""), std::pair(most + 1, "variable-limit")})
+    {
+        std::string const name = nameWith("(one \"x\")(all \"" + repeated("$(one)", count) + "\")", "a $(all)");
+        EXPECT_EQ(name, "a " + (count > most ? "$(all)" : std::string(count, 'x')));
+        EXPECT_EQ(only(), code) << count;
+    }
+}
+
+TEST_F(Limits, FilesReadBecauseOthersNameThem)
+{
+    std::size_t const most = axLimits.fileLoads + 100; // the record itself names one
+    put("one.sys", "(one)");
+    for (auto const& [count, code] :
+         {std::pair(most - 1, ""), std::pair(most, ""), std::pair(most + 1, "file-chain-limit")})
+    {
+        std::string systems;
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            systems += "(s" + std::to_string(i) + " (system-definition \"one.sys\"))";
+        }
+        put("all.sys", "(all (systems " + systems + "))");
+        put("m1.ope", record("(systems (all (system-definition \"all.sys\")))"));
+        put("force.opd", database(entry(theTank, "m1.ope")));
+        db.removeAll();
+        EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
+        EXPECT_TRUE(db.lookup(tank));
+        EXPECT_EQ(only(), code) << count;
+    }
 }
