@@ -27,7 +27,8 @@ class AxZedObjectParameters;
 /// All but the platform may be missing, in any order; of an element that stands once the first counts. Object elements
 /// are found anywhere below the root, the root included, but not inside one another.
 ///
-/// A finding has the place of its node and the file of the innermost AxSourceScope. Nothing throws.
+/// A finding has the place of its node and the file of the innermost AxSourceScope. Nothing throws, but for
+/// std::bad_alloc from the parts of an element, model-set entries, variables and `keepOthers`.
 class ZEDOBJPARAM_API AxZedXmlUtils
 {
 public:

@@ -1,5 +1,6 @@
 #include "AxGuarded.h"
 #include "AxModelSetLoading.h"
+#include "AxObjectElement.h"
 #include "AxParameterDbFiles.h"
 #include "AxReadWholeFile.h"
 #include "AxReplaceFile.h"
@@ -87,15 +88,6 @@ bool parse(AxReaderWriter& rw, std::string const& text, AxFilename const& file)
     {
         return failedToParse(axFault("read-failed", file, axReason(error)), file);
     }
-}
-/// Whether a type stands there that cannot be read, which was told then.
-bool hasUnreadableType(AxEnvironmentPtr const& env, AxEnvValuePtr const& element)
-{
-    AxEnvObjectPtr const given = env->getObject(AxString(), "objectType", element);
-    AxString const* const value = given ? given->attribute("value") : nullptr;
-    AxObjectType ignored;
-    return value && value->string().find_first_not_of(" \t\r\n") != std::string::npos &&
-           !AxObjectType::fromString(value->string(), ignored);
 }
 
 /// An object that only serves patterns is no fault.
@@ -270,16 +262,14 @@ bool AxModelSet::addEntitiesOf(AxFilename const& file)
     {
         return false;
     }
-    std::list<AxEnvValuePtr> elements;
-    AxZedXmlUtils::getObjectElements(env, elements);
-    for (AxEnvValuePtr const& element : elements)
+    for (AxEnvObjectPtr const& element : AxObjectElement::allOf(env))
     {
         auto entry = std::make_unique<AxModelSetEntry>(AxSymbolString(), nullptr);
         if (entry->readFromEnvironment(env, element))
         {
             adopt(std::move(entry));
         }
-        else if (!hasUnreadableType(env, element))
+        else if (!AxObjectElement::hasUnreadableObjectType(element))
         {
             reportNoType(env, element);
         }

@@ -86,7 +86,8 @@ AxFilename AxRunningSave::unusedName(AxFilename const& file)
     std::string const& text = file.string().string();
     std::size_t const point = std::min(text.rfind('.'), text.size());
     std::string name = text;
-    for (int copy = 2; !myNames.insert(boost::algorithm::to_lower_copy(name)).second; ++copy)
+    int& copy = myNextCopies.try_emplace(boost::algorithm::to_lower_copy(text), 2).first->second;
+    for (; !myNames.insert(boost::algorithm::to_lower_copy(name)).second; ++copy)
     {
         name = text.substr(0, point) + '-' + std::to_string(copy) + text.substr(point);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AxFileTransaction.h"
+#include "AxObjectSurroundings.h"
 #include "AxRwVariableBindings.h"
 #include "AxSavedFilenames.h"
 #include "AxSavedVariables.h"
@@ -43,6 +44,8 @@ public:
     AxSavedVariables* variables() { return myVariables ? &*myVariables : nullptr; }
 
     AxSavedFilenames& filenames() { return myFilenames; }
+    /// Of the objects of entity files, whose records are written to files of their own.
+    AxObjectSurroundings& surroundings() { return mySurroundings; }
 
     /// Makes the directory of the record files; names of files there that are still in use are not given out.
     void startDirectory(AxFilename const& directory);
@@ -60,7 +63,9 @@ private:
     std::optional<AxSavedVariables> myVariables;
     AxSavedFilenames myFilenames;
     AxFileTransaction myFiles;
+    AxObjectSurroundings mySurroundings;
     std::set<std::string> myNames;
+    std::map<std::string, int> myNextCopies; // of a name, the number to try next
     std::map<AxSxpParameterDbEntry*, AxFilename> myFormerNames;
     AxFilename myMadeDirectory;
     bool myHasFailed = false;

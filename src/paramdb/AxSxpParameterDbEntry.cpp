@@ -313,19 +313,18 @@ AxZedObjectParameters* AxSxpParameterDbEntry::readEntityFile(AxFilename const& f
         return nullptr;
     }
     AxSourceScope const scope(myReading->file);
-    AxEnvironmentPtr const env = AxEntityFiles::tree(open.get(), myReading->file);
+    AxEntityFiles::Tree const tree = AxEntityFiles::tree(open.get(), myReading->file);
     open.reset(); // a record may name many files in turn
+    AxEnvironmentPtr const& env = tree.environment;
     if (!env)
     {
         return nullptr;
     }
     // A database that was saved and loaded again no longer knows which of its entries are patterns.
-    AxEnvValuePtr element = typeIsMatchType() ? AxZedXmlUtils::findObjectElementByMatchType(env, objectType())
-                                              : AxZedXmlUtils::findObjectElementByObjectType(env, objectType());
+    AxEnvValuePtr element = tree.objects->find(env, objectType(), typeIsMatchType());
     if (!element)
     {
-        element = typeIsMatchType() ? AxZedXmlUtils::findObjectElementByObjectType(env, objectType())
-                                    : AxZedXmlUtils::findObjectElementByMatchType(env, objectType());
+        element = tree.objects->find(env, objectType(), !typeIsMatchType());
     }
     if (!element)
     {

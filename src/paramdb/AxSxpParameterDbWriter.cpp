@@ -12,7 +12,6 @@
 #include "AxSxpParameterDbEntry.h"
 #include "AxSxpParameterDbFileData.h"
 #include "AxZedObjectParameters.h"
-#include "AxZedXmlUtils.h"
 
 #include <cstring>
 #include <filesystem>
@@ -275,7 +274,8 @@ void AxSxpParameterDbWriter::writeEntry(AxSxpParameterDbFileData* data, AxSxpPar
     if (record)
     {
         prepareRecord(*entry, generateOpeDirectory(fileDir, parameterDir));
-        AxZedXmlUtils::keepOthers(*record, true);
+        AxObjectSurroundings once;
+        (save ? save->surroundings() : once).keepWith(*record, true);
         AxFilename const name = generateFilename(record->AxReaderWriter::name().string(), record->objectType());
         if (save)
         {

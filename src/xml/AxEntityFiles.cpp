@@ -2,7 +2,7 @@
 
 #include "AxEnvXMLReader.h"
 
-#include <boost/weak_ptr.hpp>
+#include <boost/make_shared.hpp>
 #include <map>
 #include <string>
 #include <sys/stat.h>
@@ -17,6 +17,7 @@ struct Parsed
 {
     Version version;
     boost::weak_ptr<AxEnvironment> tree;
+    boost::shared_ptr<AxObjectIndex> objects;
 };
 
 Version versionOf(std::FILE* file)
@@ -29,7 +30,7 @@ Version versionOf(std::FILE* file)
 }
 } // namespace
 
-AxEnvironmentPtr AxEntityFiles::tree(std::FILE* file, AxFilename const& name)
+AxEntityFiles::Tree AxEntityFiles::tree(std::FILE* file, AxFilename const& name)
 {
     static std::map<std::string, Parsed> parsed;
     static std::size_t most = 0; // entries that are not worth looking through again
@@ -41,7 +42,7 @@ AxEnvironmentPtr AxEntityFiles::tree(std::FILE* file, AxFilename const& name)
     {
         if (AxEnvironmentPtr const shared = known->second.tree.lock())
         {
-            return shared;
+            return {shared, known->second.objects};
         }
     }
     if (parsed.size() > most)
@@ -49,10 +50,12 @@ AxEnvironmentPtr AxEntityFiles::tree(std::FILE* file, AxFilename const& name)
         std::erase_if(parsed, [](auto const& entry) { return entry.second.tree.expired(); });
         most = 2 * parsed.size() + 16;
     }
-    AxEnvironmentPtr const tree = AxEnvXMLReader::readOpenFile(file, name);
-    if (tree)
+    Tree read;
+    read.environment = AxEnvXMLReader::readOpenFile(file, name);
+    if (read.environment)
     {
-        parsed[path] = {version, tree};
+        read.objects = boost::make_shared<AxObjectIndex>();
+        parsed[path] = {version, read.environment, read.objects};
     }
-    return tree;
+    return read;
 }

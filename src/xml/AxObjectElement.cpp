@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <boost/make_shared.hpp>
-#include <span>
 #include <utility>
 #include <vector>
 
@@ -36,6 +35,13 @@ AxObjectType typeOf(AxEnvObjectPtr const& element, bool reports)
     return type;
 }
 
+bool hasUnreadableValue(AxEnvObject const& element)
+{
+    AxObjectType type;
+    AxString const* const value = element.attribute("value");
+    return value && !axIsBlank(value->string()) && !AxObjectType::fromString(value->string(), type);
+}
+
 /// What an element of types or variables says that nobody knows; null when that is nothing.
 AxEnvObjectPtr restOf(AxEnvObject const& part, bool reports)
 {
@@ -48,65 +54,10 @@ AxEnvObjectPtr restOf(AxEnvObject const& part, bool reports)
 /// be read.
 bool isLeftOut(AxEnvObject const& part)
 {
-    AxObjectType type;
     AxString const* const value = part.attribute("value");
-    bool const isUnreadable = value && !axIsBlank(value->string()) && !AxObjectType::fromString(value->string(), type);
-    return isUnreadable || (part.count() == 0 && type.isNull() && !(part.type() == AxObjectElement::thePlatformTag));
-}
-
-bool isObject(AxEnvValue const& node)
-{
-    return node.isObject() && static_cast<AxEnvObject const&>(node).type() == AxObjectElement::theTag;
-}
-
-bool holdsObject(AxEnvValue const& node)
-{
-    auto const* const parent = node.isObject() ? static_cast<AxEnvObject const*>(&node) : nullptr;
-    return parent && std::ranges::any_of(parent->children(), [](AxEnvValuePtr const& child)
-                                         { return isObject(*child) || holdsObject(*child); });
-}
-
-/// A copy of `from` in which only the object at the end of the path is left, empty. `isNews` becomes true when
-/// something else stands in it that is no comment.
-AxEnvObjectPtr copyAround(AxEnvObject const& from, std::span<AxEnvValue const* const> path, bool& isNews)
-{
-    auto const copy = boost::make_shared<AxEnvObject>(from.type());
-    isNews = isNews || from.hasName() || !from.attributes().empty();
-    if (from.hasName())
-    {
-        copy->setName(from.name());
-    }
-    for (AxEnvObject::Attribute const& attribute : from.attributes())
-    {
-        copy->setAttribute(attribute.name, attribute.value->value());
-    }
-    for (AxEnvValuePtr const& child : from.children())
-    {
-        auto const* const object = child->isObject() ? static_cast<AxEnvObject const*>(child.get()) : nullptr;
-        if (child.get() == path.front())
-        {
-            copy->add(path.size() == 1 ? boost::make_shared<AxEnvObject>(AxObjectElement::theTag)
-                                       : copyAround(*object, path.subspan(1), isNews));
-        }
-        else if (!isObject(*child) && !holdsObject(*child))
-        {
-            isNews = isNews || !object || !object->isReserved();
-            copy->add(AxXmlFragment::copyOf(*child));
-        }
-    }
-    return copy;
-}
-
-/// The first object in the tree; null when there is none.
-AxEnvObjectPtr firstObject(AxEnvValuePtr const& node)
-{
-    AxEnvObjectPtr const object = node->castToObject();
-    AxEnvObjectPtr found = isObject(*node) ? object : AxEnvObjectPtr();
-    for (std::size_t i = 0; !found && object && i < object->count(); ++i)
-    {
-        found = firstObject(object->children()[i]);
-    }
-    return found;
+    AxObjectType type;
+    return hasUnreadableValue(part) || (part.count() == 0 && !(part.type() == AxObjectElement::thePlatformTag) &&
+                                        (!value || !AxObjectType::fromString(value->string(), type) || type.isNull()));
 }
 
 /// Whether the element in what was kept is the rest of one that is written.
@@ -123,6 +74,16 @@ bool isRest(AxEnvObject const& child)
     return isPart && !hasValue && !(child.type() == AxObjectElement::thePlatformTag);
 }
 } // namespace
+
+AxEnvObjectList AxObjectElement::allOf(AxEnvironmentPtr const& env)
+{
+    AxEnvObjectList objects;
+    if (env)
+    {
+        env->getObjectsByType(theTag, objects);
+    }
+    return objects;
+}
 
 AxObjectType AxObjectElement::objectTypeOf(AxEnvValuePtr const& element, bool reports)
 {
@@ -152,20 +113,21 @@ std::vector<AxObjectType> AxObjectElement::matchTypesOf(AxEnvValuePtr const& ele
     return types;
 }
 
+bool AxObjectElement::hasUnreadableObjectType(AxEnvValuePtr const& element)
+{
+    AxEnvObjectPtr const given = AxElement::first(element, theTypeTag);
+    return given && hasUnreadableValue(*given);
+}
+
 bool AxObjectElement::hasUnreadableType(AxEnvValuePtr const& element)
 {
-    bool isUnreadable = false;
-    auto const look = [&isUnreadable](AxEnvObjectPtr const& child)
-    {
-        AxObjectType type;
-        std::string const text = AxElement::attribute(child, "value").string();
-        isUnreadable = isUnreadable || (!axIsBlank(text) && !AxObjectType::fromString(text, type));
-    };
+    bool isOne = false;
+    auto const look = [&isOne](AxEnvObjectPtr const& child) { isOne = isOne || hasUnreadableValue(*child); };
     AxElement::forEach(element, theTypeTag, look);
     AxElement::forEach(element, theMatchTypeTag, look);
     AxElement::forEach(element, theTypesTag,
                        [&look](AxEnvObjectPtr const& group) { AxElement::forEach(group, theTypeTag, look); });
-    return isUnreadable;
+    return isOne;
 }
 
 void AxObjectElement::reportRests(AxEnvValuePtr const& element)
@@ -276,45 +238,4 @@ void AxObjectElement::addOthers(AxEnvObject& element, AxEnvObject& others)
         element.insert(isInFront ? static_cast<std::size_t>(platform - element.children().begin()) : element.count(),
                        node);
     }
-}
-
-AxEnvObjectPtr AxObjectElement::fileOf(AxEnvValuePtr const& element)
-{
-    std::vector<AxEnvValue const*> path;
-    AxEnvListPtr root;
-    for (AxEnvValuePtr node = element; node && node->parent(); node = root)
-    {
-        path.insert(path.begin(), node.get());
-        root = node->parent()->castToList();
-    }
-    AxEnvObjectPtr const outermost = root ? root->castToObject() : AxEnvObjectPtr();
-    bool isNews = false;
-    AxEnvObjectPtr const copy = outermost ? copyAround(*outermost, path, isNews) : AxEnvObjectPtr();
-    if (!isNews)
-    {
-        return {};
-    }
-    auto const file = boost::make_shared<AxEnvObject>(theFileTag);
-    file->add(copy);
-    return file;
-}
-
-void AxObjectElement::restoreFile(AxEnvironment& env, AxEnvObjectPtr const& element, AxEnvObject& others)
-{
-    AxEnvObjectPtr const file = AxElement::first(others.shared_from_this(), theFileTag);
-    AxEnvObjectPtr const root =
-        file && file->count() == 1 ? file->children().front()->castToObject() : AxEnvObjectPtr();
-    AxEnvObjectPtr const vacated = root ? firstObject(root) : AxEnvObjectPtr();
-    if (!vacated || vacated == root || !isEmpty(*vacated) || !(env.root() == element))
-    {
-        return;
-    }
-    env.setRoot({});
-    AxEnvListPtr const siblings = vacated->parent()->castToList();
-    auto const place = std::ranges::find(siblings->children(), vacated) - siblings->children().begin();
-    siblings->insert(static_cast<std::size_t>(place), element);
-    siblings->remove(vacated);
-    file->remove(root);
-    others.remove(file);
-    env.setRoot(root);
 }

@@ -18,25 +18,22 @@ inline constexpr char const* theTypesTag = "objectTypes";
 inline constexpr char const* thePlatformTag = "platform";
 inline constexpr char const* theGuiTag = "guiInformation";
 inline constexpr char const* theFurtherTypes = "additional-match-types";
-/// Holds a copy of what stands around an object in its file, in which an empty object stands for it.
-inline constexpr char const* theFileTag = "file";
 
+/// The object elements in the order of the file.
+AxEnvObjectList allOf(AxEnvironmentPtr const& env);
 /// What cannot be read, or stands again, is told if `reports`.
 AxObjectType objectTypeOf(AxEnvValuePtr const& element, bool reports);
 std::vector<AxObjectType> matchTypesOf(AxEnvValuePtr const& element, bool reports);
 
-/// Whether one of its types cannot be read, which is told when it is asked for.
+/// Whether its object type cannot be read, which is told when that is asked for.
+bool hasUnreadableObjectType(AxEnvValuePtr const& element);
+/// The same of any of its types.
 bool hasUnreadableType(AxEnvValuePtr const& element);
 /// Tells what the elements of types and variables say that nobody knows.
 void reportRests(AxEnvValuePtr const& element);
 /// A copy of what it holds besides; null when there is none.
 AxEnvObjectPtr othersOf(AxEnvValuePtr const& element);
 bool isEmpty(AxEnvObject const& others);
-/// A copy of what stands around the element, other objects left out; null when that is neither attributes, elements nor
-/// texts.
-AxEnvObjectPtr fileOf(AxEnvValuePtr const& element);
-/// Moves that from `others` around the element, if it is the root.
-void restoreFile(AxEnvironment& env, AxEnvObjectPtr const& element, AxEnvObject& others);
 /// Takes the further types out.
 void removeFurtherTypes(AxEnvObject& others);
 /// Whether the item of a record's text is what it keeps of its element.

@@ -1,5 +1,7 @@
 #include "AxElement.h"
+#include "AxGuarded.h"
 #include "AxObjectElement.h"
+#include "AxObjectSurroundings.h"
 #include "AxRwVariableBindings.h"
 #include "AxSystemElement.h"
 #include "AxTreeCells.h"
@@ -9,7 +11,6 @@
 #include "AxZedXmlUtils.h"
 
 #include <algorithm>
-#include <boost/make_shared.hpp>
 #include <exception>
 #include <memory>
 
@@ -143,14 +144,13 @@ void addRecord(AxEnvironmentPtr const& env, AxEnvObjectPtr const& element, AxZed
     moveSystems(env, platform, element, record.systemDescriptorList());
     if (others)
     {
-        AxObjectElement::restoreFile(*env, element, *others);
+        AxObjectSurroundings::restore(*env, element, *others);
         AxObjectElement::addOthers(*element, *others);
     }
 }
-} // namespace
 
-AxZedObjectParameters* AxZedXmlUtils::createParameters(AxEnvironmentPtr const& env, AxEnvValuePtr const& element,
-                                                       AxFilenameList const& files, AxBindingsList const& bindings)
+AxZedObjectParameters* readRecord(AxEnvironmentPtr const& env, AxEnvValuePtr const& element,
+                                  AxFilenameList const& files, AxBindingsList const& bindings)
 {
     AxEnvObjectPtr const platform = AxElement::single(element, AxObjectElement::thePlatformTag);
     if (!platform)
@@ -170,7 +170,7 @@ AxZedObjectParameters* AxZedXmlUtils::createParameters(AxEnvironmentPtr const& e
         }
         AxObjectElement::reportRests(element);
         AxRwVariableBindings variables;
-        readVariableBindings(env, element, variables);
+        AxZedXmlUtils::readVariableBindings(env, element, variables);
         AxBindingsList known = bindings;
         if (!variables.empty())
         {
@@ -198,14 +198,13 @@ AxZedObjectParameters* AxZedXmlUtils::createParameters(AxEnvironmentPtr const& e
     }
 }
 
-AxEnvValuePtr AxZedXmlUtils::addObject(AxEnvironmentPtr const& env, AxEnvValuePtr const& parent,
-                                       AxZedObjectParameters const& record)
+AxEnvObjectPtr addElement(AxEnvironmentPtr const& env, AxEnvValuePtr const& parent, AxZedObjectParameters const& record)
 {
+    AxString const name(record.AxReaderWriter::name().string());
     try
     {
         AxEnvObjectPtr const element =
-            env ? env->addObject(record.AxReaderWriter::name().string(), AxString(AxObjectElement::theTag), parent)
-                : AxEnvObjectPtr();
+            env ? env->addObject(name, AxString(AxObjectElement::theTag), parent) : AxEnvObjectPtr();
         if (element)
         {
             addRecord(env, element, record);
@@ -216,41 +215,30 @@ AxEnvValuePtr AxZedXmlUtils::addObject(AxEnvironmentPtr const& env, AxEnvValuePt
     {
         AxDiagnostic failure;
         failure.code = "write-failed";
-        failure.path = record.AxReaderWriter::name().string().string();
+        failure.path = name.string();
         failure.text = error.what();
         AxDiagnostics::report(std::move(failure));
         return {};
     }
 }
+} // namespace
+
+AxZedObjectParameters* AxZedXmlUtils::createParameters(AxEnvironmentPtr const& env, AxEnvValuePtr const& element,
+                                                       AxFilenameList const& files, AxBindingsList const& bindings)
+{
+    AxZedObjectParameters* const none = nullptr;
+    return axGuarded("read-failed", AxFilename::nullFilename(), none,
+                     [&] { return readRecord(env, element, files, bindings); });
+}
+
+AxEnvValuePtr AxZedXmlUtils::addObject(AxEnvironmentPtr const& env, AxEnvValuePtr const& parent,
+                                       AxZedObjectParameters const& record)
+{
+    return axGuarded("write-failed", AxFilename::nullFilename(), AxEnvValuePtr(),
+                     [&] { return AxEnvValuePtr(addElement(env, parent, record)); });
+}
 
 void AxZedXmlUtils::keepOthers(AxZedObjectParameters& record, bool isOneOfMany)
 {
-    AxEnvValuePtr const& element = record.objectNode();
-    AxEnvObjectPtr others = AxObjectElement::othersOf(element);
-    if (AxEnvObjectPtr const file = AxObjectElement::fileOf(element))
-    {
-        others = others ? others : boost::make_shared<AxEnvObject>(AxObjectElement::theTag);
-        others->add(file);
-    }
-    if (!others || std::ranges::any_of(record.keptItems(),
-                                       [](auto const& kept) { return AxObjectElement::isOthersItem(kept.second); }))
-    {
-        return;
-    }
-    if (isOneOfMany)
-    {
-        AxObjectType type = AxObjectElement::objectTypeOf(element, false);
-        if (type.isNull())
-        {
-            std::vector<AxObjectType> const types = AxObjectElement::matchTypesOf(element, false);
-            type = types.empty() ? type : types.front();
-        }
-        AxObjectElement::removeFurtherTypes(*others);
-        if (!(type == record.objectType()) || AxObjectElement::isEmpty(*others))
-        {
-            return;
-        }
-    }
-    AxReaderWriterRegistry const& members = *record.registry();
-    record.keepItem(members.entry(members.size() - 1).keyword, AxTreeCells::xmlItem(AxXmlFragment::ofNode(*others)));
+    AxObjectSurroundings().keepWith(record, isOneOfMany);
 }

@@ -3,7 +3,9 @@
 #include "AxElement.h"
 #include "AxEnvXMLReader.h"
 #include "AxEnvXMLWriter.h"
+#include "AxGuarded.h"
 #include "AxObjectElement.h"
+#include "AxObjectIndex.h"
 #include "AxRwObjectType.h"
 #include "AxRwVariableBindings.h"
 #include "AxSystemElement.h"
@@ -14,19 +16,10 @@ namespace
 {
 using namespace AxObjectElement;
 
-template <class Fits>
-AxEnvValuePtr lastObject(AxEnvironmentPtr const& env, Fits const& fits)
+AxEnvValuePtr lastObject(AxEnvironmentPtr const& env, AxObjectType const& type, bool isMatchType)
 {
-    std::list<AxEnvValuePtr> elements;
-    AxZedXmlUtils::getObjectElements(env, elements);
-    for (auto element = elements.rbegin(); element != elements.rend(); ++element)
-    {
-        if (fits(*element))
-        {
-            return *element;
-        }
-    }
-    return {};
+    return axGuarded("no-element", AxFilename::nullFilename(), AxEnvValuePtr(),
+                     [&] { return AxObjectIndex::walkTo(env, type, isMatchType); });
 }
 
 bool isReference(std::string const& text)
@@ -47,28 +40,23 @@ bool AxZedXmlUtils::writeEnvironment(AxEnvironmentPtr const& env, AxFilename con
 
 void AxZedXmlUtils::getObjectElements(AxEnvironmentPtr const& env, std::list<AxEnvValuePtr>& elements)
 {
-    AxEnvObjectList objects;
-    if (env)
-    {
-        env->getObjectsByType(theTag, objects);
-    }
-    elements.insert(elements.end(), objects.begin(), objects.end());
+    axGuarded("no-element", AxFilename::nullFilename(), false,
+              [&]
+              {
+                  AxEnvObjectList const objects = allOf(env);
+                  elements.insert(elements.end(), objects.begin(), objects.end());
+                  return true;
+              });
 }
 
 AxEnvValuePtr AxZedXmlUtils::findObjectElementByObjectType(AxEnvironmentPtr const& env, AxObjectType const& type)
 {
-    return lastObject(env, [&type](AxEnvValuePtr const& element)
-                      { return !type.isNull() && objectTypeOf(element, false) == type; });
+    return lastObject(env, type, false);
 }
 
 AxEnvValuePtr AxZedXmlUtils::findObjectElementByMatchType(AxEnvironmentPtr const& env, AxObjectType const& type)
 {
-    return lastObject(env,
-                      [&type](AxEnvValuePtr const& element)
-                      {
-                          std::vector<AxObjectType> const types = matchTypesOf(element, false);
-                          return std::find(types.begin(), types.end(), type) != types.end();
-                      });
+    return lastObject(env, type, true);
 }
 
 AxObjectType AxZedXmlUtils::getObjectType(AxEnvironmentPtr const&, AxEnvValuePtr const& element)

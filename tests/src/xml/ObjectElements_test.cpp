@@ -105,3 +105,67 @@ TEST_F(ObjectElements, AnyPiecesSurviveBothNotations)
         }
     }
 }
+
+TEST_F(ObjectElements, WhatStandsAroundAnObjectComesBackAroundIt)
+{
+    std::mt19937 engine(17);
+    std::string const outside[] = {"", "<!-- note -->\n", "<?go now?>\n", "<!-- a -->\n<?b c?>\n"};
+    std::string const others[] = {"<odd/>", "<odd name=\"x\" y=\"1\">text</odd>", "<!-- note -->", "<?go now?>"};
+    auto const object = [](std::size_t number)
+    {
+        std::string const name = " name=\"m" + std::to_string(number) + "\"";
+        return "<simObject" + name + "><platform" + name + " parameter-type=\"zed-object-param\"/></simObject>";
+    };
+    for (int round = 0; round < 200; ++round)
+    {
+        // The file as it is, and for each object as it is with that alone.
+        std::size_t const count = 1 + engine() % 3;
+        std::string file;
+        std::vector<std::string> alone(count);
+        auto const addToAll = [&](std::string const& text)
+        {
+            file += text;
+            for (std::string& one : alone)
+            {
+                one += text;
+            }
+        };
+        bool const isRoot = count == 1 && engine() % 3 == 0;
+        addToAll(outside[engine() % 4] + (isRoot ? "" : "<force version=\"3\">"));
+        for (std::size_t number = 0; number < count; ++number)
+        {
+            bool const isGrouped = !isRoot && engine() % 2 == 0;
+            std::string const before = isRoot ? "" : others[engine() % 4];
+            std::string const inGroup = "<wing name=\"w\">" + others[engine() % 4];
+            addToAll(before);
+            std::string const text = isGrouped ? inGroup + object(number) + "</wing>" : object(number);
+            file += text;
+            alone[number] += text;
+        }
+        addToAll(isRoot ? "" : others[engine() % 4] + "</force>");
+        addToAll("\n" + outside[engine() % 4]);
+        SCOPED_TRACE(file);
+        AxEnvironmentPtr const env = treeOf(file);
+        ASSERT_TRUE(env);
+        std::list<AxEnvValuePtr> elements;
+        AxZedXmlUtils::getObjectElements(env, elements);
+        ASSERT_EQ(elements.size(), count);
+        std::size_t number = 0;
+        for (AxEnvValuePtr const& element : elements)
+        {
+            RecordPtr const record(AxZedXmlUtils::createParameters(env, element, {}, {}));
+            ASSERT_TRUE(record);
+            AxZedXmlUtils::keepOthers(*record, false);
+            std::string written = elementOf(*created(record->writtenText()));
+            std::size_t const added = written.find(" bounding-geometry-type=\"2\"");
+            ASSERT_NE(added, std::string::npos) << written;
+            written.erase(added, std::string(" bounding-geometry-type=\"2\"").size());
+            EXPECT_TRUE(equalTrees(treeOf(written), treeOf(alone[number]))) << written << "\n" << alone[number];
+            ++number;
+        }
+        if (HasFailure())
+        {
+            return;
+        }
+    }
+}
