@@ -244,6 +244,12 @@ public:
     AxString const& parameterType() const { return myParameterType; }
     void setParameterType(AxString const& type) { myParameterType = type; }
     bool isInitialized() const { return myRemoteSubComponentTypes != nullptr; }
+    /// For a record that is read again: where it was read from this time.
+    void setObjectNode(AxEnvironmentPtr const& env, AxEnvValuePtr const& node)
+    {
+        myEnvironment = env;
+        myObjectNode = node;
+    }
     /// Adds a copy behind those that are there.
     void addVariableBindingsFromLoad(AxRwVariableBindings const& bindings);
     /// Makes the user extension anew by its type name and lets it read `item` (nil: nothing). False after a warning.

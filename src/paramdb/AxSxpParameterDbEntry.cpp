@@ -481,6 +481,7 @@ AxZedObjectParameters* AxSxpParameterDbEntry::hold(AxZedObjectParameters* record
     fresh->setObjectType(held->objectType());
     fresh->setMatchType(held->matchType());
     AxReaderWriter::factory()->copyReaderWriter(fresh.get(), held);
+    held->setObjectNode(fresh->xmlEnvironment(), fresh->objectNode());
     held->setInvalid(fresh->invalid());
     return held;
 }

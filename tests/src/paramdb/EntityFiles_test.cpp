@@ -1,5 +1,10 @@
+#include "AxEnvXMLWriter.h"
 #include "AxMovingObjectParameters.h"
+#include "AxZedXmlUtils.h"
 #include "DatabaseFixture.h"
+
+#include <boost/make_shared.hpp>
+#include <random>
 
 namespace
 {
@@ -77,6 +82,91 @@ TEST_F(EntityFiles, RecordsOfOneFileShareItsTreeUntilTheFileChanges)
     put("data/a.entity", "<f>" + object(exact(theTank), "max-speed=\"7.25\"") + "</f>");
     EXPECT_TRUE(entryOf(db, tank)->loadFromFile(entryOf(db, tank)->filename()));
     EXPECT_EQ(speedOf(db, tank), 7.25);
+}
+
+TEST_F(EntityFiles, AmongManyObjectsOfAFileTheLastOfAnEntrysTypeIsRead)
+{
+    std::mt19937 engine(5);
+    for (int round = 0; round < 20; ++round)
+    {
+        std::string text;
+        for (int i = 0; i < 12; ++i)
+        {
+            std::string const type = "1:1:1:225:1:1:" + std::to_string(engine() % 6) + ":0";
+            std::string const types = (engine() % 4 != 0 ? exact(type.c_str()) : "") +
+                                      (engine() % 3 == 0 ? match(("1:1:1:225:1:2:" + type.substr(14)).c_str()) : "");
+            std::string const made = object(types, "max-speed=\"" + std::to_string(i) + "\"");
+            text += engine() % 3 == 0 ? "<g>" + made + "</g>" : made;
+        }
+        AxFilename const file = put("data/a.entity", "<f>" + text + "</f>");
+        AxSxpParameterDb forces;
+        forces.init();
+        ASSERT_TRUE(forces.load(putDatabase()));
+        AxEnvironmentPtr const own = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
+        for (AxListItem const* item = forces.parameterList().first(); item != nullptr; item = item->next())
+        {
+            auto& entry = *static_cast<AxSxpParameterDbEntry*>(item->data());
+            AxZedObjectParameters const* const record = entry.load();
+            AxEnvValuePtr const element = entry.typeIsMatchType()
+                                              ? AxZedXmlUtils::findObjectElementByMatchType(own, entry.objectType())
+                                              : AxZedXmlUtils::findObjectElementByObjectType(own, entry.objectType());
+            ASSERT_TRUE(record && element);
+            EXPECT_TRUE(equalTrees(record->objectNode(), element)) << text;
+        }
+        // A host may take elements out of the tree that the records share.
+        auto& last = *static_cast<AxSxpParameterDbEntry*>(forces.parameterList().last()->data());
+        AxEnvironmentPtr const shared = last.parameters()->xmlEnvironment();
+        AxEnvValuePtr const former = last.parameters()->objectNode();
+        shared->remove(former);
+        last.load();
+        EXPECT_TRUE(AxZedXmlUtils::findObjectElementByObjectType(shared, last.objectType()) == nullptr ||
+                    last.parameters()->objectNode() != former);
+    }
+}
+
+TEST_F(EntityFiles, EachSavedRecordKeepsItsPlaceAmongWhatIsUnknown)
+{
+    put("data/a.entity", "<!-- of all --><f version=\"3\">" + object(exact(theTank), "") + "<odd/>" +
+                             object(exact(theTanks), "") + "</f>");
+    ASSERT_TRUE(db.loadAll(putDatabase()));
+    ASSERT_TRUE(db.save(AxFilename(path("saved.opd"))));
+    for (auto const& [file, around] : {std::pair("saved/m1_1_1_1_225_1_1_3_0.ope", "<simObject/>\n<odd/>"),
+                                       std::pair("saved/m1_1_1_1_225_1_1_-1_-1.ope", "<odd/>\n<simObject/>")})
+    {
+        std::string const expected = "<file>\n<!-- of all -->\n<f version=\\\"3\\\">\n" + std::string(around);
+        EXPECT_NE(get(file).find(expected), std::string::npos) << files() << get(file);
+    }
+}
+
+TEST_F(EntityFiles, ARecordThatIsReadAgainBelongsToTheNewElement)
+{
+    auto const labelled = [](char const* label)
+    { return object(exact(theTank) + "<guiInformation name=\"gui\" label=\"" + label + "\"/>", ""); };
+    auto const writtenTree = [](AxZedObjectParameters const& record)
+    {
+        auto const env = boost::make_shared<AxEnvironment>();
+        std::string text;
+        EXPECT_TRUE(AxZedXmlUtils::addObject(env, {}, record) && AxEnvXMLWriter().writeText(env, text));
+        return text;
+    };
+    put("data/a.entity", labelled("old"));
+    ASSERT_TRUE(load(putDatabase()));
+    AxZedObjectParameters* const record = db.lookup(tank);
+    ASSERT_TRUE(record);
+    AxEnvironmentPtr const before = record->xmlEnvironment();
+    put("data/a.entity", labelled("newer"));
+    ASSERT_EQ(entryOf(db, tank)->load(), record);
+    EXPECT_NE(record->xmlEnvironment(), before);
+    EXPECT_EQ(record->objectNode(), record->xmlEnvironment()->root());
+    EXPECT_NE(writtenTree(*record).find("\"newer\""), std::string::npos) << writtenTree(*record);
+    // What a save kept of the old element gives way, too.
+    AxZedXmlUtils::keepOthers(*record, false);
+    put("data/a.entity", labelled("newest"));
+    ASSERT_EQ(entryOf(db, tank)->load(), record);
+    EXPECT_NE(writtenTree(*record).find("\"newest\""), std::string::npos) << writtenTree(*record);
+    put("a.ope", "(m1 (parameter-type \"moving-object-param\"))");
+    ASSERT_EQ(entryOf(db, tank)->loadFromFile(AxFilename(path("a.ope"))), record);
+    EXPECT_FALSE(record->objectNode() || record->xmlEnvironment());
 }
 
 TEST_F(EntityFiles, RecordsAreReadWhenTheyAreFirstAskedFor)
