@@ -30,6 +30,10 @@ public:
     unsigned line() const { return myLine; }
     unsigned column() const { return myColumn; }
     void setPlace(unsigned line, unsigned column);
+    /// Where the element begins that the entry stands for, in the entity file that it names; zeros for others.
+    unsigned elementLine() const { return myElementLine; }
+    unsigned elementColumn() const { return myElementColumn; }
+    void setElementPlace(unsigned line, unsigned column);
 
     /// Whether the text gave a type and, if it gave a file name, one that can be read.
     bool isReadable() const;
@@ -45,4 +49,6 @@ private:
     AxZedObjectParameters* myParameters = nullptr;
     unsigned myLine = 0;
     unsigned myColumn = 0;
+    unsigned myElementLine = 0;
+    unsigned myElementColumn = 0;
 };

@@ -20,6 +20,12 @@ void AxSxpParameterDbFileEntry::setPlace(unsigned line, unsigned column)
     myColumn = column;
 }
 
+void AxSxpParameterDbFileEntry::setElementPlace(unsigned line, unsigned column)
+{
+    myElementLine = line;
+    myElementColumn = column;
+}
+
 bool AxSxpParameterDbFileEntry::isReadable() const
 {
     if (!myObjectType.valueSpecified())

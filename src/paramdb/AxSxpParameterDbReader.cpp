@@ -270,21 +270,21 @@ void AxSxpParameterDbReader::addEntityFiles(AxFilename const& dataRoot, AxSxpPar
     {
         AxSourceScope const scope(file);
         AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(file, true);
-        std::list<AxEnvValuePtr> elements;
-        AxZedXmlUtils::getObjectElements(env, elements);
         std::set<AxObjectType> types;
-        for (AxEnvValuePtr const& element : elements)
+        for (AxEnvObjectPtr const& element : AxObjectElement::allOf(env))
         {
+            auto const add = [&](AxObjectType const& type, bool isMatchType)
+            { data.addEntry(type, file, isMatchType, nullptr)->setElementPlace(element->line(), element->column()); };
             std::vector<AxObjectType> matchTypes;
             AxZedXmlUtils::getMatchTypes(env, element, matchTypes);
             for (AxObjectType const& type : matchTypes)
             {
-                data.addEntry(type, file, true, nullptr);
+                add(type, true);
             }
             AxObjectType const type = AxZedXmlUtils::getObjectType(env, element);
             if (!type.isNull())
             {
-                data.addEntry(type, file, false, nullptr);
+                add(type, false);
             }
             if (!type.isNull() && !types.insert(type).second)
             {

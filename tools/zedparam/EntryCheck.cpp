@@ -4,47 +4,32 @@
 #include <utility>
 
 #include "AxDiagnostic.h"
-#include "AxZedXmlUtils.h"
 #include "Findings.h"
 
 namespace
 {
-bool isListed(ReadEntry const& entry)
-{
-    return !entry.place.file.empty();
-}
-
-/// A warning at an entry: where it is listed, or at the element of its type.
+/// A warning at an entry: where it is listed, or at its element.
 AxDiagnostic warningAt(ReadEntry const& entry, char const* code, std::string text)
 {
     AxDiagnostic finding;
     finding.severity = AxSeverity::Warning;
     finding.code = code;
-    finding.file = isListed(entry) ? entry.place.file : entry.file;
+    finding.file = entry.place.file;
     finding.line = entry.place.line;
     finding.column = entry.place.column;
     finding.text = std::move(text);
-    if (!isListed(entry))
-    {
-        AxEnvironmentPtr const tree = AxZedXmlUtils::CreateZedXmlEnvironment(AxFilename(entry.file), false);
-        AxEnvValuePtr const element = entry.isMatchType
-                                          ? AxZedXmlUtils::findObjectElementByMatchType(tree, entry.type)
-                                          : AxZedXmlUtils::findObjectElementByObjectType(tree, entry.type);
-        finding.line = element ? element->line() : 0;
-        finding.column = element ? element->column() : 0;
-    }
     return finding;
 }
 
 std::string placeOf(ReadEntry const& entry)
 {
-    return isListed(entry) ? "in line " + std::to_string(entry.place.line) : "in " + entry.file;
+    return entry.isElement() ? "in " + entry.file : "in line " + std::to_string(entry.place.line);
 }
 
 /// Two entries of one type, the earlier first. Within one entity file it was told when that was read.
 void reportRepeated(ReadEntry const& earlier, ReadEntry const& later, Findings& findings)
 {
-    bool const isTold = !isListed(later) && !isListed(earlier) && later.file == earlier.file && !later.isMatchType;
+    bool const isTold = later.isElement() && earlier.isElement() && later.file == earlier.file && !later.isMatchType;
     bool const isKept = later.isMatchType && !earlier.isMatchType;
     if (!isTold)
     {

@@ -53,10 +53,10 @@ bool EntryReader::loadParameterDb(AxFilename const& file, AxSxpParameterDb* db)
 
 void EntryReader::entryAddedFor(AxSxpParameterDbFileEntry* fileEntry, AxSxpParameterDbEntry* dbEntry)
 {
-    bool const hasPlace = fileEntry->line() != 0;
-    Place const place{hasPlace ? myFile : std::string(), fileEntry->line(), fileEntry->column()};
-    myEntries.push_back({fileEntry->objectType(), fileEntry->typeIsMatchType(),
-                         shownPath(fileEntry->filename().native()), place, dbEntry});
+    std::string const file = shownPath(fileEntry->filename().native());
+    Place const place = fileEntry->line() != 0 ? Place{myFile, fileEntry->line(), fileEntry->column()}
+                                               : Place{file, fileEntry->elementLine(), fileEntry->elementColumn()};
+    myEntries.push_back({fileEntry->objectType(), fileEntry->typeIsMatchType(), file, place, dbEntry});
 }
 
 std::vector<Candidate> candidatesFor(AxObjectType const& type, Database const& database,

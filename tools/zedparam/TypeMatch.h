@@ -17,8 +17,11 @@ struct ReadEntry
     AxObjectType type;
     bool isMatchType = false;
     std::string file;                       ///< of the record, as it is named
-    Place place;                            ///< of the entry; without a file for one that an entity file gave
+    Place place;                            ///< of the entry, or of the element of an entity file that it stands for
     AxSxpParameterDbEntry* entry = nullptr; ///< what became of it; may be gone
+
+    /// Whether it stands in the file of its record.
+    bool isElement() const { return place.file == file; }
 };
 
 /// Remembers the entries in the order in which they were read.

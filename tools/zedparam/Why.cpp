@@ -133,7 +133,7 @@ std::string advantage(AxObjectType const& winner, AxObjectType const& other)
 
 std::string places(ReadEntry const& entry, std::string const& file)
 {
-    return entry.place.file.empty() ? file : entry.place.text() + "  " + file;
+    return entry.place.file.empty() ? file : entry.isElement() ? entry.place.text() : entry.place.text() + "  " + file;
 }
 std::string placesOf(ReadEntry const& entry)
 {
@@ -144,12 +144,16 @@ std::string placesOf(Candidate const& candidate)
     return places(*candidate.read, Database::fileOf(*candidate.entry));
 }
 
+char const* matchOf(Candidate const& candidate)
+{
+    return candidate.entry->typeIsMatchType()      ? "match type"
+           : Database::isPattern(*candidate.entry) ? "pattern"
+                                                   : "exact";
+}
+
 void printBest(char const* title, Candidate const& candidate)
 {
-    std::printf("%-10s %s (%s)  %s\n", title, candidate.entry->objectType().string().c_str(),
-                candidate.entry->typeIsMatchType()      ? "match type"
-                : Database::isPattern(*candidate.entry) ? "pattern"
-                                                        : "exact",
+    std::printf("%-10s %s (%s)  %s\n", title, candidate.entry->objectType().string().c_str(), matchOf(candidate),
                 placesOf(candidate).c_str());
 }
 
@@ -231,6 +235,7 @@ void writeBest(JsonWriter& json, char const* key, Account const& account, std::s
     }
     json.beginObject();
     writeEntry(json, *account.best[rank - 1]);
+    json.member("match", matchOf(*account.best[rank - 1]));
     json.endObject();
 }
 
