@@ -33,7 +33,8 @@ public:
 
     /// Takes in the entry, or a copy, and gives it a unique identifier if it has none. Of a type that is present the
     /// entry is not added: the present one takes over its values, but not an empty identifier. A group without a type
-    /// gets the next free one first. Answers the set's entry; an entry that is not that one stays the caller's.
+    /// gets the next free one first. Answers the set's entry, null after a report when there is no
+    /// memory; an entry that is not the one answered stays the caller's.
     AxModelSetEntry* addModel(AxModelSetEntry* entry, bool copy);
     /// Deletes the entry that `find` answers; false when there is none.
     bool removeModel(AxObjectType const& type);
@@ -96,6 +97,7 @@ public:
 private:
     class Loading;
 
+    AxModelSetEntry* takeModel(AxModelSetEntry* entry, bool copy);
     /// Adds what was read. Models whose types could not be read are not the same model: all of them stay.
     void adopt(std::unique_ptr<AxModelSetEntry> entry);
     void takeIn(AxModelSet& read);

@@ -56,4 +56,7 @@ protected:
     static bool prepareRecord(AxSxpParameterDbEntry const& entry, AxFilename const& directory);
     /// What `write` installs; `context` is the writer.
     static void prePutSelfCb(AxReaderWriter* rw, std::string& out, void* context);
+
+private:
+    bool writeFiles(AxSxpParameterDb& db, AxFilename const& file, AxFilename const& parameterDir);
 };

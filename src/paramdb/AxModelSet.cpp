@@ -1,8 +1,10 @@
 #include "AxModelSet.h"
 
+#include "AxGuarded.h"
 #include "AxModelSetLoading.h"
 #include "AxReaderWriterFactory.h"
 #include "AxSimulationObjectGroupModelSetEntry.h"
+#include "axTryNew.h"
 
 #include <algorithm>
 #include <limits>
@@ -102,7 +104,7 @@ AxModelSet& AxModelSet::operator=(AxModelSet const& other)
 
 AxModelSet* AxModelSet::create(AxSymbolString name, AxReaderWriterRegistry* registry)
 {
-    return new AxModelSet(name, registry);
+    return axTryNew<AxModelSet>(name, registry);
 }
 
 void AxModelSet::copyList(AxModelSet const& other)
@@ -138,8 +140,12 @@ void AxModelSet::addToEnd(AxReaderWriter* rw)
     valueAssigned();
     if (isIndexed)
     {
-        addToIndex(last());
-        myIndexedChange = changeCount();
+        myIndexedChange = axGuarded("not-indexed", AxFilename::nullFilename(), myIndexedChange,
+                                    [this]
+                                    {
+                                        addToIndex(last());
+                                        return changeCount();
+                                    });
     }
 }
 
@@ -202,10 +208,13 @@ AxlObjPtr AxModelSet::getData(AxlObjPtr const& item, AxFilenameList const& files
 
 AxModelSetEntry* AxModelSet::addModel(AxModelSetEntry* entry, bool copy)
 {
-    if (!entry)
-    {
-        return nullptr;
-    }
+    AxModelSetEntry* const none = nullptr;
+    return entry ? axGuarded("add-failed", AxFilename::nullFilename(), none, [&] { return takeModel(entry, copy); })
+                 : nullptr;
+}
+
+AxModelSetEntry* AxModelSet::takeModel(AxModelSetEntry* entry, bool copy)
+{
     auto* const group = dynamic_cast<AxSimulationObjectGroupModelSetEntry*>(entry);
     if (group && group->objectType().isNull())
     {
@@ -222,7 +231,8 @@ AxModelSetEntry* AxModelSet::addModel(AxModelSetEntry* entry, bool copy)
         addCategoriesFrom(*known);
         return known;
     }
-    AxModelSetEntry* const added = copy ? entry->clone() : entry;
+    std::unique_ptr<AxModelSetEntry> made(copy ? entry->clone() : nullptr);
+    AxModelSetEntry* const added = copy ? made.get() : entry;
     if (added->uniqueId().isNull())
     {
         added->setUniqueId(unusedID(createUniqueID(*added)));
@@ -232,6 +242,7 @@ AxModelSetEntry* AxModelSet::addModel(AxModelSetEntry* entry, bool copy)
         myLoading->add(added->uniqueId());
     }
     add(added);
+    static_cast<void>(made.release());
     addCategoriesFrom(*added);
     if (group)
     {
@@ -274,22 +285,9 @@ void AxModelSet::adopt(std::unique_ptr<AxModelSetEntry> entry)
     }
     else
     {
-        try
+        if (takeModel(entry.get(), false) == entry.get())
         {
-            if (addModel(entry.get(), false) == entry.get())
-            {
-                static_cast<void>(entry.release());
-            }
-        }
-        catch (...)
-        {
-            // What came into the list before the failure belongs to it.
-            myCategoriesAreOld = true;
-            if (itemOf(entry.get()))
-            {
-                static_cast<void>(entry.release());
-            }
-            throw;
+            static_cast<void>(entry.release());
         }
     }
 }
@@ -447,8 +445,14 @@ std::set<AxString> const& AxModelSet::categoriesForPalette(AxString const& palet
 
 void AxModelSet::addCategoriesFrom(AxModelSetEntry const& entry)
 {
-    refreshCategories();
-    mergeCategories(entry);
+    // Without memory they are taken from all entries when they are asked for.
+    myCategoriesAreOld = axGuarded("no-categories", AxFilename::nullFilename(), true,
+                                   [&]
+                                   {
+                                       refreshCategories();
+                                       mergeCategories(entry);
+                                       return false;
+                                   });
 }
 
 void AxModelSet::updateNextSimulationObjectGroupObjectType(AxObjectType const& used)

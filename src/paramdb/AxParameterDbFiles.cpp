@@ -25,6 +25,13 @@ AxFilename axDirectoryOf(AxFilename const& file)
     return AxFilename(directory);
 }
 
+AxFilename axPathOf(AxFilename const& file)
+{
+    std::string const& text = file.string().string();
+    std::size_t const last = text.find_last_of("/\\");
+    return last == std::string::npos || last == 0 ? AxFilename() : AxFilename(text.substr(0, last + 1));
+}
+
 AxFilename axPlaceBelow(AxFilename const& directory, AxFilename const& file)
 {
     using std::filesystem::path;

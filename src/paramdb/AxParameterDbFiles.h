@@ -21,6 +21,9 @@ AxFilePtr axOpenToRead(AxFilename const& file);
 /// The directory of `file`, absolute and without a separator at its end, so that "$(opd-dir)/x" never doubles one.
 AxFilename axDirectoryOf(AxFilename const& file);
 
+/// The name up to its last separator; null when that is its first character or there is none.
+AxFilename axPathOf(AxFilename const& file);
+
 /// `file` by its place below the directory; null when it is not below it.
 AxFilename axPlaceBelow(AxFilename const& directory, AxFilename const& file);
 

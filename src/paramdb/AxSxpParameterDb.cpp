@@ -13,6 +13,7 @@
 #include "AxSxpParameterDbReader.h"
 #include "AxSxpParameterDbWriter.h"
 #include "AxZedObjectParameters.h"
+#include "axTryNew.h"
 
 #include <algorithm>
 #include <boost/filesystem/operations.hpp>
@@ -70,7 +71,7 @@ AxSxpParameterDb::~AxSxpParameterDb() = default;
 
 AxSxpParameterDb* AxSxpParameterDb::create()
 {
-    return new (std::nothrow) AxSxpParameterDb;
+    return axTryNew<AxSxpParameterDb>();
 }
 
 AxString const& AxSxpParameterDb::opdFilenameExtension()
@@ -103,11 +104,15 @@ std::map<AxString, AxFilename> const& AxSxpParameterDb::extensionToPathMap()
 
 bool AxSxpParameterDb::init()
 {
-    AxZedParameterDb::init();
-    setReader(createParamDbReader());
-    setWriter(createSxpParamDbWriter());
-    createRemoteConfigurationList();
-    return true;
+    return axGuarded("init-failed", AxFilename::nullFilename(), false,
+                     [this]
+                     {
+                         AxZedParameterDb::init();
+                         setReader(createParamDbReader());
+                         setWriter(createSxpParamDbWriter());
+                         createRemoteConfigurationList();
+                         return true;
+                     });
 }
 
 AxSxpParameterDbReader* AxSxpParameterDb::createParamDbReader()
@@ -298,9 +303,7 @@ bool AxSxpParameterDb::save(AxFilename const& file)
 
 AxFilename AxSxpParameterDb::getPath(AxFilename const& file) const
 {
-    std::string const& text = file.string().string();
-    std::size_t const last = text.find_last_of("/\\");
-    return last == std::string::npos || last == 0 ? AxFilename::nullFilename() : AxFilename(text.substr(0, last + 1));
+    return axPathOf(file);
 }
 
 AxFilename AxSxpParameterDb::stripExtension(AxFilename const& file, AxString const& extension) const
@@ -422,25 +425,29 @@ void AxSxpParameterDb::updateReaderWriterFilePaths(AxZedObjectParameters& parame
 int AxSxpParameterDb::addUnloadedFilesToCopyPairs(AxFilename const& directory)
 {
     int count = 0;
-    for (AxListItem const* item = parameterList().first(); item; item = item->next())
+    auto const addFileOf = [&](AxSxpParameterDbEntry const& entry)
     {
-        auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));
-        if (!entry || entry->parameters())
-        {
-            continue;
-        }
         AxFilename const name =
-            entry->isFromDataRoot() ? axPlaceBelow(entry->databaseDirectory(), entry->filename()) : entry->filename();
+            entry.isFromDataRoot() ? axPlaceBelow(entry.databaseDirectory(), entry.filename()) : entry.filename();
         if (name.isNull() || !name.isRelative())
         {
-            continue;
+            return true;
         }
-        AxFilename const from = entry->foundFilename();
+        AxFilename const from = entry.foundFilename();
         AxFilename const to = directory.combine(name);
         if (!from.isNull() && !to.exists())
         {
             addDependentParameterFileToCopyPair(from, to);
             ++count;
+        }
+        return true;
+    };
+    for (AxListItem const* item = parameterList().first(); item; item = item->next())
+    {
+        auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));
+        if (entry && !entry->parameters())
+        {
+            axGuarded("not-copied", entry->filename(), false, [&] { return addFileOf(*entry); });
         }
     }
     return count;

@@ -2,6 +2,7 @@
 
 #include "AxEntryOrigin.h"
 #include "AxExtFileInputStream.h"
+#include "AxGuarded.h"
 #include "AxObjectElement.h"
 #include "AxParameterDbFiles.h"
 #include "AxReaderWriterFile.h"
@@ -149,23 +150,27 @@ bool AxSxpParameterDbReader::loadParameterDb(AxFilename const& file, AxSxpParame
         AxWarn("AxSxpParameterDbReader::loadParameterDb() : Can't load NULL parameter database\n");
         return false;
     }
-    AxInfo("Loading parameter database file %s . . .\n", file.native().c_str());
-    db->clearDependentParameterFileToCopyPairs();
-    AxSourceScope const scope(file); // what the version step tells of a place is not told again
-    int version = 0;
-    if (!AxSxpParameterDbFileData::getVersion(file, version))
+    auto const load = [&]
     {
-        AxWarn << "Can't determine version number in file " << file << AxEndl;
-        return false;
-    }
-    std::unique_ptr<AxSxpParameterDbFileData> const data(createParameterDbFileData());
-    auto const creator = db->remoteConfigurationListCreatorFcn();
-    std::unique_ptr<AxRemoteConfigurationList> const configurations(
-        creator ? creator("remote-configurations", data->registry()) : nullptr);
-    data->setRemoteConfigurationList(configurations.get());
-    bool const isLoaded = loadData(file, version, *data, *db);
-    data->setRemoteConfigurationList(nullptr);
-    return isLoaded;
+        AxInfo("Loading parameter database file %s . . .\n", file.native().c_str());
+        db->clearDependentParameterFileToCopyPairs();
+        AxSourceScope const scope(file); // what the version step tells of a place is not told again
+        int version = 0;
+        if (!AxSxpParameterDbFileData::getVersion(file, version))
+        {
+            AxWarn << "Can't determine version number in file " << file << AxEndl;
+            return false;
+        }
+        std::unique_ptr<AxSxpParameterDbFileData> const data(createParameterDbFileData());
+        auto const creator = db->remoteConfigurationListCreatorFcn();
+        std::unique_ptr<AxRemoteConfigurationList> const configurations(
+            creator ? creator("remote-configurations", data->registry()) : nullptr);
+        data->setRemoteConfigurationList(configurations.get());
+        bool const isLoaded = loadData(file, version, *data, *db);
+        data->setRemoteConfigurationList(nullptr);
+        return isLoaded;
+    };
+    return axGuarded("read-failed", file, false, load);
 }
 
 bool AxSxpParameterDbReader::loadData(AxFilename const& file, int version, AxSxpParameterDbFileData& data,

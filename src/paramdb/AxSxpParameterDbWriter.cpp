@@ -1,5 +1,6 @@
 #include "AxSxpParameterDbWriter.h"
 
+#include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
 #include "AxReadWholeFile.h"
 #include "AxReaderWriterFile.h"
@@ -33,6 +34,13 @@ public:
     CallbackScope& operator=(CallbackScope const&) = delete;
     ~CallbackScope() { AxReaderWriter::setPrePutSelfCallback(nullptr, nullptr); }
 };
+
+/// The wall of a file that is written by itself; what fails within a save is told where that ends.
+template <class Step>
+bool writeGuarded(AxFilename const& file, Step const& step)
+{
+    return AxRunningSave::current() ? step() : axGuarded("save-failed", file, false, step);
+}
 
 bool cannotWrite(AxFilename const& file, int error)
 {
@@ -159,9 +167,7 @@ void AxSxpParameterDbWriter::postWrite(AxSxpParameterDbFileData const&, AxFilena
 
 AxFilename AxSxpParameterDbWriter::getPath(AxFilename const& file)
 {
-    std::string const& text = file.string().string();
-    std::size_t const last = text.find_last_of("/\\");
-    return last == std::string::npos || last == 0 ? AxFilename::nullFilename() : AxFilename(text.substr(0, last + 1));
+    return axPathOf(file);
 }
 
 AxFilename AxSxpParameterDbWriter::generateOpeDirectory(AxFilename const& fileDir, AxFilename const& parameterDir)
@@ -193,16 +199,21 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
             "save-running", file, db ? "a save is running already; one at a time" : "there is no database to save"));
         return false;
     }
-    db->setVersionNumber(theSavedVersion);
+    return axGuarded("save-failed", file, false, [&] { return writeFiles(*db, file, parameterDir); });
+}
+
+bool AxSxpParameterDbWriter::writeFiles(AxSxpParameterDb& db, AxFilename const& file, AxFilename const& parameterDir)
+{
+    db.setVersionNumber(theSavedVersion);
     CallbackScope const callback(&prePutSelfCb, this);
-    AxRunningSave save(*db, file);
+    AxRunningSave save(db, file);
     AxFilename const dir = getPath(file);
     save.startDirectory(generateOpeDirectory(dir, parameterDir));
-    copyDependentFiles(db->dependentParameterFileToCopyPairs(), save.files());
+    copyDependentFiles(db.dependentParameterFileToCopyPairs(), save.files());
     std::unique_ptr<AxSxpParameterDbFileData> const data(createParameterDbFileData());
     data->setVersion(theSavedVersion);
     AxSavedVariables const& variables = save.collectVariables(data->variableBindings());
-    AxList const& list = db->parameterList();
+    AxList const& list = db.parameterList();
     std::uint32_t const changes = list.changeCount();
     AxListItem const* item = list.first();
     for (; item; item = item->next())
@@ -228,17 +239,17 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
             return false;
         }
     }
-    addUnreadItems(db->unreadItems(), *data);
+    addUnreadItems(db.unreadItems(), *data);
     std::unique_ptr<AxRemoteConfigurationList> configurations;
-    if (db->remoteConfigurationList() && db->remoteConfigurationListCreatorFcn())
+    if (db.remoteConfigurationList() && db.remoteConfigurationListCreatorFcn())
     {
-        configurations.reset(db->remoteConfigurationListCreatorFcn()("remote-configurations", data->registry()));
+        configurations.reset(db.remoteConfigurationListCreatorFcn()("remote-configurations", data->registry()));
         if (!configurations)
         {
             AxDiagnostics::report(axFault("save-failed", file, "the remote configurations cannot be written"));
             return false;
         }
-        *configurations = *db->remoteConfigurationList();
+        *configurations = *db.remoteConfigurationList();
         for (AxRemoteConfiguration* configuration : *configurations)
         {
             if (auto const& read = configuration->variableBindings())
@@ -356,15 +367,19 @@ bool AxSxpParameterDbWriter::writeParameterFile(AxFilename const& file, AxZedObj
         AxWarn("AxSxpParameterDbWriter::writeParameterFile() : NULL AxZedObjectParameters object specified\n");
         return false;
     }
-    std::string text;
-    record->putSelf(text, 0, true, file);
-    text += '\n';
-    if (!writeText(file, text))
+    auto const write = [&]
     {
-        return false;
-    }
-    AxInfo("Writing parameter file %s\n", file.native().c_str());
-    return true;
+        std::string text;
+        record->putSelf(text, 0, true, file);
+        text += '\n';
+        if (!writeText(file, text))
+        {
+            return false;
+        }
+        AxInfo("Writing parameter file %s\n", file.native().c_str());
+        return true;
+    };
+    return writeGuarded(file, write);
 }
 
 bool AxSxpParameterDbWriter::writeTopLevelParameterDbFile(AxSxpParameterDbFileData const& data,

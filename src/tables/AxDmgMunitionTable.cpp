@@ -1,5 +1,6 @@
 #include "AxDmgMunitionTable.h"
 
+#include "AxGuarded.h"
 #include "axTryNew.h"
 
 AxDmgMunitionTable::~AxDmgMunitionTable() = default;
@@ -8,16 +9,20 @@ bool AxDmgMunitionTable::getProbabilities(AxSimMunition const& munition, AxStrin
                                           double range, AxPrbRangeTableEntry* out, bool direct,
                                           AxSimMunition* matched) const
 {
-    AxDmgMunitionEntry const* const entry = lookupMunitionEntry(munition);
-    if (!entry)
+    auto const fill = [&]
     {
-        return false;
-    }
-    if (matched)
-    {
-        *matched = entry->munition();
-    }
-    return entry->getProbabilities(surface, angle, range, out, direct);
+        AxDmgMunitionEntry const* const entry = lookupMunitionEntry(munition);
+        if (!entry)
+        {
+            return false;
+        }
+        if (matched)
+        {
+            *matched = entry->munition();
+        }
+        return entry->getProbabilities(surface, angle, range, out, direct);
+    };
+    return axGuarded("no-probabilities", AxFilename::nullFilename(), false, fill);
 }
 
 AxDmgMunitionEntry* AxDmgMunitionTable::lookupMunitionEntry(AxSimMunition const& munition) const

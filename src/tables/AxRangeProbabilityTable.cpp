@@ -3,6 +3,7 @@
 #include "AxDetectionPrbRangeCalcEntry.h"
 #include "AxDetectionPrbRangeLookupEntry.h"
 #include "AxDeterminantWord.h"
+#include "AxGuarded.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxTypeLookup.h"
@@ -46,17 +47,21 @@ void AxRangeProbabilityTable::copyList(AxRangeProbabilityTable const& other)
 bool AxRangeProbabilityTable::getProbabilities(AxEntityType const& type, double range, AxPrbRangeTableEntry* out,
                                                AxEntityType* matched) const
 {
-    auto const* const found = static_cast<AxRangeProbEntry const*>(element(lookupDetectProbEntry(type)));
-    if (!found)
+    auto const fill = [&]
     {
-        return false;
-    }
-    if (matched)
-    {
-        *matched = found->entityType();
-    }
-    found->getProbabilities(range, out);
-    return true;
+        auto const* const found = static_cast<AxRangeProbEntry const*>(element(lookupDetectProbEntry(type)));
+        if (!found)
+        {
+            return false;
+        }
+        if (matched)
+        {
+            *matched = found->entityType();
+        }
+        found->getProbabilities(range, out);
+        return true;
+    };
+    return axGuarded("no-probabilities", AxFilename::nullFilename(), false, fill);
 }
 
 AxRangeProbEntry* AxRangeProbabilityTable::addDetectionProbabilityEntry(AxRangeProbEntry const& entry)

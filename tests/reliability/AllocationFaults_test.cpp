@@ -365,6 +365,139 @@ TEST_F(AllocationFaults, GroupsAndEntityFilesOfModels)
         });
 }
 
+TEST_F(AllocationFaults, ReaderAndWriterByThemselves)
+{
+    AxFilename const file(path("force.opd"));
+    AxFilename const saved(path("saved.opd"));
+    AxFilename const recordFile(path("single.ope"));
+    AxFilename const records(".\\saved");
+    AxFilename const elsewhere(path("elsewhere"));
+    auto const loaded = [&file](bool isReadAll)
+    {
+        auto const forces = std::make_shared<AxSxpParameterDb>();
+        forces->init();
+        EXPECT_TRUE(isReadAll ? forces->loadAll(file) : forces->load(file));
+        return forces;
+    };
+    hold(
+        [this]() -> Job
+        {
+            auto const forces = std::make_shared<AxSxpParameterDb>();
+            text = [] { return std::string(); };
+            return [forces] { return forces->init(); };
+        });
+    hold(
+        [&]() -> Job
+        {
+            auto const forces = std::make_shared<AxSxpParameterDb>();
+            auto const reader = std::make_shared<AxSxpParameterDbReader>();
+            forces->init();
+            text = [forces] { return std::to_string(forces->numParameterEntries()); };
+            return [forces, reader, &file]
+            {
+                forces->removeAll();
+                return reader->loadParameterDb(file, forces.get());
+            };
+        });
+    hold(
+        [&]() -> Job
+        {
+            auto const forces = loaded(true);
+            auto const writer = std::make_shared<AxSxpParameterDbWriter>();
+            text = [this] { return get("saved.opd"); };
+            return [forces, writer, &saved, &records] { return writer->write(forces.get(), saved, records); };
+        });
+    hold(
+        [&]() -> Job
+        {
+            auto const forces = loaded(true);
+            auto const writer = std::make_shared<AxSxpParameterDbWriter>();
+            AxZedObjectParameters* const record = forces->lookup(tank);
+            text = [this] { return get("single.ope"); };
+            return [forces, writer, record, &recordFile] { return writer->writeParameterFile(recordFile, record); };
+        });
+    hold(
+        [&]() -> Job
+        {
+            auto const forces = loaded(false);
+            text = [forces] { return std::to_string(forces->dependentParameterFileToCopyPairs().size()); };
+            return [forces, &elsewhere] { return forces->addUnloadedFilesToCopyPairs(elsewhere) == 2; };
+        });
+}
+
+TEST_F(AllocationFaults, ModelsElementsAndRowsByThemselves)
+{
+    AxFilename const tableFile(path("a.hit"));
+    AxFilename const entities = put("m1.entity", "<entities><simObject name=\"m1\">\n"
+                                                 "<objectType name=\"objectType\" value=\"1:1:1:225:1:1:3:0\"/>\n"
+                                                 "</simObject></entities>\n");
+    for (bool const isCopied : {false, true})
+    {
+        hold(
+            [&]() -> Job
+            {
+                auto const models = std::make_shared<AxModelSet>("model-set", nullptr);
+                auto const model = std::make_shared<std::unique_ptr<AxModelSetEntry>>(
+                    std::make_unique<AxModelSetEntry>(AxSymbolString(), nullptr));
+                (*model)->setObjectType(tank);
+                (*model)->setLabel("A tank with a name that is not short");
+                (*model)->categories().add("A category with a name that is not short");
+                AxModelSetEntry* const entry = model->get();
+                text = [models] { return models->writtenText() + models->categories().begin()->string(); };
+                return [models, model, entry, isCopied]
+                {
+                    AxModelSetEntry* const added = models->addModel(entry, isCopied);
+                    if (added == entry)
+                    {
+                        static_cast<void>(model->release()); // now the set's
+                    }
+                    return added != nullptr && models->count() == 1;
+                };
+            });
+    }
+    hold(
+        [&]() -> Job
+        {
+            AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(entities, true);
+            auto const found = std::make_shared<std::list<AxEnvValuePtr>>();
+            text = [found] { return std::to_string(found->size()); };
+            return [env, found]
+            {
+                found->clear();
+                AxZedXmlUtils::getObjectElements(env, *found);
+                return found->size() == 1;
+            };
+        });
+    for (bool const isMatchType : {false, true})
+    {
+        hold(
+            [&]() -> Job
+            {
+                AxEnvironmentPtr const env = AxZedXmlUtils::CreateZedXmlEnvironment(entities, true);
+                text = [] { return std::string(); };
+                return [this, env, isMatchType]
+                {
+                    return isMatchType ? !AxZedXmlUtils::findObjectElementByMatchType(env, tank)
+                                       : AxZedXmlUtils::findObjectElementByObjectType(env, tank) != nullptr;
+                };
+            });
+    }
+    hold(
+        [&]() -> Job
+        {
+            auto const table = std::make_shared<AxRangeProbabilityTable>("hits", nullptr);
+            AxReaderWriterFile file("hit-file", nullptr);
+            file.setContent(table.get());
+            file = tableFile;
+            EXPECT_TRUE(file.load({}, {}));
+            file.setContent(nullptr);
+            auto const row = std::make_shared<AxPrbRangeTableEntry>("row", nullptr);
+            AxEntityType const type(1, 1, 225, 1, 1, 3, 0);
+            text = [row] { return row->writtenText(true); };
+            return [table, row, type] { return table->getProbabilities(type, 100.0, row.get(), nullptr); };
+        });
+}
+
 TEST_F(AllocationFaults, WhatIsNotYetMadeOfATreeIsMadeLater)
 {
     AxFilename const file = put("m1.entity", "<entities><simObject name=\"m1\">\n"
