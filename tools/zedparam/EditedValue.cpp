@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "AxNearest.h"
+#include "AxPrbRangeTableEntry.h"
 #include "AxReaderWriterFile.h"
 #include "AxRwList.h"
 #include "AxRwProperties.h"
@@ -114,9 +115,10 @@ ElsewhereNote elsewhere(AxReaderWriter const* rw, std::string const& name, std::
             path.empty() ? "change it there" : "change \"" + std::string(path) + "\" there"};
 }
 
-AxDiagnostic valueFault(AxReaderWriter const& member, std::string const& name, std::string const& value, bool isTaken,
-                        std::vector<AxDiagnostic> const& findings)
+AxDiagnostic valueFault(AxReaderWriter const& member, AxReaderWriter const* outer, std::string const& name,
+                        std::string const& value, bool isTaken, std::vector<AxDiagnostic> const& findings)
 {
+    bool const isOutcome = dynamic_cast<AxPrbRangeTableEntry const*>(outer) != nullptr;
     AxDiagnostic fault;
     if (!isTaken)
     {
@@ -125,7 +127,10 @@ AxDiagnostic valueFault(AxReaderWriter const& member, std::string const& name, s
             findings.empty() ? "\"" + value + "\" is no value of \"" + name + "\"" : findings.front().text;
         fault.text = text.substr(0, text.find("; ")); // the rest tells what the library would go on with
     }
-    else if (std::string const text = member.isVariableReference() ? std::string() : rangeFault(member); !text.empty())
+    else if (std::string const text = member.isVariableReference() ? std::string()
+                                      : isOutcome                  ? rangeFault(member, {0.0, 1.0})
+                                                                   : rangeFault(member);
+             !text.empty())
     {
         fault.code = "out-of-range";
         fault.text = "\"" + name + "\" is " + text;

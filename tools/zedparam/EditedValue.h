@@ -37,9 +37,10 @@ struct ElsewhereNote
 ElsewhereNote elsewhere(AxReaderWriter const* rw, std::string const& name, std::string_view path);
 
 /// What speaks against a value that a member was given to read: a fault with code and text, or without a code when
-/// nothing does. `findings` are those of that reading.
-AxDiagnostic valueFault(AxReaderWriter const& member, std::string const& name, std::string const& value, bool isTaken,
-                        std::vector<AxDiagnostic> const& findings);
+/// nothing does. `outer` is what the member stands in, null when nothing is known of it; `findings` are those of that
+/// reading.
+AxDiagnostic valueFault(AxReaderWriter const& member, AxReaderWriter const* outer, std::string const& name,
+                        std::string const& value, bool isTaken, std::vector<AxDiagnostic> const& findings);
 
 /// Bytes of an item, cut short for a message.
 std::string shownItem(std::string_view source);

@@ -28,12 +28,16 @@ std::string rangeText(AxRange const& range)
 std::string rangeFault(AxReaderWriter const& rw)
 {
     AxKeyword const* const description = rw.description();
+    return description != nullptr ? rangeFault(rw, description->range) : std::string();
+}
+
+std::string rangeFault(AxReaderWriter const& rw, AxRange const& range)
+{
     double value = 0.0;
-    if (description == nullptr || !numberIn(rw, value))
+    if (!numberIn(rw, value))
     {
         return {};
     }
-    AxRange const& range = description->range;
     if (!std::isnan(value) && (!range.isBounded() || range.contains(value)))
     {
         return {};

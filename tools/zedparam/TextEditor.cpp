@@ -90,7 +90,8 @@ bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::s
     {
         return refuseAt(list, "no-value", "\"" + value + "\" is no value");
     }
-    if (path.rw != nullptr && !accepts(*path.rw, list.firstValue() ? list.firstValue() : list, list.head(), text))
+    if (path.rw != nullptr &&
+        !accepts(*path.rw, path.outer, list.firstValue() ? list.firstValue() : list, list.head(), text))
     {
         return false;
     }
@@ -172,8 +173,8 @@ bool TextEditor::insert(TextTree const& tree, TextPath const& path, std::string 
         return refuseAt(list, "no-value", "\"" + value + "\" is no value");
     }
     std::string const entry = map != nullptr ? namedValueText(*map, names.back(), text) : text;
-    if ((member != nullptr && !accepts(*member, list, names.back(), text)) ||
-        (map != nullptr && !accepts(*map, list, map->name().string().string(), entry)))
+    if ((member != nullptr && !accepts(*member, nullptr, list, names.back(), text)) ||
+        (map != nullptr && !accepts(*map, nullptr, list, map->name().string().string(), entry)))
     {
         return false;
     }
@@ -224,12 +225,13 @@ bool TextEditor::unset(std::string const& path)
 }
 
 /// Whether the member takes the value, and holds it to make sense.
-bool TextEditor::accepts(AxReaderWriter& member, TextItem place, std::string const& name, std::string const& value)
+bool TextEditor::accepts(AxReaderWriter& member, AxReaderWriter const* outer, TextItem place, std::string const& name,
+                         std::string const& value)
 {
     std::string list = "(";
     axAppendName(list, AxSymbolString(AxString(name)));
     bool const isTaken = myReading.readInto(member, list.append(" ").append(value).append(")"));
-    AxDiagnostic const fault = valueFault(member, name, value, isTaken, myReading.findings());
+    AxDiagnostic const fault = valueFault(member, outer, name, value, isTaken, myReading.findings());
     return fault.code.empty() || force() || refuseAt(place, fault.code, fault.text, fault.hint);
 }
 

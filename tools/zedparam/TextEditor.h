@@ -30,7 +30,8 @@ private:
 
     bool replaceValue(TextTree const& tree, TextPath const& path, std::string const& value);
     bool insert(TextTree const& tree, TextPath const& path, std::string const& value);
-    bool accepts(AxReaderWriter& member, TextItem place, std::string const& name, std::string const& value);
+    bool accepts(AxReaderWriter& member, AxReaderWriter const* outer, TextItem place, std::string const& name,
+                 std::string const& value);
     bool isKnown(TextPath const& path) const;
     bool refuseUnknown(TextPath const& path, TextItem list, AxReaderWriter const* rw, std::string const& name);
     bool apply(TextTree const& tree, std::vector<Patch> const& patches);

@@ -311,7 +311,7 @@ bool XmlEditor::accepts(Target const& target, AxReaderWriter* rw, AxReaderWriter
     Findings findings(Findings::Print::Never);
     bool const isTaken =
         rw->readText(list, AxFilename(file()), myContext.files, myContext.bindings) && findings.empty();
-    AxDiagnostic const fault = valueFault(*rw, target.last(), value, isTaken, findings.sorted());
+    AxDiagnostic const fault = valueFault(*rw, outer, target.last(), value, isTaken, findings.sorted());
     AxEnvValue const& place = target.attribute != nullptr ? *target.attribute : *target.owner;
     return fault.code.empty() || force() || refuseAt(place, fault.code, fault.text, fault.hint);
 }
