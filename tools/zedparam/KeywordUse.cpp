@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <memory>
 #include <set>
 
 #include "AxComponentDescriptor.h"
@@ -45,6 +46,7 @@ public:
     void take(AxSxpParameterDbEntry& entry, RecordWalk& walk)
     {
         std::size_t ordinal = 0;
+        myPlaces = Places(); // of this record
         walk.run(myPath, [&](RecordWalk const& at) { take({0.0, &entry, ordinal++}, at); });
     }
 
@@ -58,7 +60,9 @@ private:
         }
         KeywordUse& use = myUses[ownerOf(at)];
         unitOf(at, use.unit);
-        if (at.ownItem() == nullptr && !at.rw().isDue())
+        bool const isGiven =
+            at.ownItem() != nullptr || (at.rw().isDue() && (!isDueByItself(at) || myPlaces.of(at).line != 0));
+        if (!isGiven)
         {
             ++use.defaults;
             return;
@@ -80,6 +84,29 @@ private:
         same.first = same.count++ == 0 ? value : same.first;
     }
 
+    /// Whether a new record of that type gives the value already, so that it is written wherever it is left out.
+    bool isDueByItself(RecordWalk const& at)
+    {
+        std::string const type = at.record().parameterType().string();
+        auto const [found, isNew] = myDuePaths.try_emplace(type);
+        if (isNew)
+        {
+            std::unique_ptr<AxZedObjectParameters> const fresh(AxZedObjectParameters::createParameters(type.c_str()));
+            auto const note = [&paths = found->second](RecordWalk const& its)
+            {
+                if (its.rw().isDue())
+                {
+                    paths.insert(its.path());
+                }
+            };
+            if (fresh != nullptr)
+            {
+                RecordWalk(std::string(), *fresh).run(myPath, note);
+            }
+        }
+        return found->second.contains(at.path());
+    }
+
     /// Whether another record has the value from the same place.
     bool isRepeated(RecordWalk const& at)
     {
@@ -97,7 +124,9 @@ private:
 
     KeywordPath const& myPath;
     KeywordUses& myUses;
+    Places myPlaces;
     std::set<std::string> myPlacesInShared;
+    std::map<std::string, std::set<std::string>> myDuePaths; // in a new record, by its type
 };
 
 /// The value below which that part of the sorted ones lies.
