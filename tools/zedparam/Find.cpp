@@ -41,12 +41,12 @@ void reportFault(std::string const& expression, ExpressionFault const& fault)
                  static_cast<int>(fault.column), "^");
 }
 
-/// Tells of the keywords that nothing had; often they are misspelt.
-void reportUnknown(FindExpression const& expression)
+/// Tells of the keywords that nothing had; often they are misspelt. `who` was asked for them.
+void reportUnknown(std::vector<FindExpression::Path> const& paths, char const* who)
 {
-    for (FindExpression::Path const& path : expression.paths())
+    for (FindExpression::Path const& path : paths)
     {
-        if (path.wasFound)
+        if (path.wasFound || !path.wasAsked)
         {
             continue;
         }
@@ -62,9 +62,8 @@ void reportUnknown(FindExpression const& expression)
         std::string_view const nearest = axNearest(path.keywords.last(), candidates);
         bool const isMisspelt = !nearest.empty() && nearest != path.keywords.last();
         std::fprintf(stderr,
-                     isMisspelt ? "zedparam: no record has \"%s\"; did you mean \"%s\"?\n"
-                                : "zedparam: no record has \"%s\"\n",
-                     path.keywords.text().c_str(), std::string(nearest).c_str());
+                     isMisspelt ? "zedparam: no %s has \"%s\"; did you mean \"%s\"?\n" : "zedparam: no %s has \"%s\"\n",
+                     who, path.keywords.text().c_str(), std::string(nearest).c_str());
     }
 }
 
@@ -72,7 +71,7 @@ void reportUnknown(FindExpression const& expression)
 class Search
 {
 public:
-    Search(FindOptions const& options, FindExpression& expression, std::vector<KeywordPath> shown)
+    Search(FindOptions const& options, FindExpression& expression, std::vector<FindExpression::Path> shown)
         : myOptions(options), myExpression(expression), myShown(std::move(shown))
     {
     }
@@ -95,10 +94,24 @@ public:
             reportFault(myOptions.expression, myFault);
             return CouldNotRun;
         }
+        tellWhatIsOdd();
         return isComplete && myHasFound ? Fine : HasFindings;
     }
 
 private:
+    void tellWhatIsOdd() const
+    {
+        reportUnknown(myExpression.paths(), "record");
+        if (myHasFound && !myOptions.keywords.empty())
+        {
+            reportUnknown(myShown, "record that was found");
+        }
+        for (std::string const& line : myExpression.futile())
+        {
+            std::fprintf(stderr, "zedparam: %s\n", line.c_str());
+        }
+    }
+
     void ask(AxSxpParameterDbEntry const& entry, RecordWalk walk, Progress& progress)
     {
         if (!myFault.text.empty() || !myExpression.holds(entry, walk, myFault))
@@ -115,11 +128,13 @@ private:
     {
         Places places;
         Place place;
-        for (KeywordPath const& path : myShown)
+        for (FindExpression::Path& path : myShown)
         {
-            walk.run(path,
+            path.wasAsked = true;
+            walk.run(path.keywords,
                      [&](RecordWalk const& at)
                      {
+                         path.wasFound = true;
                          bool const isGiven = at.ownItem() != nullptr || at.rw().isDue();
                          place = place.line == 0 && isGiven && at.isInRecordsOwnFile() ? places.of(at) : place;
                      });
@@ -132,9 +147,9 @@ private:
         Place const place = placeOf(walk);
         std::string line = entry.objectType().string().string() + "  " + place.file + ":" + std::to_string(place.line) +
                            "  " + walk.record().name().string().string();
-        for (KeywordPath const& path : myShown)
+        for (FindExpression::Path const& path : myShown)
         {
-            walk.run(path, [&line](RecordWalk const& at) { appendValue(line, at); });
+            walk.run(path.keywords, [&line](RecordWalk const& at) { appendValue(line, at); });
         }
         std::printf("%s\n", line.c_str());
     }
@@ -160,9 +175,9 @@ private:
         place.write(myJson);
         myJson.member("name", walk.record().name().view());
         myJson.key("values").beginArray();
-        for (KeywordPath const& path : myShown)
+        for (FindExpression::Path const& path : myShown)
         {
-            walk.run(path, [this](RecordWalk const& at) { writeValue(at); });
+            walk.run(path.keywords, [this](RecordWalk const& at) { writeValue(at); });
         }
         myJson.endArray().endObject().flush();
     }
@@ -182,7 +197,7 @@ private:
 
     FindOptions const& myOptions;
     FindExpression& myExpression;
-    std::vector<KeywordPath> myShown;
+    std::vector<FindExpression::Path> myShown;
     ExpressionFault myFault;
     JsonWriter myJson;
     bool myHasFound = false;
@@ -197,12 +212,12 @@ int find(FindOptions const& options)
         reportFault(options.expression, fault);
         return CouldNotRun;
     }
-    std::vector<KeywordPath> shown;
+    std::vector<FindExpression::Path> shown;
     for (std::string const& keyword : options.keywords)
     {
         std::string why;
         shown.emplace_back();
-        if (!KeywordPath::parse(keyword, shown.back(), why))
+        if (!KeywordPath::parse(keyword, shown.back().keywords, why))
         {
             std::fprintf(stderr, "zedparam: %s\n", why.c_str());
             return CouldNotRun;
@@ -210,7 +225,7 @@ int find(FindOptions const& options)
     }
     if (shown.empty())
     {
-        std::ranges::transform(expression->paths(), std::back_inserter(shown), &FindExpression::Path::keywords);
+        shown = expression->paths();
     }
     Findings findings(Findings::Print::AtOnce);
     std::unique_ptr<Database> const database = Collection::openAny(options.database);
@@ -218,12 +233,7 @@ int find(FindOptions const& options)
     {
         return CouldNotRun;
     }
-    int const exitCode = Search(options, *expression, std::move(shown)).run(*database);
-    if (exitCode != CouldNotRun)
-    {
-        reportUnknown(*expression);
-    }
-    return exitCode;
+    return Search(options, *expression, std::move(shown)).run(*database);
 }
 } // namespace
 

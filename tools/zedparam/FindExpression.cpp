@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cctype>
 #include <numbers>
+#include <utility>
 
+#include "AxNumberText.h"
 #include "AxSxpParameterDbEntry.h"
 #include "AxZedObjectParameters.h"
 #include "Database.h"
@@ -93,7 +95,7 @@ bool FindExpression::holds(AxSxpParameterDbEntry const& entry, RecordWalk& walk,
     return holds(*myRoot, subject) && fault.text.empty();
 }
 
-bool FindExpression::holds(Node const& node, Subject& subject)
+bool FindExpression::holds(Node& node, Subject& subject)
 {
     auto const part = [&](NodePtr const& its) { return holds(*its, subject); };
     bool found = false;
@@ -107,6 +109,7 @@ bool FindExpression::holds(Node const& node, Subject& subject)
         return !part(node.parts.front());
     case Node::Kind::Exists:
     case Node::Kind::Specified:
+        myPaths[node.left.path].wasAsked = true;
         subject.walk.run(myPaths[node.left.path].keywords,
                          [&](RecordWalk const& at)
                          {
@@ -121,10 +124,16 @@ bool FindExpression::holds(Node const& node, Subject& subject)
     return compares(node, subject);
 }
 
-bool FindExpression::compares(Node const& node, Subject& subject)
+bool FindExpression::compares(Node& node, Subject& subject)
 {
     std::vector<Atom> const left = atoms(node.left, node.right.unit, node.right.column, subject);
     std::vector<Atom> const right = atoms(node.right, node.left.unit, node.left.column, subject);
+    bool const ranks = node.op != Operator::Equal && node.op != Operator::Unequal && node.op != Operator::Like;
+    auto const goTogether = [&](Atom const& a, Atom const& b)
+    {
+        return (a.isNumber && b.isNumber) || node.op == Operator::Like ||
+               (!ranks && axIsNumber(a.text) == axIsNumber(b.text));
+    };
     auto const isEqual = [](Atom const& a, Atom const& b)
     { return a.isNumber && b.isNumber ? a.number == b.number : a.text == b.text; };
     auto const holdsFor = [&](Atom const& a, Atom const& b)
@@ -147,9 +156,50 @@ bool FindExpression::compares(Node const& node, Subject& subject)
         }
         return false;
     };
+    for (auto const& [kinds, its] : {std::pair(&node.leftKinds, &left), std::pair(&node.rightKinds, &right)})
+    {
+        kinds->numbers = kinds->numbers || std::ranges::any_of(*its, &Atom::isNumber);
+        kinds->texts = kinds->texts || !std::ranges::all_of(*its, &Atom::isNumber);
+    }
+    auto const goesWithAny = [&](Atom const& a)
+    { return std::ranges::any_of(right, [&](Atom const& b) { return goTogether(a, b); }); };
+    node.wasComparable = node.wasComparable || std::ranges::any_of(left, goesWithAny);
     bool const holdsForAny = std::ranges::any_of(
         left, [&](Atom const& a) { return std::ranges::any_of(right, [&](Atom const& b) { return holdsFor(a, b); }); });
     return node.op == Operator::Unequal ? !holdsForAny && !left.empty() && !right.empty() : holdsForAny;
+}
+
+std::vector<std::string> FindExpression::futile() const
+{
+    std::vector<std::string> out;
+    appendFutile(*myRoot, out);
+    return out;
+}
+
+void FindExpression::appendFutile(Node const& node, std::vector<std::string>& out) const
+{
+    for (NodePtr const& part : node.parts)
+    {
+        appendFutile(*part, out);
+    }
+    bool const wasAsked = node.leftKinds.isAny() && node.rightKinds.isAny();
+    if (node.kind != Node::Kind::Compare || !wasAsked || node.wasComparable)
+    {
+        return;
+    }
+    bool const isRightToBlame = !node.rightKinds.numbers && node.right.kind != Operand::Kind::Literal;
+    bool const isText = isRightToBlame || !node.leftKinds.numbers;
+    out.push_back(shown(isRightToBlame ? node.right : node.left) +
+                  (isText ? " is no number in any record" : " is a number in every record") + ", unlike " +
+                  shown(isRightToBlame ? node.left : node.right));
+}
+
+std::string FindExpression::shown(Operand const& operand) const
+{
+    std::string const text = operand.kind == Operand::Kind::Literal     ? operand.literal.text
+                             : operand.kind == Operand::Kind::Attribute ? operand.attribute
+                                                                        : myPaths[operand.path].keywords.text();
+    return operand.kind == Operand::Kind::Literal && operand.literal.isNumber ? text : '"' + text + '"';
 }
 
 std::vector<Atom> FindExpression::atoms(Operand const& operand, Unit const* unit, std::size_t unitColumn,
@@ -168,6 +218,7 @@ std::vector<Atom> FindExpression::atoms(Operand const& operand, Unit const* unit
     }
     std::vector<Atom> found;
     Path& path = myPaths[operand.path];
+    path.wasAsked = true;
     subject.walk.run(path.keywords,
                      [&](RecordWalk const& at)
                      {

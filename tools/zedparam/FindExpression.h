@@ -30,14 +30,19 @@ public:
     /// Whether the record meets the condition. A unit that does not go with a value fills `fault` and gives false.
     bool holds(AxSxpParameterDbEntry const& entry, RecordWalk& walk, ExpressionFault& fault);
 
-    /// A path in the expression, and whether any record had it so far.
+    /// A path in the expression, and whether any record was asked for it and had it so far.
     struct Path
     {
         KeywordPath keywords;
+        bool wasAsked = false;
         bool wasFound = false;
     };
     /// In the order of the text, each once.
     std::vector<Path> const& paths() const { return myPaths; }
+
+    /// Of each comparison of a number with texts, or the other way round, in all records that were asked: why it never
+    /// holds.
+    std::vector<std::string> futile() const;
 
 private:
     friend class ExpressionParser;
@@ -73,6 +78,12 @@ private:
         std::size_t path = 0;
         std::string attribute{};
     };
+    struct Kinds
+    {
+        bool numbers = false;
+        bool texts = false;
+        bool isAny() const { return numbers || texts; }
+    };
     struct Node;
     using NodePtr = std::unique_ptr<Node>;
     struct Subject;
@@ -81,8 +92,10 @@ private:
 
     static Unit const theUnits[];
     static Unit const* unit(std::string_view name);
-    bool holds(Node const& node, Subject& subject);
-    bool compares(Node const& node, Subject& subject);
+    bool holds(Node& node, Subject& subject);
+    bool compares(Node& node, Subject& subject);
+    void appendFutile(Node const& node, std::vector<std::string>& out) const;
+    std::string shown(Operand const& operand) const;
     std::vector<Atom> atoms(Operand const& operand, Unit const* unit, std::size_t unitColumn, Subject& subject);
 
     NodePtr myRoot;

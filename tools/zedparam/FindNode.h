@@ -19,4 +19,8 @@ struct FindExpression::Node
     Operand left{};               ///< of the others
     Operator op = Operator::Equal;
     Operand right{};
+    /// What records had on either side up to now, and whether one and the other could be compared.
+    Kinds leftKinds{};
+    Kinds rightKinds{};
+    bool wasComparable = false;
 };
