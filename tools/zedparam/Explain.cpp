@@ -223,6 +223,6 @@ void addExplainCommand(CommandLine& line)
     line.add("explain", "What a keyword means, which types have it, and how a database uses it.",
              [options] { return options->database.empty() ? explain(*options) : explainUse(*options); })
         .required("KEYWORD", options->keyword, "The keyword, such as max-speed; with a database also a path")
-        .optional("DB", options->database, "A database file (.opd) to tell the use in")
+        .optional("DB", options->database, "A database file (.opd), or a collection (.params), to tell the use in")
         .flag("--json", options->json, "Print JSON; under \"types\" stands the default of each");
 }

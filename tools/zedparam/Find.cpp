@@ -241,7 +241,7 @@ void addFindCommand(CommandLine& line)
 {
     auto const options = std::make_shared<FindOptions>();
     line.add("find", "The records that meet a condition.", [options] { return find(*options); })
-        .required("DB", options->database, "The database file (.opd)")
+        .required("DB", options->database, "The database file (.opd), or a collection (.params)")
         .required("EXPRESSION", options->expression,
                   "The condition, such as 'max-speed > 60 km/h and parameter-type = \"ground-vehicle-param\"'")
         .optional("KEYWORD", options->keywords, "Values to show; none: those that the condition names")

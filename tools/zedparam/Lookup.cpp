@@ -62,7 +62,7 @@ void addLookupCommand(CommandLine& line)
     auto const options = std::make_shared<LookupOptions>();
     line.add("lookup", "Which entry answers an object type, and from which file.",
              [options] { return lookup(*options); })
-        .required("DB", options->database, "The database file (.opd)")
+        .required("DB", options->database, "The database file (.opd), or a collection (.params)")
         .required("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")
         .flag("--json", options->json, "Print JSON");
 }

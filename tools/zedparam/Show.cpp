@@ -246,7 +246,7 @@ void addShowCommand(CommandLine& line)
     auto const options = std::make_shared<ShowOptions>();
     line.add("show", "The record that answers an object type, or some of its values.",
              [options] { return show(*options); })
-        .required("DB", options->database, "The database file (.opd)")
+        .required("DB", options->database, "The database file (.opd), or a collection (.params)")
         .required("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")
         .optional("KEYWORD", options->keywords,
                   "Values to show, such as max-speed or systems/main-gun/reload-time; none: the whole record")

@@ -315,7 +315,7 @@ void addWhyCommand(CommandLine& line)
     auto const options = std::make_shared<WhyOptions>();
     line.add("why", "Why an entry answers an object type, and why the others do not.",
              [options] { return why(*options); })
-        .required("DB", options->database, "The database file (.opd)")
+        .required("DB", options->database, "The database file (.opd), or a collection (.params)")
         .required("TYPE", options->type, "The object type, such as 1:1:1:225:1:1:3:0")
         .flag("--json", options->json, "Print JSON")
         .flag("--all", options->all, "List every entry, also those that differ early");
