@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -63,6 +64,13 @@ int plot(PlotOptions const& options)
         {
             return CouldNotRun;
         }
+    }
+    auto const isMeant = [&](std::unique_ptr<TableFile> const& table) { return table->isNamed(options.table); };
+    if (std::ranges::none_of(tables, isMeant))
+    {
+        std::fprintf(stderr, "zedparam: --table: %s is one table, \"%s\", not \"%s\"\n", options.files.front().c_str(),
+                     tables.front()->name().c_str(), options.table.c_str());
+        return CouldNotRun;
     }
     Plot const drawing = makePlot(tables);
     if (drawing.panels.empty())

@@ -187,6 +187,12 @@ int probability(ProbabilityOptions const& options)
     {
         return CouldNotRun;
     }
+    if (!table->isNamed(options.table))
+    {
+        std::fprintf(stderr, "zedparam: --table: %s is one table, \"%s\", not \"%s\"\n", options.file.c_str(),
+                     table->name().c_str(), options.table.c_str());
+        return CouldNotRun;
+    }
     std::string const missing = missingOptions(table->kind(), question);
     std::string const idle = idleOptions(table->kind(), question);
     if (!missing.empty() || !idle.empty())

@@ -102,15 +102,15 @@ void findTables(AxlObj const& list, std::string const& name, std::vector<FoundTa
     }
 }
 
-bool hasName(FoundTable const& table, std::string_view name)
+bool hasName(std::string_view table, std::string_view name)
 {
-    return table.name == name || table.name.ends_with("/" + std::string(name));
+    return table == name || table.ends_with("/" + std::string(name));
 }
 
 /// Null, after a line, when none or more than one is meant.
 FoundTable const* chosenOf(std::vector<FoundTable> const& tables, std::string const& file, std::string const& name)
 {
-    auto const meant = [&](FoundTable const& table) { return name.empty() || hasName(table, name); };
+    auto const meant = [&](FoundTable const& table) { return name.empty() || hasName(table.name, name); };
     auto const first = std::ranges::find_if(tables, meant);
     if (first != tables.end() && std::find_if(first + 1, tables.end(), meant) == tables.end())
     {
@@ -185,6 +185,11 @@ std::unique_ptr<TableFile> TableFile::open(std::string const& file, std::string 
     result->myTable->getSelf(withoutType(*chosen->text), {AxFilename(file).directory()},
                              AxReaderWriter::nullVariableReference());
     return result;
+}
+
+bool TableFile::isNamed(std::string_view name) const
+{
+    return name.empty() || hasName(myName, name);
 }
 
 AxlObj const& itemText(AxlObj const& list, std::string_view head)

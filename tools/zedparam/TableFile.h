@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "AxRwList.h"
@@ -38,6 +39,9 @@ public:
     }
     /// The list, whose items are the table's elements.
     AxlObj const& text() const { return *myText; }
+    /// Whether it is the one that a user calls so; any is for an empty name. A file that is one table as a whole may be
+    /// opened by any name.
+    bool isNamed(std::string_view name) const;
 
 private:
     TableFile(std::string const& file) : myFile(file), mySource(file) {}
