@@ -12,21 +12,27 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace filesystem = boost::filesystem;
 
 namespace
 {
-void reportUnreadable(std::string const& directory, std::string const& reason)
+void report(char const* code, std::string text)
 {
     AxDiagnostic fault;
     fault.severity = AxSeverity::Warning;
-    fault.code = "unreadable-directory";
-    fault.text = "cannot read the directory " + directory + ": " + reason;
+    fault.code = code;
+    fault.text = std::move(text);
     AxDiagnostics::report(std::move(fault));
 }
 
-/// The names below `directory`, relative to it; links to directories are not followed.
+void reportUnreadable(std::string const& directory, std::string const& reason)
+{
+    report("unreadable-directory", "cannot read the directory " + directory + ": " + reason);
+}
+
+/// The names below `directory`, relative to it; links to directories are not followed, those to nothing are told.
 std::vector<std::string> filesBelow(std::string const& root, std::string const& ending)
 {
     std::vector<std::string> found;
@@ -46,9 +52,17 @@ std::vector<std::string> filesBelow(std::string const& root, std::string const& 
             {
                 pending.push_back(name + '/');
             }
-            else if (name.ends_with(ending) && entry->status(ignored).type() == filesystem::regular_file)
+            else if (name.ends_with(ending))
             {
-                found.push_back(name);
+                filesystem::file_type const type = entry->status(ignored).type();
+                if (type == filesystem::regular_file)
+                {
+                    found.push_back(name);
+                }
+                else if (type == filesystem::file_not_found)
+                {
+                    report("missing-file", "cannot read " + entry->path().string() + ": the link leads nowhere");
+                }
             }
         }
         if (error)

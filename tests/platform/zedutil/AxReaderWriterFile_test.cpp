@@ -403,15 +403,16 @@ TEST(AxReaderWriterFile, FindsFilesByExtensionInTheSameOrderEverywhere)
         folder.write(name, "");
     }
     ASSERT_EQ(::symlink(folder.file("b").c_str(), folder.file("link").c_str()), 0);
+    ASSERT_EQ(::symlink("gone.entity", folder.file("b/lost.entity").c_str()), 0);
+    ReportedFindings findings;
     std::string found;
     for (AxFilename const& file : AxReaderWriterFile::findFilesByExtension(AxFilename(folder.path()), ".entity"))
     {
         found += file.native().substr(folder.path().size() + 1) + ' ';
     }
     EXPECT_EQ(found, ".entity a-x/q.entity a.entity b/c/1.entity b/z.entity ");
-    ReportedFindings findings;
     EXPECT_TRUE(AxReaderWriterFile::findFilesByExtension(AxFilename(folder.file("none")), "entity").empty());
-    EXPECT_EQ(findings.codes(), "unreadable-directory@0:0");
+    EXPECT_EQ(findings.codes(), "missing-file@0:0 unreadable-directory@0:0");
 }
 
 TEST(AxReaderWriterFile, OpensTheFirstRegularFileAlongThePaths)
