@@ -135,14 +135,28 @@ bool AxReaderWriter::getVariableReference(AxEnvironmentPtr const&, AxEnvValuePtr
 bool AxReaderWriter::toXml(AxFilename const& file) const
 {
     bool isWritten = false;
-    AxTreeForm::guarded("write-failed", nullptr, [&] { isWritten = AxEnvXMLWriter().writeFile(treeOf(*this), file); });
+    AxTreeForm::guarded("write-failed", nullptr,
+                        [&]
+                        {
+                            AxEnvironmentPtr const tree = treeOf(*this);
+                            // What has no root could not be made, and was told of then.
+                            isWritten = tree->root() && AxEnvXMLWriter().writeFile(tree, file);
+                        });
     return isWritten;
 }
 
 AxString AxReaderWriter::toXml() const
 {
     std::string text;
-    AxTreeForm::guarded("write-failed", nullptr, [&] { AxEnvXMLWriter().writeText(treeOf(*this), text); });
+    AxTreeForm::guarded("write-failed", nullptr,
+                        [&]
+                        {
+                            AxEnvironmentPtr const tree = treeOf(*this);
+                            if (tree->root())
+                            {
+                                AxEnvXMLWriter().writeText(tree, text);
+                            }
+                        });
     return AxString(std::move(text));
 }
 

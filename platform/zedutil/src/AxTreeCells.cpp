@@ -245,7 +245,7 @@ Cells itemsOf(AxEnvObject const& object, AxReaderWriter const* guide)
     for (AxEnvValuePtr const& child : object.children())
     {
         AxlObjPtr const item = childItem(*child, object, guide);
-        if (item.nil())
+        if (item->isEof())
         {
             continue;
         }
@@ -278,7 +278,7 @@ AxlObjPtr textItem(AxEnvObject const& object)
     }
     Cells items;
     appendParsed(items, text, placeOf(object));
-    return items.size() == 1 ? items.front() : AxlObjPtr();
+    return items.size() == 1 ? items.front() : axcEof();
 }
 } // namespace
 
@@ -425,7 +425,7 @@ bool AxTreeCells::hasItem(AxEnvValue const& child, AxEnvObject const& parent, Ax
     std::string const& tag = object->type().string();
     if (tag == theTextTag)
     {
-        return !textItem(*object).nil();
+        return !textItem(*object)->isEof();
     }
     if (isPartOfValue(parent.type().string(), tag))
     {
@@ -450,7 +450,7 @@ AxlObjPtr AxTreeCells::childItem(AxEnvValue const& child, AxEnvObject const& par
 {
     if (!hasItem(child, parent, guide))
     {
-        return {};
+        return axcEof();
     }
     auto const& object = static_cast<AxEnvObject const&>(child);
     if (object.type() == theTextTag)

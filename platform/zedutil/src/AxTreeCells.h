@@ -24,7 +24,8 @@ AxlObjPtr attributeItem(AxEnvObject const& object, AxEnvObject::Attribute const&
                         AxReaderWriter const* member);
 AxlObjPtr attributeItem(AxSymbolString name, std::string_view text, AxlCellPool::Place place,
                         AxReaderWriter const* member);
-/// The item of a child of `parent`; nil for one that has none: text, comments, unknown elements that no word names.
+/// The item of a child of `parent`; the end of text for one that has none: text, comments, unknown elements that no
+/// word names.
 AxlObjPtr childItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide);
 /// Whether that child has an item, which is told without making it.
 bool hasItem(AxEnvValue const& child, AxEnvObject const& parent, AxReaderWriter const* guide);

@@ -613,7 +613,7 @@ void AxXmlReader::offerItems(Record& record)
         if (item.place == AxRegistryTable::none)
         {
             makeCell(record, item);
-            item.isTaken = !item.cell.nil() && offer(record, item, index);
+            item.isTaken = !item.cell->isEof() && offer(record, item, index);
         }
     }
 }
@@ -667,7 +667,7 @@ void AxXmlReader::readAttribute(Record& record, Item& item)
 void AxXmlReader::readCell(Record& record, Item& item)
 {
     makeCell(record, item);
-    if (item.cell.nil() || (record.ownItem() && !item.isOffered && offer(record, item, 1)))
+    if (item.cell->isEof() || (record.ownItem() && !item.isOffered && offer(record, item, 1)))
     {
         return;
     }
@@ -695,7 +695,7 @@ void AxXmlReader::readChild(Record& record, Item& item)
     }
     readCell(record, item);
     bool const isText = tag == AxTreeCells::theTextTag;
-    if (!member && item.cell.nil())
+    if (!member && item.cell->isEof())
     {
         noteOdd(record.element);
     }

@@ -235,6 +235,17 @@ TEST(AxReaderWriterTree, FaultsAreReportedAtTheirLinesAndNeighboursAreRead)
     machine.label = AxString(std::string("a\x01"));
     machine.label.setValueSpecified(true, false);
     EXPECT_EQ(machine.toXml(), "");
+
+    std::string deep = "x"; // too deep for the text to be read that the tree is made of
+    for (int i = 0; i < 1100; ++i)
+    {
+        deep = '(' + deep + ')';
+    }
+    machine.keepItem({}, deep);
+    findings.all.clear();
+    EXPECT_EQ(machine.toXml(), "");
+    EXPECT_FALSE(machine.toXml(AxFilename("no.xml")));
+    EXPECT_EQ(findings.codes(), "write-failed@0 write-failed@0");
 }
 
 TEST(AxReaderWriterTree, FilesHoldWhatTextsHold)
