@@ -21,17 +21,26 @@ Creators& creators()
 /// Null, after a report at `place`, for a type without a creator.
 AxCommModelDescriptor* create(AxString const& type, AxlObj const* place)
 {
+    char const* const stated = "could not create signature propagator descriptor\n";
     auto const found = creators().find(type);
-    if (AxCommModelDescriptor* const made = found != creators().end() && found->second ? found->second() : nullptr)
+    try
     {
-        return made;
+        if (AxCommModelDescriptor* const made = found != creators().end() && found->second ? found->second() : nullptr)
+        {
+            return made;
+        }
+    }
+    catch (std::exception const& error)
+    {
+        AxDiagnostics::reportStated(AxTypeItem::creationFailed(place, type.string(), error.what()), stated);
+        return nullptr;
     }
     std::vector<std::string_view> known;
     for (auto const& [name, creator] : creators())
     {
         known.push_back(name.string());
     }
-    axReportUnknownType(type.string(), place, "could not create signature propagator descriptor\n", known);
+    axReportUnknownType(type.string(), place, stated, known);
     return nullptr;
 }
 } // namespace

@@ -50,11 +50,15 @@ AxlObj const* placeOf(AxlObj const* typeCell, AxlObjPtr const& expression)
     return typeCell->line() != 0 ? typeCell : expression.get();
 }
 
+AxDiagnostic creationFailed(AxlObj const* cell, std::string_view type, std::string_view reason)
+{
+    return axFaultAt(AxSeverity::Error, "creation-failed", cell ? cell : AxlObj::nilCell(),
+                     "cannot create an element of type \"" + std::string(type) + "\": " + std::string(reason));
+}
+
 void reportCreationFailed(AxlObj const* cell, std::string_view type, std::string_view reason)
 {
-    AxDiagnostics::report(
-        axFaultAt(AxSeverity::Error, "creation-failed", cell ? cell : AxlObj::nilCell(),
-                  "cannot create an element of type \"" + std::string(type) + "\": " + std::string(reason)));
+    AxDiagnostics::report(creationFailed(cell, type, reason));
 }
 
 Scope::Scope(AxlObj const* cell) : myOuter(theCell)

@@ -4,6 +4,7 @@
 #include <memory>
 #include <type_traits>
 
+#include "AxDiagnostic.h"
 #include "AxReaderWriter.h"
 
 /// The item that starts the text of a descriptor and tells its class: `(head "type")`.
@@ -17,7 +18,8 @@ void check(AxlObj const* item, char const* head);
 AxlObj const* typeCell(AxlObjPtr const& expression);
 /// Where a fault of the type is reported: its cell, or the expression when that has no place.
 AxlObj const* placeOf(AxlObj const* typeCell, AxlObjPtr const& expression);
-/// Reports that the creator of `type` threw; `cell` may be null.
+/// That the creator of `type` threw; `cell` may be null.
+AxDiagnostic creationFailed(AxlObj const* cell, std::string_view type, std::string_view reason);
 void reportCreationFailed(AxlObj const* cell, std::string_view type, std::string_view reason);
 /// The object that `make` answers, after `use` was done with it. Null when `make` answers null, and, after a report at
 /// `cell`, when one of them throws.

@@ -32,6 +32,20 @@ TEST_F(AxCommModelDescriptorTest, GivesOneWarningForAnUnknownType)
     EXPECT_NE(list.writtenText().find("modle"), std::string::npos);
 }
 
+TEST_F(AxCommModelDescriptorTest, GivesTheSameWarningForATypeThatCannotBeMade)
+{
+    AxCommModelDescriptor::addCreatorFcn("throwing-descriptor",
+                                         []() -> AxCommModelDescriptor* { throw std::runtime_error("no radio"); });
+    AxCommModelDescriptorList list("comm-models", nullptr);
+    char const* const text = "(comm-models\n  (vhf (comm-model-descriptor-type \"throwing-descriptor\")))\n";
+    readFrom(list, text);
+    EXPECT_EQ(warnings.text(), "could not create signature propagator descriptor\n");
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].code, "creation-failed");
+    EXPECT_NE(findings[0].text.find("no radio"), std::string::npos);
+    EXPECT_EQ(list.writtenText(), text);
+}
+
 TEST_F(AxCommModelDescriptorTest, TakesNewTypes)
 {
     AxCommModelDescriptor::addCreatorFcn("test-model-descriptor", &AxCommModelDescriptor::creator);
