@@ -1,9 +1,12 @@
 #include "AxAmmoSelectTable.h"
 
+#include "AxIsForeign.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxTypeLookup.h"
 #include "axTryNew.h"
+
+#include <memory>
 
 static AxTypeEntry<AxAmmoSelectTable> const ammoSelectTableEntry;
 
@@ -78,9 +81,14 @@ AxListItem* AxAmmoSelectTable::lookupAmmoSelectEntry(AxEntityType const& target)
 
 AxlObjPtr AxAmmoSelectTable::getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings)
 {
-    auto* const entry = new AxAmmoSelectEntry;
+    auto entry = std::make_unique<AxAmmoSelectEntry>();
+    if (axIsForeign(item.get(), *entry))
+    {
+        keepElement(item.get());
+        return item;
+    }
     entry->getSelf(item, files, bindings);
-    addAmmoSelectEntry(entry);
+    addAmmoSelectEntry(entry.release());
     return item;
 }
 

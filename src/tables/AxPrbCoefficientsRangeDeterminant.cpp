@@ -4,8 +4,8 @@ AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxSymbolStr
                                                                      AxReaderWriterRegistry* registry)
     : AxRecordOf(name, registry)
 {
-    myCoefficientList.setValueSpecified(
-        true, true); // its keyword tells the kind of determinant, so it is written even when empty
+    // Its keyword tells the kind of determinant, so it is written even when empty.
+    myCoefficientList.setValueSpecified(true, true);
 }
 
 AxPrbCoefficientsRangeDeterminant::AxPrbCoefficientsRangeDeterminant(AxKeyword const& keyword,

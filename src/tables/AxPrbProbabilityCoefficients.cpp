@@ -70,8 +70,10 @@ void AxPrbProbabilityCoefficients::setNumCoefficients(int number)
 
 void AxPrbProbabilityCoefficients::setCoefficients(int number, double const* coefficients)
 {
-    setNumCoefficients(coefficients ? number : 0);
-    std::copy_n(coefficients, myCoefficients.size(), myCoefficients.begin());
+    // The caller has them, so no number in a file can ask for more memory than there is: no limit is needed.
+    myCoefficients = std::vector<double>(coefficients, coefficients + (coefficients ? std::max(number, 0) : 0));
+    setFlag(Specified, true);
+    valueAssigned();
 }
 
 bool AxPrbProbabilityCoefficients::isInSet(int index) const

@@ -3,8 +3,8 @@
 AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxSymbolString name, AxReaderWriterRegistry* registry)
     : AxRecordOf(name, registry)
 {
-    myRangeList.setValueSpecified(true,
-                                  true); // its keyword tells the kind of determinant, so it is written even when empty
+    // Its keyword tells the kind of determinant, so it is written even when empty.
+    myRangeList.setValueSpecified(true, true);
 }
 
 AxPrbTableRangeDeterminant::AxPrbTableRangeDeterminant(AxKeyword const& keyword, AxReaderWriterRegistry* registry)

@@ -1,8 +1,11 @@
 #include "AxSimMunitionList.h"
 
+#include "AxIsForeign.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "axTryNew.h"
+
+#include <memory>
 
 static AxTypeEntry<AxSimMunitionList> const simMunitionListEntry;
 
@@ -45,14 +48,19 @@ AxSimMunition* AxSimMunitionList::lookupSimMunition(AxString const& name) const
 
 AxlObjPtr AxSimMunitionList::getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings)
 {
-    auto* const munition = axTryNew<AxSimMunition>(elementWord(), nullptr);
+    std::unique_ptr<AxSimMunition> munition(axTryNew<AxSimMunition>(elementWord(), nullptr));
     if (!munition)
     {
         AxWarn("AxSimMunition allocation failed\n");
         return item;
     }
+    if (axIsForeign(item.get(), *munition))
+    {
+        keepElement(item.get());
+        return item;
+    }
     munition->getSelf(item, files, bindings);
-    addSimMunition(munition);
+    addSimMunition(munition.release());
     return item;
 }
 

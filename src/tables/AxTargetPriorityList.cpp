@@ -1,9 +1,12 @@
 #include "AxTargetPriorityList.h"
 
+#include "AxIsForeign.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxTypeLookup.h"
 #include "axTryNew.h"
+
+#include <memory>
 
 static AxTypeEntry<AxTargetPriorityList> const targetPriorityListEntry;
 
@@ -86,9 +89,14 @@ AxListItem* AxTargetPriorityList::lookupTargetPriorityEntry(AxEntityType const& 
 AxlObjPtr AxTargetPriorityList::getData(AxlObjPtr const& item, AxFilenameList const& files,
                                         AxBindingsList const& bindings)
 {
-    auto* const entry = new AxTargetPriorityEntry;
+    auto entry = std::make_unique<AxTargetPriorityEntry>();
+    if (axIsForeign(item.get(), *entry))
+    {
+        keepElement(item.get());
+        return item;
+    }
     entry->getSelf(item, files, bindings);
-    addTargetPriorityEntry(entry);
+    addTargetPriorityEntry(entry.release());
     return item;
 }
 

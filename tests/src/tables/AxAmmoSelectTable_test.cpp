@@ -1,6 +1,7 @@
 #include "AxAmmoSelectTable.h"
 
 #include "AxSinkScope.h"
+#include "AxTargetPriorityList.h"
 #include "platform/zedutil/Reading.h"
 
 #include <gtest/gtest.h>
@@ -47,6 +48,25 @@ TEST(AxAmmoSelectTable, MissAnswersTheEmptyListOfTheTable)
     EXPECT_EQ(matched.kind(), 9);
     EXPECT_EQ(verbose.text(), "No munition list found for 1 2 225 1 1 1 0\nNo munition list found for 0 0 0 0 0 0 0\n");
     EXPECT_EQ(warnings.text(), "");
+}
+
+TEST(AxAmmoSelectTable, KeepsElementsOfKindsThatItDoesNotKnow)
+{
+    AxAmmoSelectTable table("t", nullptr);
+    AxTargetPriorityList priorities("t", nullptr);
+    AxSimMunitionList munitions("t", nullptr);
+    for (AxRwList* const list : std::initializer_list<AxRwList*>{&table, &priorities, &munitions})
+    {
+        AxSinkScope warnings(AxWarn);
+        char const* const text = "(t\n  (comment)\n  (future (x 1) (y)))\n";
+        readFrom(*list, text);
+        EXPECT_EQ(list->count(), 0);
+        EXPECT_EQ(list->writtenText(), text);
+        EXPECT_NE(warnings.text().find("2:4: warning: unknown element \"comment\""), std::string::npos)
+            << warnings.text();
+    }
+    readFrom(table, "(t (any-word (target-type 1 1 1 1 1 1 1)) (ammo-select) (other $all))");
+    EXPECT_EQ(table.count(), 3);
 }
 
 TEST(AxAmmoSelectTable, CopiesAndRoundTrips)

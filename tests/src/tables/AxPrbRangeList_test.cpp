@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
 
 namespace
 {
@@ -76,6 +77,32 @@ TEST(AxPrbRangeList, LaterRowOfARangeReplacesTheEarlier)
         AxPrbRangeTableEntry out;
         EXPECT_TRUE(list.getProbabilities(range, &out));
         EXPECT_EQ(out.probability("hit"), 0.75);
+    }
+}
+
+TEST(AxPrbRangeList, ReadingAnswersAsAddingOneByOne)
+{
+    unsigned state = 3;
+    auto const below = [&state](unsigned limit)
+    {
+        state = state * 1103515245U + 12345U;
+        return (state >> 16U) % limit;
+    };
+    for (int round = 0; round < 50; ++round)
+    {
+        AxPrbRangeList added("range-list", nullptr);
+        std::string text = "(range-list ";
+        for (unsigned i = below(12); i != 0; --i)
+        {
+            double const range = below(8);
+            double const hit = below(5) / 4.0;
+            added.addTableEntry(row(range, hit));
+            text += "(range-entry " + std::to_string(range) + " (hit " + std::to_string(hit) + "))";
+        }
+        AxSinkScope notes(AxInfo);
+        AxPrbRangeList list("range-list", nullptr);
+        readFrom(list, text + ')');
+        EXPECT_EQ(list.writtenText(true), added.writtenText(true)) << text;
     }
 }
 

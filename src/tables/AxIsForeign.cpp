@@ -1,0 +1,25 @@
+#include "AxIsForeign.h"
+
+#include "AxFaultAt.h"
+#include "AxReaderWriter.h"
+#include "AxlObj.h"
+
+bool axIsForeign(AxlObj const* element, AxReaderWriter& entry)
+{
+    AxlObj const* const head = element->car();
+    if (head->text() == entry.AxReaderWriter::name().view() || (head->isString() && head->text().empty()))
+    {
+        return false;
+    }
+    for (AxlObj const* items = element->cdr(); items->isPair(); items = items->cdr())
+    {
+        AxSymbolString const keyword = items->car()->car()->symbol();
+        if (!items->car()->isPair() || (!keyword.isNull() && entry.registry()->find(keyword)))
+        {
+            return false; // an item, or a reference that stands for all of them
+        }
+    }
+    AxDiagnostics::report(
+        axFaultAt(AxSeverity::Warning, "unknown-element", head, "unknown element \"" + head->pname().string() + '"'));
+    return true;
+}
