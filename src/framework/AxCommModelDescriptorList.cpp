@@ -46,6 +46,10 @@ AxListItem* AxCommModelDescriptorList::lookupCommModelDescriptorItem(AxString co
 AxlObjPtr AxCommModelDescriptorList::getData(AxlObjPtr const& item, AxFilenameList const& files,
                                              AxBindingsList const& bindings)
 {
+    if (keepNameless(item.get()))
+    {
+        return item;
+    }
     if (AxCommModelDescriptor* const made = AxCommModelDescriptor::createCommModelDescriptor(item, files, bindings))
     {
         addCommModelDescriptor(made);

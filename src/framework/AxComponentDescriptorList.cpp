@@ -102,6 +102,10 @@ AxListItem* AxComponentDescriptorList::lookupComponentDescriptorItem(AxString co
 AxlObjPtr AxComponentDescriptorList::getData(AxlObjPtr const& item, AxFilenameList const& files,
                                              AxBindingsList const& bindings)
 {
+    if (keepNameless(item.get()))
+    {
+        return item;
+    }
     if (AxComponentDescriptor* const made = AxComponentDescriptor::createComponentDescriptor(item, files, bindings))
     {
         addComponentDescriptor(made);

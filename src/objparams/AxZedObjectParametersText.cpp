@@ -175,6 +175,11 @@ void AxZedObjectParameters::preGetSelf()
 void AxZedObjectParameters::getSelf(AxlObjPtr const& expression, AxFilenameList const& files,
                                     AxBindingsList const& bindings)
 {
+    if (expression->car()->isPair())
+    {
+        getSelf(AxReadFrame::named(expression, false), files, bindings);
+        return;
+    }
     std::vector<std::unique_ptr<AxRwVariableBindings>> own;
     for (AxlObj const* rest = expression->cdr(); rest->isPair(); rest = rest->cdr())
     {
@@ -343,7 +348,21 @@ bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& b
     {
         return false;
     }
-    if (head == extensionHead)
+    constexpr std::size_t noPlace = 3;
+    std::size_t const place = head == extensionHead    ? 0
+                              : head == objectTypeHead ? 1
+                              : head == matchTypeHead  ? 2
+                                                       : noPlace;
+    AxReadFrame* const frame = AxReadFrame::innermost;
+    // These are no members; behind the members there is room to note them.
+    if (place != noPlace && frame && &frame->record == this && frame->markSeen(registry()->size() + place))
+    {
+        AxDiagnostic again = located(item, "repeated-keyword",
+                                     '"' + head.string().string() + "\" is given again; the later value counts");
+        again.severity = AxSeverity::Warning;
+        AxDiagnostics::report(std::move(again));
+    }
+    if (place == 0)
     {
         myExtensionItem = AxlObjPtr(item);
         return true;

@@ -4,6 +4,7 @@
 #include "AxExtFileInputStream.h"
 #include "AxParameterDbFiles.h"
 #include "AxPlainScanner.h"
+#include "AxReadFrame.h"
 #include "AxReaderWriterFactory.h"
 #include "AxlFunctions.h"
 #include "AxlSyntaxError.h"
@@ -195,8 +196,14 @@ void AxSxpParameterDbFileData::takeVariables(AxlObj const* item, AxFilenameList 
 void AxSxpParameterDbFileData::getSelf(AxlObjPtr const& expression, AxFilenameList const& files,
                                        AxBindingsList const& bindings)
 {
+    if (expression->car()->isPair())
+    {
+        getSelf(AxReadFrame::named(expression, false), files, bindings);
+        return;
+    }
     myVariableBindings.reset();
     std::vector<AxlObj const*> others;
+    bool hasVariables = false;
     for (AxlObj const* rest = expression->cdr(); rest->isPair(); rest = rest->cdr())
     {
         if (!definesVariables(rest->car()))
@@ -205,8 +212,9 @@ void AxSxpParameterDbFileData::getSelf(AxlObjPtr const& expression, AxFilenameLi
             continue;
         }
         takeVariables(rest->car(), files, bindings);
+        hasVariables = true;
     }
-    if (myVariableBindings.empty())
+    if (!hasVariables)
     {
         AxRecordOf::getSelf(expression, files, bindings);
         return;

@@ -56,6 +56,10 @@ AxListItem* AxComponentSystemDescriptorList::lookupComponentSystemDescriptorItem
 AxlObjPtr AxComponentSystemDescriptorList::getData(AxlObjPtr const& item, AxFilenameList const& files,
                                                    AxBindingsList const& bindings)
 {
+    if (keepNameless(item.get()))
+    {
+        return item;
+    }
     auto descriptor = std::make_unique<AxComponentSystemDescriptor>(item->car()->symbol(), nullptr);
     descriptor->getSelf(item, files, bindings);
     addComponentSystemDescriptor(descriptor.release());

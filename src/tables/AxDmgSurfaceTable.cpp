@@ -85,6 +85,10 @@ bool AxDmgSurfaceTable::removeSurfaceEntry(AxDmgSurfaceEntry* entry)
 
 AxlObjPtr AxDmgSurfaceTable::getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings)
 {
+    if (keepNameless(item.get()))
+    {
+        return item;
+    }
     AxSymbolString const surface = headName(item);
     if (lookupSurfaceEntry(surface))
     {

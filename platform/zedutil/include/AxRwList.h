@@ -88,6 +88,9 @@ protected:
 
     /// To be called by a derived `getData` that could make no element: the item is kept and written back.
     void keepElement(AxlObj const* item);
+    /// For a derived `getData` that names elements by their heads: reports and keeps an item whose head is no name.
+    /// False when it is one.
+    bool keepNameless(AxlObj const* item);
     AxListItem* itemOf(AxReaderWriter const* rw) const;
     AxListItem* itemOf(AxSymbolString name) const;
     /// Replaces the elements by what `items` hold.

@@ -110,9 +110,12 @@ public:
     }
     AxlObjPtr getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings) override
     {
-        auto element = std::make_unique<T>(headName(item), nullptr);
-        element->getSelf(item, files, bindings);
-        AxRwList::add(element.release());
+        if (!keepNameless(item.get()))
+        {
+            auto element = std::make_unique<T>(headName(item), nullptr);
+            element->getSelf(item, files, bindings);
+            AxRwList::add(element.release());
+        }
         return item;
     }
     /// The tag of an element with an "s" behind it; that of any list when elements have the tag of any record.

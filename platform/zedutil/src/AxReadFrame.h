@@ -36,6 +36,12 @@ struct AxReadFrame
     static std::size_t depth();
     /// Says that the list that is being read went beyond a limit.
     static void reportLimit(char const* code, std::string text);
+    /// Says that `head` stands where a name should.
+    static void reportBadName(AxlObj const* head);
+    /// What an expression that begins with a list is read as, which is reported: that list is an item behind an empty
+    /// name, as it will be when it was written. In a record it is the second, since there are classes whose first item
+    /// is known by its place.
+    static AxlObjPtr named(AxlObjPtr const& expression, bool isList);
 
     /// The elements of a long keyed list as they were when it had changed `changeCount` times.
     struct Index

@@ -9,6 +9,7 @@
 #include "AxRwList.h"
 #include "AxTextReader.h"
 #include "AxTreeCells.h"
+#include "AxlCellPool.h"
 #include "AxlFunctions.h"
 #include "AxlInputStream.h"
 #include "AxlPrint.h"
@@ -153,8 +154,34 @@ void AxReadFrame::reportLimit(char const* code, std::string text)
     AxDiagnostics::report(diagnostic(AxSeverity::Error, code, ourItem, std::move(text)));
 }
 
+void AxReadFrame::reportBadName(AxlObj const* head)
+{
+    AxDiagnostics::report(diagnostic(AxSeverity::Warning, "bad-name", head, "expected a name, found " + found(head)));
+}
+
+AxlObjPtr AxReadFrame::named(AxlObjPtr const& expression, bool isList)
+{
+    AxlObj const* const head = expression->car();
+    reportBadName(head);
+    AxlCellPool::Place const place{expression->line(), expression->column()};
+    auto const joined = [place](AxlObj const* first, AxlObjPtr const& rest) {
+        return AxlCellPool::adopt(
+            AxlCellPool::newPair(AxlCellPool::share(first), AxlCellPool::share(rest.get()), place));
+    };
+    AxlObj const* const items = expression->cdr();
+    bool const isSecond = !isList && items->isPair();
+    AxlObjPtr const whole =
+        isSecond ? joined(items->car(), joined(head, AxlObjPtr(items->cdr()))) : joined(head, AxlObjPtr(items));
+    return joined(AxcString(std::string()).get(), whole);
+}
+
 void AxReaderWriter::getSelf(AxlObjPtr const& expression, AxFilenameList const& files, AxBindingsList const& bindings)
 {
+    if (expression->car()->isPair() && !flag(Value))
+    {
+        AxReaderWriter::getSelf(AxReadFrame::named(expression, flag(List)), files, bindings);
+        return;
+    }
     preGetSelf();
     AxlObj const* const list = expression.get();
     ItemScope const scope(list);
@@ -177,12 +204,6 @@ void AxReaderWriter::getSelf(AxlObjPtr const& expression, AxFilenameList const& 
     if (!readReference(items, files, bindings))
     {
         dropKeptItems();
-        if (list->car()->tag() == AxlObj::Tag::Pair && !flag(Value) && !flag(List))
-        {
-            std::string first; // stands where the name should, and is no name
-            axAppendCell(first, list->car());
-            keepItem({}, std::move(first));
-        }
         readBody(items, files, bindings);
     }
     if (!flag(Rejected))
@@ -208,7 +229,7 @@ void AxReaderWriter::takeHead(AxlObj const* head)
         }
         return;
     }
-    AxDiagnostics::report(diagnostic(AxSeverity::Warning, "bad-name", head, "expected a name, found " + found(head)));
+    AxReadFrame::reportBadName(head);
 }
 
 void AxReaderWriter::readBody(AxlObj const* items, AxFilenameList const& files, AxBindingsList const& bindings)

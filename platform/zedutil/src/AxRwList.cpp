@@ -335,6 +335,18 @@ AxlObjPtr AxRwList::getData(AxlObjPtr const& item, AxFilenameList const& files, 
     return item;
 }
 
+bool AxRwList::keepNameless(AxlObj const* item)
+{
+    AxlObj const* const head = item->car();
+    if (head->isSymbol() || head->isString())
+    {
+        return false;
+    }
+    AxReadFrame::reportBadName(head);
+    keepElement(item);
+    return true;
+}
+
 void AxRwList::keepElement(AxlObj const* item)
 {
     AxKeptItem kept;

@@ -47,6 +47,10 @@ AxRwProperty* AxRwProperties::set(AxString const& name, AxReaderWriter const& va
 
 AxlObjPtr AxRwProperties::getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings)
 {
+    if (keepNameless(item.get()))
+    {
+        return item;
+    }
     auto property = std::make_unique<AxRwProperty>(headName(item), nullptr);
     property->getSelf(item, files, bindings);
     AxReaderWriter const* const value = property->rwValue();

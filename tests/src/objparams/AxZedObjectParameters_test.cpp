@@ -255,6 +255,23 @@ TEST_F(AxZedObjectParametersTest, TakesObjectAndMatchTypeItems)
         EXPECT_EQ(record.mass(), 2.0);
         EXPECT_TRUE(findings.empty());
     }
+    for (auto* read : {+[](AxReaderWriter&rw, std::string_view text) { readInto(rw, text); },
+                       +[](AxReaderWriter&rw, std::string_view text) { readCellsInto(rw, text); }})
+    {
+        Record record("m1", nullptr);
+        findings.clear();
+        read(record, "(m1 (object-type 1 1 1 1 1 1 1) (match-type 2 1 1 1 1 1 1)\n (object-type 3 1 1 1 1 1 1)\n"
+                     " (user-extension (x 1))\n (match-type 4 1 1 1 1 1 1)\n (user-extension (y 2)))");
+        EXPECT_EQ(record.objectType(), AxObjectType(3, 1, 1, 1, 1, 1, 1));
+        EXPECT_EQ(record.matchType(), AxObjectType(4, 1, 1, 1, 1, 1, 1));
+        std::string places;
+        for (AxDiagnostic const& finding : findings)
+        {
+            places += finding.code == "repeated-keyword" ? std::to_string(finding.line) : std::string();
+        }
+        EXPECT_EQ(places, "245");
+    }
+    findings.clear();
     Record faulty("m1", nullptr);
     readFrom(faulty, "(m1 (object-type 1 2))");
     EXPECT_TRUE(faulty.objectType().isNull());
@@ -280,6 +297,17 @@ TEST_F(AxZedObjectParametersTest, OwnBindingsStandInFrontOfTheCallers)
         readFrom(record, "(m1 (parameter-type \"zed-object-param\"))");
         EXPECT_TRUE(record.variableBindingsFromLoad().empty());
     }
+}
+
+TEST_F(AxZedObjectParametersTest, BindingsInPlaceOfTheNameAreBindings)
+{
+    Record record("", nullptr);
+    readInto(record, "((variable-bindings (m 5.0)) (parameter-type \"zed-object-param\") (mass $m))");
+    EXPECT_EQ(record.mass(), 5.0);
+    Record again("", nullptr);
+    readInto(again, record.writtenText());
+    EXPECT_EQ(again.mass(), 5.0);
+    EXPECT_EQ(again.writtenText(), record.writtenText());
 }
 
 TEST_F(AxZedObjectParametersTest, OwnBindingsCountForWhatStandsBeforeThem)

@@ -1,6 +1,7 @@
 #include "DatabaseFixture.h"
 
 #include "AxRwVariableBindings.h"
+#include "AxSxpParameterDbFileData.h"
 
 #include <sys/stat.h>
 
@@ -223,4 +224,22 @@ TEST_F(AxSxpParameterDbEntryTest, IsKnownByItsFileAndStartsEmpty)
     EXPECT_FALSE(entry.temporary());
     entry.setFilename(".\\tanks\\m1.ope");
     EXPECT_EQ(entry.uniqueIdentifier(), ".\\tanks\\m1.ope");
+}
+
+TEST(AxSxpParameterDbFileData, WritesEachVariableSetOnceWhateverCanBeReadOfIt)
+{
+    for (char const* text : {"(\"a db\" (version 101) (variable-bindings stray))",
+                             "(\"a db\" (variable-bindings stray) (variable-bindings (a 1)))",
+                             "(db (variable-bindings stray) (version 101))",
+                             "((variable-bindings (a 1)) (version 101) (variable-bindings))"})
+    {
+        AxSinkScope const quiet(AxWarn);
+        AxSxpParameterDbFileData data("", nullptr);
+        data.readText(text, AxFilename("x.opd"), {}, {});
+        std::string const written = data.writtenText();
+        EXPECT_EQ(written.find("(variable-bindings"), written.rfind("(variable-bindings")) << written;
+        AxSxpParameterDbFileData again("", nullptr);
+        again.readText(written, AxFilename("x.opd"), {}, {});
+        EXPECT_EQ(again.writtenText(), written) << text;
+    }
 }

@@ -172,6 +172,12 @@ TEST(AxDmgSurfaceTable, ReportsAndKeepsElementsOfUnknownDeterminants)
     EXPECT_EQ(table.lookupSurfaceEntry("front")->count(), 1);
     EXPECT_NE(table.writtenText().find("(angle-of-incidence (angle 30.0) (range-determinant (spline 1 2)))\n"),
               std::string::npos);
+    DamageTable nameless(
+        "(t (7 (angle-of-incidence (angle 30.0) (range-determinant (coefficients (hit 0.5))))) ((a b)))");
+    EXPECT_EQ(nameless.codes, "bad-name@1:5 bad-name@1:88");
+    EXPECT_EQ(nameless.lookupSurfaceEntry(""), nullptr);
+    EXPECT_EQ(nameless.writtenText(),
+              "(t\n  (7 (angle-of-incidence (angle 30.0) (range-determinant (coefficients (hit 0.5)))))\n  ((a b)))\n");
     EXPECT_EQ(DamageTable("(t (front (angle-of-incidence (angle 30.0))))").warnings,
               "Unrecognized range determinant  in damage table\n");
 }

@@ -68,6 +68,13 @@ TEST(AxPrbProbabilityCoefficients, ReportsAccessOutsideTheSet)
                                "attempt to access coefficient list out of bounds\n");
     two.setNumCoefficients(2000000000);
     EXPECT_EQ(two.numCoefficients(), 1000);
+    std::vector<double> many(1500);
+    many.back() = 0.25;
+    two.setCoefficients(1500, many.data());
+    EXPECT_EQ(two.numCoefficients(), 1500);
+    EXPECT_EQ(two.probability(1.0), 0.25);
+    two.setCoefficients(2, nullptr);
+    EXPECT_EQ(two.numCoefficients(), 0);
     two.setNumCoefficients(-3);
     EXPECT_EQ(two.numCoefficients(), 0);
     EXPECT_EQ(two.coefficients(), nullptr);
@@ -96,6 +103,9 @@ TEST(AxPrbCoefficientList, KeepsWhatIsNoPolynomialUnread)
     readFrom(list, "(coefficients (hit (1 2)) (kill $k 0.5) (seen $s) (none ($n 1 2)))");
     EXPECT_EQ(list.count(), 2);
     EXPECT_EQ(list.writtenText(), "(coefficients\n  (hit (1 2))\n  (kill $k 0.5)\n  (seen $s)\n  (none ($n 1 2)))\n");
+
+    readFrom(list, "(coefficients (3 4 5) (kill 0.5))");
+    EXPECT_EQ(list.writtenText(), "(coefficients\n  (3 4 5)\n  (kill 0.5))\n");
 }
 
 TEST(AxPrbCoefficientList, FillsTheRowAnewEachTime)
