@@ -102,17 +102,18 @@ protected:
         {
             return;
         }
-        bool const isEachNew = isEmpty() && namesDiffer(other);
-        for (T const* element : other)
+        if (isEmpty() && namesDiffer(other))
         {
-            if (isEachNew)
+            for (T const* element : other)
             {
                 AxRwList::add(static_cast<T*>(element->clone(nullptr)));
             }
-            else
-            {
-                addCopy(*element);
-            }
+            return;
+        }
+        AxKeyedAdding const adding(*this);
+        for (T const* element : other)
+        {
+            addCopy(*element);
         }
     }
     /// Deletes the elements and clears the flag.

@@ -10,11 +10,13 @@
 ///
 /// A class derives as `class AxTurretComponentDescriptor : public AxDescriptorOf<AxTurretComponentDescriptor,
 /// AxActuatorComponentDescriptor, "turret-component-descriptor">`, says `using AxDescriptorOf::AxDescriptorOf;`, and
-/// binds its members by in-class initialisers. Without a type name it keeps that of `Base`. A class whose constructor
-/// assigns defaults declares `(AxSymbolString, AxReaderWriterRegistry*)` itself, which serves all forms of names, and
-/// leaves the `using` out. The copy constructor `(Derived const& other, AxReaderWriterRegistry* registry)` delegates to
-/// that of a name and calls `assign(other)`, once the members are there to be assigned. A clone may be made without a
-/// constructor when all that the class holds is bound; so one that counts or enters its objects overrides `clone`.
+/// binds its members by in-class initialisers. Without a type name it keeps that of `Base`. A class of many members,
+/// and one whose constructor assigns defaults, declares `(AxSymbolString, AxReaderWriterRegistry*)` itself and leaves
+/// the `using` out: that one constructor serves all forms of names, and binds the members once, in the source file,
+/// instead of wherever an object is made. The copy constructor `(Derived const& other, AxReaderWriterRegistry*
+/// registry)` delegates to that of a name and calls `assign(other)`, once the members are there to be assigned. A clone
+/// may be made without a constructor when all that the class holds is bound; so one that counts or enters its objects
+/// overrides `clone`.
 template <class Derived, class Base, AxFixedText typeName = "">
 class AxDescriptorOf : public Base
 {

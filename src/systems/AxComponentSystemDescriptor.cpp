@@ -166,13 +166,19 @@ AxlObjPtr AxComponentSystemDescriptor::getData(AxlObjPtr const& items, AxFilenam
     addVariableBindingsFromMetaData();
     if (axHasUnreadDefinition(*this))
     {
-        for (auto const& [place, item] : open)
-        {
-            std::string text;
-            axAppendCell(text, item);
-            keepItem(place, std::move(text));
-            std::erase(others, item);
-        }
+        auto left = open.begin();
+        std::erase_if(others,
+                      [&](AxlObj const* item)
+                      {
+                          if (left == open.end() || left->second != item)
+                          {
+                              return false;
+                          }
+                          std::string text;
+                          axAppendCell(text, item);
+                          keepItem(left++->first, std::move(text));
+                          return true;
+                      });
     }
     return definition.empty() ? items : listOf(others);
 }

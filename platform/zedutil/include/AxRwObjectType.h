@@ -12,6 +12,14 @@ public:
         : AxRwValueOf(AxSymbolString(keyword), other, registry)
     {
     }
+    AxRwObjectType(AxRwObjectType const& other, AxSymbolString keyword, AxReaderWriterRegistry* registry)
+        : AxRwValueOf(keyword, other, registry)
+    {
+    }
+    AxRwObjectType(AxRwObjectType const& other, AxString const& keyword, AxReaderWriterRegistry* registry)
+        : AxRwValueOf(AxSymbolString(keyword), other, registry)
+    {
+    }
     AxRwObjectType(AxRwObjectType const&) = default;
     AxRwObjectType(AxRwObjectType const& other, AxReaderWriterRegistry* registry) : AxRwValueOf(other, registry) {}
     ~AxRwObjectType() override;

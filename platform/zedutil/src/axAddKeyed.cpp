@@ -68,3 +68,7 @@ void axAddKeyed(AxRwList& list, AxReaderWriter* element, AxElementKey keyOf)
         index->changeCount = list.changeCount();
     }
 }
+
+AxKeyedAdding::AxKeyedAdding(AxRwList& list) : myFrame(std::make_unique<AxReadFrame>(list)) {}
+
+AxKeyedAdding::~AxKeyedAdding() = default;

@@ -129,3 +129,17 @@ TEST(AxRwValueOf, AValueThatIsRefusedLeavesTheReference)
         EXPECT_EQ(record.writtenText(), "(r\n  " + std::string(items, std::strlen(items) - 13) + "\n  (mass heavy))\n");
     }
 }
+
+TEST(AxRwObjectType, TakesItsKeywordInEveryFormWhenItIsCopied)
+{
+    AxReaderWriterRegistry registry;
+    AxRwObjectType from("from", nullptr);
+    from = AxObjectType(1, 2, 3, 4, 5, 6, 7);
+    AxRwObjectType const copies[] = {
+        {from, "a", &registry}, {from, AxString("b"), &registry}, {from, AxSymbolString("c"), &registry}};
+    for (AxRwObjectType const& copy : copies)
+    {
+        EXPECT_EQ(copy.value(), from.value());
+        EXPECT_EQ(registry.lookup(copy.AxReaderWriter::name()), &copy);
+    }
+}

@@ -194,6 +194,22 @@ TEST(AxComponentSystemDescriptorList, LaterDescriptorOfANameReplaces)
     EXPECT_FALSE(copy == list);
     list.emptyList();
     EXPECT_FALSE(list.valueSpecified());
+
+    for (int i = 0; i < 100; ++i)
+    {
+        list.addComponentSystemDescriptor(AxComponentSystemDescriptor(("s" + std::to_string(i)).c_str(), nullptr));
+    }
+    AxComponentSystemDescriptorList onto(copy);
+    onto.addComponentSystemDescriptor(AxComponentSystemDescriptor("s50", nullptr));
+    onto.copyList(list);
+    EXPECT_EQ(onto.count(), 102);
+    EXPECT_EQ(onto.firstElement()->AxReaderWriter::name(), copy.firstElement()->AxReaderWriter::name());
+
+    char const* const odd = "(systems\n  (7 (is-enabled true))\n  ((a b) (is-enabled true)))\n";
+    AxSinkScope const warnings(AxWarn);
+    read(list, odd, folder);
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(list.writtenText(), odd);
 }
 
 TEST(AxComponentSystemDefinition, CompatibilityNamesTakeNoPartInEquality)
