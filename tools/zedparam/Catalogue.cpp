@@ -163,7 +163,7 @@ AxReaderWriter* sampleElement(AxRwList& list)
 {
     if (dynamic_cast<AxComponentDescriptorList*>(&list) == nullptr)
     {
-        list.readText("(list (element))", AxFilename("element"), AxReaderWriter::nullFilenames(),
+        list.readText("(list (\"\"))", AxFilename("element"), AxReaderWriter::nullFilenames(),
                       AxReaderWriter::nullVariableReference());
     }
     return list.firstElement();

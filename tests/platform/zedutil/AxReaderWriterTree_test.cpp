@@ -245,7 +245,7 @@ TEST(AxReaderWriterTree, FaultsAreReportedAtTheirLinesAndNeighboursAreRead)
     findings.all.clear();
     EXPECT_EQ(machine.toXml(), "");
     EXPECT_FALSE(machine.toXml(AxFilename("no.xml")));
-    EXPECT_EQ(findings.codes(), "write-failed@0 write-failed@0");
+    EXPECT_EQ(findings.codes(), "write-failed@0:0 write-failed@0:0");
 }
 
 TEST(AxReaderWriterTree, FilesHoldWhatTextsHold)

@@ -137,19 +137,19 @@ TEST(AxReaderWriter, AListInPlaceOfTheNameIsAnItem)
     for (char const* text : {"((mass 3) (seats 2))", "((spares (left (power 1.5))))", "((x 1) (seats 2) (y))",
                              "(v (spares (7 (power 1)) (left) ((power 2) (cylinders 3))))"})
     {
-        Findings findings;
+        ReportedFindings findings;
         Vehicle vehicle;
-        EXPECT_TRUE(read(vehicle, text)) << text;
+        EXPECT_TRUE(readFrom(vehicle, text)) << text;
         EXPECT_TRUE(findings.codes().starts_with("bad-name@1:")) << findings.codes();
         Vehicle again;
-        EXPECT_TRUE(read(again, vehicle.writtenText())) << text;
+        EXPECT_TRUE(readFrom(again, vehicle.writtenText())) << text;
         EXPECT_TRUE(again == vehicle) << text;
         EXPECT_EQ(again.writtenText(), vehicle.writtenText()) << text;
         EXPECT_EQ(again.writtenText(true), vehicle.writtenText(true)) << text;
     }
-    Findings findings;
+    ReportedFindings findings;
     Vehicle vehicle;
-    read(vehicle, "((mass 3) (spares (7 (power 1)) (left) ((power 2))))");
+    readFrom(vehicle, "((mass 3) (spares (7 (power 1)) (left) ((power 2))))");
     EXPECT_EQ(findings.codes(), "bad-name@1:2 bad-name@1:20 bad-name@1:41");
     EXPECT_EQ(vehicle.writtenText(),
               "(\"\"\n  (mass 3.0)\n  (spares\n    (7 (power 1))\n    (left)\n    ((power 2))))\n");

@@ -255,7 +255,7 @@ TEST_F(AxZedObjectParametersTest, TakesObjectAndMatchTypeItems)
         EXPECT_EQ(record.mass(), 2.0);
         EXPECT_TRUE(findings.empty());
     }
-    for (auto* read : {+[](AxReaderWriter&rw, std::string_view text) { readInto(rw, text); },
+    for (auto* read : {+[](AxReaderWriter&rw, std::string_view text) { readFrom(rw, text); },
                        +[](AxReaderWriter&rw, std::string_view text) { readCellsInto(rw, text); }})
     {
         Record record("m1", nullptr);
@@ -302,10 +302,10 @@ TEST_F(AxZedObjectParametersTest, OwnBindingsStandInFrontOfTheCallers)
 TEST_F(AxZedObjectParametersTest, BindingsInPlaceOfTheNameAreBindings)
 {
     Record record("", nullptr);
-    readInto(record, "((variable-bindings (m 5.0)) (parameter-type \"zed-object-param\") (mass $m))");
+    readFrom(record, "((variable-bindings (m 5.0)) (parameter-type \"zed-object-param\") (mass $m))");
     EXPECT_EQ(record.mass(), 5.0);
     Record again("", nullptr);
-    readInto(again, record.writtenText());
+    readFrom(again, record.writtenText());
     EXPECT_EQ(again.mass(), 5.0);
     EXPECT_EQ(again.writtenText(), record.writtenText());
 }
