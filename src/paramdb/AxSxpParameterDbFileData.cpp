@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <cstring>
 #include <exception>
+#include <memory>
 
 namespace
 {
@@ -162,13 +163,13 @@ AxSxpParameterDbFileData::~AxSxpParameterDbFileData() = default;
 AxSxpParameterDbFileEntry* AxSxpParameterDbFileData::addEntry(AxObjectType const& type, AxFilename const& file,
                                                               bool typeIsMatchType, AxZedObjectParameters* parameters)
 {
-    auto* const entry = new AxSxpParameterDbFileEntry("parameter-entry", nullptr);
+    auto entry = std::make_unique<AxSxpParameterDbFileEntry>("parameter-entry", nullptr);
     entry->setObjectType(type);
     entry->setFilename(file);
     entry->setTypeIsMatchType(typeIsMatchType);
     entry->setParameters(parameters);
-    myEntries.addToEnd(entry);
-    return entry;
+    myEntries.addToEnd(entry.get());
+    return entry.release();
 }
 
 void AxSxpParameterDbFileData::setVersion(int version)
