@@ -270,16 +270,18 @@ void AxModelSet::adopt(std::unique_ptr<AxModelSetEntry> entry)
 {
     AxObjectType const& type = entry->objectType();
     bool const isGroup = dynamic_cast<AxSimulationObjectGroupModelSetEntry*>(entry.get()) != nullptr;
-    if (type.isNull() && !isGroup && find(type))
+    bool const isUntyped = type.isNull() && !isGroup && find(type);
+    if (isUntyped && !myLoading)
+    {
+        AxRwList::addToEnd(entry.release()); // the set that takes it in gives it the rest
+    }
+    else if (isUntyped)
     {
         if (entry->uniqueId().isNull())
         {
             entry->setUniqueId(unusedID(createUniqueID(*entry)));
         }
-        if (myLoading)
-        {
-            myLoading->add(entry->uniqueId());
-        }
+        myLoading->add(entry->uniqueId());
         addToEnd(entry.get());
         addCategoriesFrom(*entry.release());
     }

@@ -2,19 +2,14 @@
 
 #include "AxFaultAt.h"
 #include "AxNumberText.h"
-#include "AxReadFrame.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxlFunctions.h"
 #include "AxlObj.h"
 #include "axTryNew.h"
 
-#include <algorithm>
 #include <cmath>
-#include <functional>
-#include <memory>
 #include <unordered_map>
-#include <vector>
 
 static AxTypeEntry<AxPrbRangeList> const prbRangeListEntry;
 
@@ -41,31 +36,6 @@ static void reportReplacedRows(AxlObj const* rows)
             axAppendReal(text, range->flonum());
             AxDiagnostics::report(axFaultAt(AxSeverity::Info, "replaced-row", rows->car(),
                                             text + " is replaced by a later one of the same range"));
-        }
-    }
-}
-
-/// Puts rows that were appended as they came where they belong: by range, of one range only the last.
-static void sortRows(AxPrbRangeList& list)
-{
-    auto const range = [](AxPrbRangeTableEntry const* row) { return row->range(); };
-    std::vector<AxPrbRangeTableEntry*> rows;
-    for (AxListItem const* item = list.first(); item; item = item->next())
-    {
-        rows.push_back(AxPrbRangeList::row(item));
-    }
-    if (std::ranges::adjacent_find(rows, std::ranges::greater_equal(), range) == rows.end())
-    {
-        return;
-    }
-    std::ranges::stable_sort(rows, {}, range);
-    list.AxList::removeAll();
-    for (std::size_t i = 0; i < rows.size(); ++i)
-    {
-        std::unique_ptr<AxPrbRangeTableEntry> row(rows[i]);
-        if (i + 1 == rows.size() || row->range() != rows[i + 1]->range())
-        {
-            list.addToEnd(row.release());
         }
     }
 }
@@ -189,7 +159,6 @@ void AxPrbRangeList::addTableEntry(AxPrbRangeTableEntry* added)
 void AxPrbRangeList::getSelf(AxlObjPtr const& expression, AxFilenameList const& files, AxBindingsList const& bindings)
 {
     AxRwList::getSelf(expression, files, bindings);
-    sortRows(*this);
     if (AxcLength(expression) - 1 > count())
     {
         reportReplacedRows(expression->cdr());
@@ -210,15 +179,7 @@ AxlObjPtr AxPrbRangeList::getData(AxlObjPtr const& item, AxFilenameList const& f
     {
         read->getSelf(item, files, bindings);
     }
-    bool const isWholeList = AxReadFrame::innermost && &AxReadFrame::innermost->record == this;
-    if (read && isWholeList && !std::isnan(read->range()))
-    {
-        addToEnd(read); // `getSelf` sorts them all at once
-    }
-    else
-    {
-        addTableEntry(read);
-    }
+    addTableEntry(read);
     return item;
 }
 

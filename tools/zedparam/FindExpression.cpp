@@ -131,8 +131,9 @@ bool FindExpression::compares(Node& node, Subject& subject)
     bool const ranks = node.op != Operator::Equal && node.op != Operator::Unequal && node.op != Operator::Like;
     auto const goTogether = [&](Atom const& a, Atom const& b)
     {
+        bool const areTexts = !a.isNumber && !b.isNumber;
         return (a.isNumber && b.isNumber) || node.op == Operator::Like ||
-               (!ranks && axIsNumber(a.text) == axIsNumber(b.text));
+               (!ranks && (areTexts || axIsNumber(a.text) == axIsNumber(b.text)));
     };
     auto const isEqual = [](Atom const& a, Atom const& b)
     { return a.isNumber && b.isNumber ? a.number == b.number : a.text == b.text; };
@@ -183,12 +184,16 @@ void FindExpression::appendFutile(Node const& node, std::vector<std::string>& ou
         appendFutile(*part, out);
     }
     bool const wasAsked = node.leftKinds.isAny() && node.rightKinds.isAny();
-    if (node.kind != Node::Kind::Compare || !wasAsked || node.wasComparable)
+    if (node.kind != Node::Kind::Compare || node.op == Operator::Unequal || !wasAsked || node.wasComparable)
     {
         return;
     }
     bool const isRightToBlame = !node.rightKinds.numbers && node.right.kind != Operand::Kind::Literal;
     bool const isText = isRightToBlame || !node.leftKinds.numbers;
+    if (!isText && node.leftKinds.texts)
+    {
+        return; // some are numbers, some texts
+    }
     out.push_back(shown(isRightToBlame ? node.right : node.left) +
                   (isText ? " is no number in any record" : " is a number in every record") + ", unlike " +
                   shown(isRightToBlame ? node.left : node.right));

@@ -1,5 +1,6 @@
 #include "AxPrbRangeList.h"
 
+#include "AxRwVariableBindings.h"
 #include "AxSinkScope.h"
 #include "platform/zedutil/Reading.h"
 
@@ -150,4 +151,15 @@ TEST(AxPrbRangeList, TakesBothZerosForOneRangeAndItselfForNothing)
     EXPECT_NE(notes.text().find("is replaced by a later one"), std::string::npos);
     list.copyList(list);
     EXPECT_EQ(list.count(), 1);
+}
+
+TEST(AxPrbRangeList, RowsOfAVariableThatIsBoundLaterAreInOrder)
+{
+    AxPrbRangeList list("range-list", nullptr);
+    readFrom(list, "(range-list $rows)");
+    AxRwVariableBindings values;
+    readFrom(values, "(variable-bindings (rows (range-entry 300.0 (hit 0.25)) (range-entry 100.0 (hit 0.5))))");
+    list.bindVariables({&values});
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(AxPrbRangeList::row(list.first())->range(), 100.0);
 }
