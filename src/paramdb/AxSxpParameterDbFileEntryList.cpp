@@ -5,7 +5,7 @@
 #include "AxPlainScanner.h"
 #include "AxReaderWriterFactory.h"
 #include "AxTextReader.h"
-#include "AxlFunctions.h"
+#include "AxTreeCells.h"
 #include "AxlPrint.h"
 
 #include <memory>
@@ -137,6 +137,5 @@ void AxSxpParameterDbFileEntryList::keep(AxlObj const* item)
 
 void AxSxpParameterDbFileEntryList::keepUnread(std::string const& text)
 {
-    AxlInputStream stream(text);
-    keep(AxcRead(stream).get());
+    keep(AxTreeCells::parsed(text)->car());
 }

@@ -156,7 +156,7 @@ AxlObjPtr AxTextReader::cellsSince(char const* place) const
     {
         return myXml->elementCells();
     }
-    AxlInputStream text(std::string(place, myAt));
+    AxlInputStream text(std::string(1, ' ').append(place, myAt)); // a byte-order mark stands only where a file begins
     AxlReadOptions options;
     options.closeOpenLists = true;
     return AxcRead(text, AxlEnv(), options).expr;

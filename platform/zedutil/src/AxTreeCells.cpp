@@ -284,7 +284,8 @@ AxlObjPtr textItem(AxEnvObject const& object)
 
 AxlObjPtr AxTreeCells::parsed(std::string_view text)
 {
-    AxlInputStream stream(text);
+    // What is first here was not first in its file: behind a blank no byte-order mark is looked for.
+    AxlInputStream stream(std::string(1, ' ').append(text));
     Cells items;
     for (AxlObjPtr cell = AxcRead(stream); !cell->isEof(); cell = AxcRead(stream))
     {

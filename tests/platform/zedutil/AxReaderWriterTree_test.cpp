@@ -160,6 +160,7 @@ TEST(AxReaderWriterTree, KeptItemsComeBackInTheirPlaces)
         "(m (machine-type \"5\") (mass 1) (foo 5) (seats 1) (name \"x\") (bar 6))",
         "(m (machine-type \"5\") (foo 5) (mass 1) (spares (a (foo 5)) (b)))",
         "(m (many (AxRwReal 5) (NoSuchType 7 (a \"b\")) (AxRwReal 6)))",
+        "(m (mass 1) \xEF\xBB\xBFstray (seats 2))", // no byte-order mark: it begins a word, not a file
     };
     for (char const* const text : texts)
     {
@@ -175,6 +176,12 @@ TEST(AxReaderWriterTree, KeptItemsComeBackInTheirPlaces)
     Machine machine;
     readFrom(machine, "(m (mass 1) (foo 5))");
     EXPECT_EQ(xmlOf(machine), "<machine name=\"m\" mass=\"1.0\">\n  <sexp name=\"foo\">(foo 5)</sexp>\n</machine>\n");
+
+    readFrom(machine, "(m (mass 2) \xFF\xFEstray (seats 3))");
+    Machine back;
+    EXPECT_TRUE(back.fromXml(machine.toXml()));
+    EXPECT_EQ(back.seats.value(), 3);
+    EXPECT_NE(findings.codes().find("not-utf8"), std::string::npos);
 }
 
 TEST(AxReaderWriterTree, UnknownXmlIsKeptReportedAndWrittenAsXmlAgain)
