@@ -45,6 +45,18 @@ AxSymbolString headOf(AxlObj const* item)
     return item->car()->symbol();
 }
 
+AxSymbolString objectTypeHead()
+{
+    static AxSymbolString const head("object-type");
+    return head;
+}
+
+bool isObjectType(AxSymbolString head)
+{
+    static AxSymbolString const matchTypeHead("match-type");
+    return head == objectTypeHead() || head == matchTypeHead;
+}
+
 std::unique_ptr<AxRwVariableBindings> bindingsOf(AxlObj const* item, AxBindingsList const& bindings)
 {
     auto set = std::make_unique<AxRwVariableBindings>(theBindingsHead());
@@ -305,8 +317,11 @@ void AxZedObjectParameters::reportDuplicateData() const
     }
 }
 
-AxlObjPtr AxZedObjectParameters::getData(AxlObjPtr const& items, AxFilenameList const&, AxBindingsList const& bindings)
+AxlObjPtr AxZedObjectParameters::getData(AxlObjPtr const& items, AxFilenameList const& files,
+                                         AxBindingsList const& bindings)
 {
+    AxReadFrame* const frame = AxReadFrame::innermost;
+    bool const isRead = frame && &frame->record == this;
     AxlObj const* lead = items.get();
     while (lead->isPair() && takeItem(lead->car(), bindings))
     {
@@ -316,6 +331,15 @@ AxlObjPtr AxZedObjectParameters::getData(AxlObjPtr const& items, AxFilenameList 
     bool areAllOthers = true;
     for (AxlObj const* rest = lead; rest->isPair(); rest = rest->cdr())
     {
+        if (isRead && isObjectType(headOf(rest->car())))
+        {
+            // One that cannot be read is kept behind what is kept before it.
+            for (AxlObj const* other : others)
+            {
+                readItem(other, *frame, files, bindings);
+            }
+            others.clear();
+        }
         bool const isTaken = takeItem(rest->car(), bindings);
         areAllOthers = areAllOthers && !isTaken;
         if (!isTaken)
@@ -339,8 +363,6 @@ bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& b
 {
     static AxSymbolString const typeHead(theRecordTypeHead);
     static AxSymbolString const extensionHead("user-extension");
-    static AxSymbolString const objectTypeHead("object-type");
-    static AxSymbolString const matchTypeHead("match-type");
     static AxSymbolString const nameHead("record-name");
 
     AxSymbolString const head = headOf(item);
@@ -349,10 +371,10 @@ bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& b
         return false;
     }
     constexpr std::size_t noPlace = 3;
-    std::size_t const place = head == extensionHead    ? 0
-                              : head == objectTypeHead ? 1
-                              : head == matchTypeHead  ? 2
-                                                       : noPlace;
+    std::size_t const place = head == extensionHead      ? 0
+                              : head == objectTypeHead() ? 1
+                              : isObjectType(head)       ? 2
+                                                         : noPlace;
     AxReadFrame* const frame = AxReadFrame::innermost;
     // These are no members; behind the members there is room to note them.
     if (place != noPlace && frame && &frame->record == this && frame->markSeen(registry()->size() + place))
@@ -367,13 +389,13 @@ bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& b
         myExtensionItem = AxlObjPtr(item);
         return true;
     }
-    if (head == objectTypeHead || head == matchTypeHead)
+    if (isObjectType(head))
     {
         AxRwObjectType type(head, nullptr);
         type.getSelf(AxlObjPtr(item), nullFilenames(), bindings);
         if (type.valueSpecified() && (!type.isVariableReference() || type.variableIsBound()))
         {
-            (head == objectTypeHead ? myObjectType : myMatchType) = type.value();
+            (head == objectTypeHead() ? myObjectType : myMatchType) = type.value();
         }
         else
         {
