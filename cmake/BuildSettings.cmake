@@ -43,8 +43,3 @@ if(ZEDOBJPARAM_SANITIZE)
     add_compile_options(-fsanitize=${ZEDOBJPARAM_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${ZEDOBJPARAM_SANITIZE})
 endif()
-
-# What the fuzzer follows to see how far an input comes.
-if(ZEDOBJPARAM_BUILD_FUZZERS)
-    add_compile_options(-fsanitize=fuzzer-no-link)
-endif()
