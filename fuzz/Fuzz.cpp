@@ -9,10 +9,13 @@
 #include "AxlPrint.h"
 #include "AxlSyntaxError.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <set>
+#include <sstream>
+#include <vector>
 
 namespace
 {
@@ -75,6 +78,24 @@ std::string fuzz::cellsOf(std::string_view text)
     catch (AxlSyntaxError const&)
     {
         out = "not readable: " + std::string(text);
+    }
+    return out;
+}
+
+std::string fuzz::sortedLines(std::string const& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+    {
+        // The last item of a list has the list's brackets.
+        lines.push_back(line.substr(0, line.find_last_not_of(')') + 1));
+    }
+    std::ranges::sort(lines);
+    std::string out;
+    for (std::string const& line : lines)
+    {
+        out += line + '\n';
     }
     return out;
 }

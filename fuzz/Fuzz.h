@@ -38,6 +38,9 @@ bool wasReported(std::string_view code);
 /// The text without its layout.
 std::string cellsOf(std::string_view text);
 
+/// The lines without the brackets that close lists, in an order that does not depend on that of the items.
+std::string sortedLines(std::string const& text);
+
 /// Reads the text into an object and what that writes into another: whatever was read is written the same again.
 /// Answers the first object.
 template <class Make>
@@ -45,6 +48,13 @@ auto readTwice(std::string_view text, Make const& make)
 {
     auto first = make();
     read(*first, text);
+    if (wasReported("unclosed-list") || wasReported("unclosed-string"))
+    {
+        // What is cut off is kept as it stands, and may be more than that when its text is closed.
+        std::string const closed = first->writtenText();
+        first = make();
+        read(*first, closed);
+    }
     for (bool const all : {false, true})
     {
         std::string const written = first->writtenText(all);

@@ -2,31 +2,6 @@
 
 #include "AxGroundVehicleParameters.h"
 
-#include <algorithm>
-#include <sstream>
-#include <vector>
-
-namespace
-{
-std::string sortedLines(std::string const& text)
-{
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
-    {
-        // The last item of a list has the list's brackets.
-        lines.push_back(line.substr(0, line.find_last_not_of(')') + 1));
-    }
-    std::ranges::sort(lines);
-    std::string out;
-    for (std::string const& line : lines)
-    {
-        out += line + '\n';
-    }
-    return out;
-}
-} // namespace
-
 /// A record from XML: what it holds then survives both notations.
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
 {
@@ -45,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         AxGroundVehicleParameters fromXml(AxSymbolString(), nullptr);
         fromXml.fromXml(xml);
         // Attributes stand before elements there, so what is kept may come in another order.
-        fuzz::expectEqual("XML holds what XML gave", sortedLines(text), sortedLines(fromXml.writtenText()));
+        fuzz::expectEqual("XML holds what XML gave", fuzz::sortedLines(text), fuzz::sortedLines(fromXml.writtenText()));
     }
     return 0;
 }

@@ -16,7 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     {
         AxGroundVehicleParameters back(AxSymbolString(), nullptr);
         back.fromXml(xml);
-        fuzz::expectEqual("XML holds what the text held", record.writtenText(), back.writtenText());
+        // A system with the name of a class has its attributes before what is kept.
+        fuzz::expectEqual("XML holds what the text held", fuzz::sortedLines(record.writtenText()),
+                          fuzz::sortedLines(back.writtenText()));
     }
     return 0;
 }
