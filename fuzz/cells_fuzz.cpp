@@ -18,7 +18,8 @@ std::optional<std::string> printed(std::string_view text)
         std::string out;
         AxlObjPtr const expression = AxcRead(stream);
         axAppendCell(out, expression.get());
-        return out.starts_with("\xEF\xBB\xBF") ? " " + out : out; // which marks a text only at its beginning
+        // A byte-order mark is one only at the beginning of a text.
+        return out.starts_with("\xEF\xBB\xBF") || AxlSyntaxError::isUtf16(out) ? " " + out : out;
     }
     catch (AxlSyntaxError const&)
     {

@@ -46,6 +46,8 @@ TEST(TextLayout, PutsAnItemOnALineAndKeepsComments)
         {" ; only\n", "; only\n"},
         {"(a)", "(a)\n"},
         {"\xEF\xBB\xBF (a)", "\xEF\xBB\xBF(a)\n"},
+        {"\n\xEF\xBB\xBFword", " \xEF\xBB\xBFword\n"}, // no byte-order marks: they begin words
+        {"\t\xFF\xFEword", " \xFF\xFEword\n"},
         {"(a (parameter-type t)(mass  5.0)\n\n\n\n(category\n  \"x\" ) )",
          "(a\n  (parameter-type t)\n  (mass 5.0)\n\n  (category \"x\"))\n"},
         {"; 1  \r\n\r\n(a;2\r\n(parameter-type t)\r\n;3\r\n(mass 5.0);4\r\n);5",

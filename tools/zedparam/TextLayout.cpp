@@ -4,6 +4,7 @@
 
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
+#include "AxlSyntaxError.h"
 
 namespace
 {
@@ -229,7 +230,14 @@ std::string cells(std::string const& text)
 
 std::string laidOut(TextTree const& tree, TextReading& reading)
 {
-    return Layout(tree, reading).run();
+    std::string out = Layout(tree, reading).run();
+    // A word that would be taken for a byte-order mark now that it stands first.
+    constexpr std::string_view mark = TextTree::theByteOrderMark;
+    if (!tree.text().starts_with(mark) && (out.starts_with(mark) || AxlSyntaxError::isUtf16(out)))
+    {
+        out.insert(0, 1, ' ');
+    }
+    return out;
 }
 
 bool haveSameContent(TextTree const& a, TextTree const& b)

@@ -35,8 +35,6 @@ bool isNumberToken(std::string_view token)
     double value = 0.0;
     return axIsNumber(token) && axParseReal(token, value);
 }
-
-constexpr std::string_view theByteOrderMark = "\xEF\xBB\xBF";
 } // namespace
 
 /// Cuts the text and puts the tree together. Open lists wait on a stack of their own, so depth costs no call.

@@ -18,6 +18,7 @@ class TextTree
 public:
     using Index = std::uint32_t;
     static constexpr Index none = ~Index(0);
+    static constexpr std::string_view theByteOrderMark = "\xEF\xBB\xBF";
 
     enum class Kind : std::uint8_t
     {
