@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "AxFilename.h"
-#include "AxReadWholeFile.h"
+#include "ReadFile.h"
 
 namespace
 {
@@ -93,7 +92,7 @@ Source const& CheckedFiles::source(std::string const& file)
     }
     else
     {
-        mySources.emplace_front(file, Source(file));
+        mySources.emplace_front(file, Source::again(file));
         mySources.resize(std::min(mySources.size(), most), mySources.front());
     }
     return mySources.front().second;
@@ -117,11 +116,10 @@ CheckedFiles::Names CheckedFiles::referencesOnce(std::string const& file)
 
 std::string const& CheckedFiles::text(std::string const& file)
 {
-    int error = 0;
     if (myText.first != file)
     {
         myText = {file, std::string()};
-        axReadWholeFile(AxFilename(file), myText.second, error);
+        readAgain(file, myText.second);
     }
     return myText.second;
 }

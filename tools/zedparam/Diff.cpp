@@ -44,7 +44,7 @@ int diff(DiffArguments const& options)
         json.key("differences").beginArray();
     }
     DiffReport report(options.json ? &json : nullptr);
-    bool const isComplete = compare(options, report);
+    bool const isComplete = compare(options, report) && !findings.has("cannot-open");
     for (AxDiagnostic const& finding : findings.sorted())
     {
         if (!isComplete && finding.severity == AxSeverity::Error)

@@ -5,7 +5,6 @@
 
 #include "AxDiagnostic.h"
 #include "AxEnvXMLReader.h"
-#include "AxReadWholeFile.h"
 #include "Database.h"
 #include "ElementSource.h"
 #include "Member.h"
@@ -178,8 +177,7 @@ TextTree::Place DocumentPlaces::inText(ItemPath const& path, int side)
     if (myText == nullptr)
     {
         std::string text;
-        int error = 0;
-        axReadWholeFile(AxFilename(myDocument.file), text, error);
+        readAgain(myDocument.file, text);
         myText = std::make_unique<TextTree>(std::move(text));
         mySource = myText->isReadable() ? itemOf(myText->root()) : Item();
     }

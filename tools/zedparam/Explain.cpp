@@ -213,7 +213,7 @@ int explainUse(ExplainOptions const& options)
     {
         tellUnknown(path.last());
     }
-    return isComplete && !uses.empty() ? Fine : HasFindings;
+    return isComplete && !uses.empty() && !findings.has("cannot-open") ? Fine : HasFindings;
 }
 } // namespace
 

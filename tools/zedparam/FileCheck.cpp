@@ -37,7 +37,7 @@ struct Heads
 Heads headsOf(std::string const& file)
 {
     Heads heads;
-    Source(file).forEachList(
+    Source::again(file).forEachList(
         [&heads](AxlObj const& list)
         {
             if (heads.outer.empty())

@@ -233,7 +233,8 @@ int find(FindOptions const& options)
     {
         return CouldNotRun;
     }
-    return Search(options, *expression, std::move(shown)).run(*database);
+    int const exitCode = Search(options, *expression, std::move(shown)).run(*database);
+    return exitCode == Fine && findings.has("cannot-open") ? HasFindings : exitCode;
 }
 } // namespace
 

@@ -63,11 +63,13 @@ void Findings::add(AxDiagnostic diagnostic)
         diagnostic.line = 1;
         diagnostic.column = 1;
     }
-    if (myPrint == Print::AtOnce)
+    bool const isNews = diagnostic.severity == AxSeverity::Info;
+    bool const isKnown = !isNews && myFindings.contains(diagnostic);
+    if (myPrint == Print::AtOnce && !isKnown)
     {
         std::fprintf(stderr, "%s\n", diagnostic.format().c_str());
     }
-    if (diagnostic.severity != AxSeverity::Info)
+    if (!isNews)
     {
         myLastFile = diagnostic.file;
         myFindings.insert(std::move(diagnostic));
@@ -97,10 +99,24 @@ void Findings::takeWarning(std::string const& line)
     myConsequenceMayFollow = false;
 }
 
+bool Findings::has(std::string_view code) const
+{
+    return std::ranges::find(myFindings, code, &AxDiagnostic::code) != myFindings.end();
+}
+
 bool Findings::has(std::string_view code, std::string const& file) const
 {
     return std::ranges::any_of(myFindings, [&, shown = shownPath(file)](AxDiagnostic const& finding)
                                { return finding.code == code && finding.file == shown; });
+}
+
+std::vector<AxDiagnostic> Findings::unread() const
+{
+    std::vector<AxDiagnostic> unread;
+    std::ranges::copy_if(myFindings, std::back_inserter(unread),
+                         [](AxDiagnostic const& finding)
+                         { return finding.code == "cannot-open" || finding.code == "missing-file"; });
+    return unread;
 }
 
 void Findings::write(JsonWriter& json, std::vector<AxDiagnostic> const& findings)

@@ -31,11 +31,15 @@ public:
 
     void add(AxDiagnostic diagnostic);
 
+    bool has(std::string_view code) const;
     /// Whether a finding of that kind is about that file.
     bool has(std::string_view code, std::string const& file) const;
     bool empty() const { return myFindings.empty(); }
     /// By file, line, column and text.
     std::vector<AxDiagnostic> sorted() const { return {myFindings.begin(), myFindings.end()}; }
+
+    /// Those that tell of files that could not be read.
+    std::vector<AxDiagnostic> unread() const;
 
     static void write(JsonWriter& json, std::vector<AxDiagnostic> const& findings);
     /// Those that are errors.

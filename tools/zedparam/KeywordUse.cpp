@@ -154,28 +154,10 @@ void findOutliers(KeywordUse& use)
     std::ranges::stable_sort(use.outliers, std::ranges::greater(), distance);
 }
 
-/// Finds the places of the values that are shown, reading each of their records once more.
-void locate(KeywordPath const& path, Database const& database, KeywordUses& uses)
+using WantedPlaces = std::map<AxSxpParameterDbEntry*, std::multimap<std::size_t, UsedValue*>>; // by ordinal
+
+void findPlaces(KeywordPath const& path, Database const& database, WantedPlaces& wanted)
 {
-    Findings muted(Findings::Print::Never); // what there is to report of the records was reported
-    std::map<AxSxpParameterDbEntry*, std::multimap<std::size_t, UsedValue*>> wanted; // by ordinal
-    auto const want = [&wanted](UsedValue& value) { wanted[value.entry].emplace(value.ordinal, &value); };
-    for (auto& [owner, use] : uses)
-    {
-        if (!use.numbers.empty())
-        {
-            want(use.numbers.front());
-            want(use.numbers.back());
-        }
-        for (std::size_t i = 0; i < std::min(use.outliers.size(), theMostShown); ++i)
-        {
-            want(use.outliers[i]);
-        }
-        for (auto& [text, its] : use.commonest)
-        {
-            want(its.first);
-        }
-    }
     for (auto& [entry, values] : wanted)
     {
         database.withRecord(*entry,
@@ -195,6 +177,36 @@ void locate(KeywordPath const& path, Database const& database, KeywordUses& uses
                                          });
                             });
     }
+}
+
+/// Finds the places of the values that are shown, reading each of their records once more.
+void locate(KeywordPath const& path, Database const& database, KeywordUses& uses)
+{
+    WantedPlaces wanted;
+    auto const want = [&wanted](UsedValue& value) { wanted[value.entry].emplace(value.ordinal, &value); };
+    for (auto& [owner, use] : uses)
+    {
+        if (!use.numbers.empty())
+        {
+            want(use.numbers.front());
+            want(use.numbers.back());
+        }
+        for (std::size_t i = 0; i < std::min(use.outliers.size(), theMostShown); ++i)
+        {
+            want(use.outliers[i]);
+        }
+        for (auto& [text, its] : use.commonest)
+        {
+            want(its.first);
+        }
+    }
+    std::vector<AxDiagnostic> unread;
+    {
+        Findings muted(Findings::Print::Never); // what there is to report of the records was reported
+        findPlaces(path, database, wanted);
+        unread = muted.unread();
+    }
+    std::ranges::for_each(unread, AxDiagnostics::report);
 }
 
 void findCommonest(KeywordUse& use)

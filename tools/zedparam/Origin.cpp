@@ -124,7 +124,8 @@ Origin Origins::of(RecordWalk const& at)
         origin.place = myPlaces.of(at);
         origin.kind = Origin::Kind::Given;
     }
-    if (origin.place.line == 0) // also some defaults count as given, so that they are written
+    bool const isUnknown = origin.kind != Origin::Kind::Default && !myPlaces.hasRead(at);
+    if (origin.place.line == 0 && !isUnknown) // also some defaults count as given, so that they are written
     {
         origin = ofDefault(at);
     }
@@ -205,12 +206,25 @@ AxlObj const* Origins::cellOf(std::string const& variable, Place& place)
             return cell;
         }
     }
+        if (!myPlaces.hasRead(walk.files().front()))
+        {
+            place.file = shownPath(walk.files().front());
+            return nullptr;
+        }
+    }
+    if (myDatabase.file().empty()) // a collection of records binds nothing
+    {
+        return nullptr;
     AxlObj const* const cell = myPlaces.valueIn(myDatabase.file(), steps);
     if (cell != nullptr)
     {
         place = Places::at(myDatabase.file(), cell);
     }
     return cell;
+    else if (!myPlaces.hasRead(myDatabase.file()))
+    {
+        place.file = shownPath(myDatabase.file());
+    }
 }
 
 void Origins::bind(std::string variable, RecordWalk const& at, Origin& origin)

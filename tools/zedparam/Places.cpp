@@ -60,7 +60,17 @@ Place Places::at(std::string const& file, AxlObj const* cell)
     return {shownPath(file), cell != nullptr ? cell->line() : 0, cell != nullptr ? cell->column() : 0};
 }
 
+bool Places::hasRead(RecordWalk const& at)
+{
+    return (at.isInRecordsOwnFile() && at.record().objectNode()) || source(at.file()).isRead();
+}
+
 Source const& Places::source(std::string const& file)
 {
-    return mySources.try_emplace(file, file).first->second;
+    auto known = mySources.find(file);
+    if (known == mySources.end())
+    {
+        known = mySources.emplace(file, Source::again(file)).first;
+    }
+    return known->second;
 }

@@ -33,6 +33,10 @@ public:
     AxlObj const* valueIn(std::string const& file, std::span<SourceStep const> path);
     /// Where the record begins.
     Place ofRecord(RecordWalk const& walk);
+    /// Whether the file in which the walk stands could be searched at all.
+    bool hasRead(RecordWalk const& at);
+    /// The same of a file of parameter text.
+    bool hasRead(std::string const& file) { return source(file).isRead(); }
     static Place at(std::string const& file, AxlObj const* cell);
 
 private:

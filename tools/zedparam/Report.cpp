@@ -73,18 +73,17 @@ public:
         }
         collect();
         check();
-        Findings muted(Findings::Print::Never); // told already
-        bool isWritten = myFolder.notePages() && writeRecords() && writeTables() && writeIndex() && writeFindings();
-        isWritten = isWritten && myFolder.writeText("search.js", "window.zedSearch = " + mySearch.endArray().text()) &&
-                    myFolder.removeOldPages();
-        if (!isWritten)
+        std::vector<AxDiagnostic> unread;
+        if (!writePages(unread))
         {
             return CouldNotRun;
         }
+        std::erase_if(unread, [this](AxDiagnostic const& finding) { return isFound(finding); });
+        std::ranges::for_each(unread, AxDiagnostics::report);
         std::printf("%zu %s, %zu %s, %zu %s\n", myEntries.size(), myEntries.size() == 1 ? "entry" : "entries",
                     myTables.size(), myTables.size() == 1 ? "table" : "tables", myFindings.size(),
                     myFindings.size() == 1 ? "finding" : "findings");
-        return myFindings.empty() ? Fine : HasFindings;
+        return myFindings.empty() && unread.empty() ? Fine : HasFindings;
     }
 
 private:
@@ -130,6 +129,25 @@ private:
         myFolder.setFindings(myFindings.size());
     }
 
+    /// The files that could not be read for the pages come into `unread`.
+    bool writePages(std::vector<AxDiagnostic>& unread)
+    {
+        Findings muted(Findings::Print::Never); // what there is to tell of what they hold the check told
+        bool const isWritten = myFolder.notePages() && writeRecords() && writeTables() && writeIndex() &&
+                               writeFindings() &&
+                               myFolder.writeText("search.js", "window.zedSearch = " + mySearch.endArray().text()) &&
+                               myFolder.removeOldPages();
+        unread = muted.unread();
+        return isWritten;
+    }
+
+    /// Whether the check found the same.
+    bool isFound(AxDiagnostic const& finding) const
+    {
+        return std::ranges::any_of(myFindings, [&finding](AxDiagnostic const& found)
+                                   { return found.code == finding.code && found.file == finding.file; });
+    }
+
     bool writeRecords()
     {
         Progress progress("writing records", myEntries.size());
@@ -173,7 +191,7 @@ private:
     std::string unreadPage(ReportEntry const& entry) const
     {
         return pageHead(entry) + "</dl>\n<p>The record cannot be read.</p>\n" + findingsOf(entry.file) + below(entry) +
-               textOf(entry.file);
+               textOf(entry.file, false);
     }
 
     std::string recordPage(std::size_t index, AxZedObjectParameters& record)
@@ -201,7 +219,7 @@ private:
         return out + "</dl>\n" + jumps(!connections.empty()) + findingsOf(entry.file) + below(entry) + connections +
                "<h2 id=\"values\">Values</h2>\n<p hidden><label><input type=\"checkbox\" id=\"with-defaults\"> Show "
                "defaults too</label></p>\n" +
-               values + textOf(entry.file);
+               values + textOf(entry.file, true);
     }
 
     static std::string jumps(bool hasConnections)
@@ -217,10 +235,10 @@ private:
         return "<dt>" + std::string(name) + "</dt><dd>" + html + "</dd>\n";
     }
 
-    static std::string textOf(std::string const& file)
+    static std::string textOf(std::string const& file, bool wasRead)
     {
-        return "<h2 id=\"text\">Text</h2>\n<details><summary>The file as it is written</summary>\n" + htmlSource(file) +
-               "</details>\n";
+        return "<h2 id=\"text\">Text</h2>\n<details><summary>The file as it is written</summary>\n" +
+               htmlSource(file, wasRead) + "</details>\n";
     }
 
     /// The patterns that the entry stands below.

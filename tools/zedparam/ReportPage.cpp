@@ -9,6 +9,7 @@
 #include "AxFilename.h"
 #include "AxReadWholeFile.h"
 #include "Markup.h"
+#include "ReadFile.h"
 #include "ReportFiles.h"
 #include "ShownPath.h"
 #include "WriteFile.h"
@@ -164,11 +165,11 @@ std::string htmlCode(std::string_view text)
     return "<code>" + markup(text) + "</code>";
 }
 
-std::string htmlSource(std::string const& file)
+std::string htmlSource(std::string const& file, bool wasRead)
 {
     std::string text;
     int error = 0;
-    if (!axReadWholeFile(AxFilename(file), text, error))
+    if (!(wasRead ? readAgain(file, text) : axReadWholeFile(AxFilename(file), text, error)))
     {
         return "<p id=\"L1\">The file cannot be read.</p>\n";
     }

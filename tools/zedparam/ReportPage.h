@@ -53,5 +53,6 @@ std::string htmlLink(std::string const& href, std::string_view text);
 std::string htmlCode(std::string_view text);
 /// A way back to the top of the folder from a page in a folder of its own.
 constexpr char theReportRoot[] = "../";
-/// A text file with an anchor L1, L2 ... for each line.
-std::string htmlSource(std::string const& file);
+/// A text file with an anchor L1, L2 ... for each line. Of one that the library has read, it is reported when that
+/// cannot be done again.
+std::string htmlSource(std::string const& file, bool wasRead);

@@ -122,15 +122,17 @@ std::string prioritiesOf(AxTargetPriorityList const& table)
 std::string reportTable(std::string const& file)
 {
     std::string out;
+    bool wasRead = false;
     if (file.ends_with(".frm"))
     {
         out = "<p>A formation of a unit.</p>\n";
     }
     else if (std::unique_ptr<TableFile> table = TableFile::open(file))
     {
+        wasRead = true;
         out = table->kind() == TableKind::Ammunition   ? ammunitionOf(table->as<AxAmmoSelectTable>())
               : table->kind() == TableKind::Priorities ? prioritiesOf(table->as<AxTargetPriorityList>())
                                                        : curvesOf(std::move(table));
     }
-    return out + "<h2>Text</h2>\n" + htmlSource(file);
+    return out + "<h2>Text</h2>\n" + htmlSource(file, wasRead);
 }

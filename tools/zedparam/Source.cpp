@@ -1,12 +1,14 @@
 #include "Source.h"
 
 #include <exception>
+#include <utility>
 
 #include "AxDiagnostic.h"
 #include "AxFilename.h"
 #include "AxReadWholeFile.h"
 #include "AxReaderWriter.h"
 #include "AxlFunctions.h"
+#include "ReadFile.h"
 
 namespace
 {
@@ -54,10 +56,21 @@ Source::Source(std::string const& file)
 {
     std::string text;
     int error = 0;
-    if (!axReadWholeFile(AxFilename(file), text, error))
-    {
-        return;
-    }
+    myIsRead = axReadWholeFile(AxFilename(file), text, error);
+    parse(std::move(text));
+}
+
+Source Source::again(std::string const& file)
+{
+    Source source{AxlObjPtr()};
+    std::string text;
+    source.myIsRead = readAgain(file, text);
+    source.parse(std::move(text));
+    return source;
+}
+
+void Source::parse(std::string text)
+{
     AxlInputStream stream(std::move(text));
     try
     {

@@ -33,6 +33,11 @@ public:
     explicit Source(AxlObjPtr expression) : myExpression(std::move(expression)) {}
 
     /// Nil when there is none.
+    /// Of a file that the library has read: that it cannot be read once more is reported.
+    static Source again(std::string const& file);
+
+    /// False when searches find nothing because the file could not be read.
+    bool isRead() const { return myIsRead; }
     AxlObj const& expression() const { return *myExpression; }
     /// What follows the last keyword.
     AxlObj const* value(std::span<SourceStep const> path) const;
@@ -49,5 +54,8 @@ public:
     static void setPlace(AxDiagnostic& finding, AxlObj const* cell);
 
 private:
+    void parse(std::string text);
+
     AxlObjPtr myExpression;
+    bool myIsRead = true;
 };

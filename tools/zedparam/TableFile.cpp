@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "AxAmmoSelectTable.h"
+#include "AxDiagnostic.h"
 #include "AxDmgMunitionTable.h"
 #include "AxRangeProbabilityTable.h"
 #include "AxSourceScope.h"
@@ -168,7 +169,12 @@ std::unique_ptr<TableFile> TableFile::open(std::string const& file, std::string 
         result->myTable = makeTable(result->myKind);
         result->myText = &text;
         result->myName = headOf(text);
-        return loadTable(file, *result->myTable) ? std::move(result) : nullptr;
+        bool const isLoaded = loadTable(file, *result->myTable);
+        if (isLoaded && !result->mySource.isRead())
+        {
+            AxDiagnostics::report({.code = "cannot-open", .file = file, .text = "cannot read the file"});
+        }
+        return isLoaded && result->mySource.isRead() ? std::move(result) : nullptr;
     }
     std::vector<FoundTable> tables;
     findTables(text, std::string(headOf(text)), tables);

@@ -13,6 +13,7 @@
 #include "Database.h"
 #include "Progress.h"
 #include "RecordCheck.h"
+#include "Source.h"
 
 namespace fs = std::filesystem;
 
@@ -71,7 +72,10 @@ bool checkTable(fs::path const& path, CheckedFiles& files, Findings& findings)
 {
     std::unique_ptr<AxReaderWriter> const table = newTable(path);
     bool const isLoaded = loadTable(path.string(), *table);
-    checkContent(path.string(), *table, files, findings);
+    if (isLoaded || Source(path.string()).isRead())
+    {
+        checkContent(path.string(), *table, files, findings);
+    }
     return isLoaded;
 }
 
