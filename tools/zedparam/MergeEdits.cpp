@@ -18,6 +18,12 @@ void MergeEdits::conflict(MergeSource::Stretch const& ours, std::string_view the
     myEdits.push_back({ours.begin, ours.end, adapted(theirs), true, std::move(what)});
 }
 
+bool MergeEdits::haveAny(Mark since, std::size_t offset) const
+{
+    return std::any_of(myEdits.begin() + static_cast<std::ptrdiff_t>(since), myEdits.end(),
+                       [offset](Edit const& edit) { return edit.begin == offset && edit.end == offset; });
+}
+
 /// With the line ends of the text that it goes into.
 std::string MergeEdits::adapted(std::string_view text) const
 {

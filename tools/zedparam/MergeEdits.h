@@ -20,6 +20,8 @@ public:
     void conflict(MergeSource::Stretch const& ours, std::string_view theirs, MergeConflict what);
 
     Mark mark() const { return myEdits.size(); }
+    /// Whether anything was put in front of that byte since.
+    bool haveAny(Mark since, std::size_t offset) const;
     void goBackTo(Mark mark) { myEdits.resize(mark); }
 
     MergeResult apply();

@@ -142,7 +142,12 @@ public:
         layout.head = {begin, myText.find_first_of(" \t\r\n/>", begin)};
         layout.body = XmlText::tagEnd(myText, begin);
         bool const isEmpty = myText[layout.body - 2] == '/';
-        layout.shape.append(myEncoding).append(at(layout.head)).append(isEmpty ? " /" : " ").append(list.text);
+        layout.shape.append(myEncoding).append(at(layout.head)).append(" ").append(list.text);
+        if (isEmpty)
+        {
+            layout.emptyMark = {layout.body - 2, layout.body};
+            layout.endTag.append("</").append(at(layout.head).substr(1)).append(">");
+        }
         std::size_t const first = myText.find_first_not_of(theSpaces, layout.head.end);
         if (std::string_view(myText).substr(first, myText.find_first_of("= \t\r\n", first) - first) == "name")
         {

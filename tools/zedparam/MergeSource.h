@@ -33,6 +33,8 @@ public:
         Stretch head{};       ///< what it begins with, up to the first item or attribute
         std::size_t body = 0; ///< where the first item goes that is no attribute
         Stretch closing{};    ///< behind the last item, in front of what ends the list
+        Stretch emptyMark{};  ///< the "/>" of an element without content, behind which that would go
+        std::string endTag{}; ///< what would then end it
         std::map<Item const*, Unit> units{}; ///< in their order, for the items lie side by side
     };
 

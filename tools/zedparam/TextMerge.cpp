@@ -150,8 +150,26 @@ private:
         {
             mergeElement(element, elements.at(element.key), layouts);
         }
+        MergeEdits::Mark const mark = myEdits.mark();
         addTheirs(lists, elements, layouts);
-        return mergeStretch(layouts, &Layout::closing);
+        bool const isMerged = mergeStretch(layouts, &Layout::closing);
+        if (!layouts[Ours]->endTag.empty() && myEdits.haveAny(mark, layouts[Ours]->body))
+        {
+            giveContent(*layouts[Ours]);
+        }
+        return isMerged;
+    }
+
+    /// Makes an element without content one with what was added behind its tag.
+    void giveContent(Layout const& element)
+    {
+        std::size_t const begin = element.head.begin;
+        std::string_view const text = mySources[Ours]->text();
+        std::size_t const line = text.find_last_not_of(" \t", begin - 1);
+        bool const beginsLine = line != std::string_view::npos && text[line] == '\n';
+        std::string const indent(beginsLine ? text.substr(line, begin - line) : std::string_view());
+        myEdits.replace(element.emptyMark, ">");
+        myEdits.replace({element.body, element.body}, indent + element.endTag);
     }
 
     /// Of something that has no parts: theirs when ours is as it was.
