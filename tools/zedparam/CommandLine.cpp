@@ -2,12 +2,12 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
 #include <cstdio>
 #include <string_view>
 #include <utility>
 
 #include "AxNearest.h"
+#include "AxNumberText.h"
 #include "Commands.h"
 #include "ShownPath.h"
 
@@ -82,8 +82,7 @@ Command& Command::notNegative()
         [](std::string const& value)
         {
             double number = 0.0;
-            auto const [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
-            bool const isFine = error == std::errc() && end == value.data() + value.size() && number >= 0.0;
+            bool const isFine = axParseReal(value, number) && number >= 0.0;
             return isFine ? std::string() : "expected a number, 0 or more, found \"" + value + "\"";
         },
         "NONNEGATIVE"));

@@ -41,12 +41,12 @@ void reportFault(std::string const& expression, ExpressionFault const& fault)
                  static_cast<int>(fault.column), "^");
 }
 
-/// Tells of the keywords that nothing had; often they are misspelt. `who` was asked for them.
-void reportUnknown(std::vector<FindExpression::Path> const& paths, char const* who)
+/// Tells of the keywords that nothing had, but for those in `told`; often they are misspelt. `who` was asked for them.
+void reportUnknown(std::vector<FindExpression::Path> const& paths, char const* who, std::set<std::string>& told)
 {
     for (FindExpression::Path const& path : paths)
     {
-        if (path.wasFound || !path.wasAsked)
+        if (path.wasFound || !path.wasAsked || !told.insert(path.keywords.text()).second)
         {
             continue;
         }
@@ -101,10 +101,11 @@ public:
 private:
     void tellWhatIsOdd() const
     {
-        reportUnknown(myExpression.paths(), "record");
+        std::set<std::string> told;
+        reportUnknown(myExpression.paths(), "record", told);
         if (myHasFound && !myOptions.keywords.empty())
         {
-            reportUnknown(myShown, "record that was found");
+            reportUnknown(myShown, "record that was found", told);
         }
         for (std::string const& line : myExpression.futile())
         {

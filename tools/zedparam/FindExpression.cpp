@@ -188,9 +188,12 @@ void FindExpression::appendFutile(Node const& node, std::vector<std::string>& ou
     {
         return;
     }
-    bool const isRightToBlame = !node.rightKinds.numbers && node.right.kind != Operand::Kind::Literal;
-    bool const isText = isRightToBlame || !node.leftKinds.numbers;
-    if (!isText && node.leftKinds.texts)
+    // What a record has, rather than what was written for it to be held against.
+    bool const isRightToBlame = node.left.kind == Operand::Kind::Literal ||
+                                (!node.rightKinds.numbers && node.right.kind != Operand::Kind::Literal);
+    Kinds const& kinds = isRightToBlame ? node.rightKinds : node.leftKinds;
+    bool const isText = !kinds.numbers;
+    if (!isText && kinds.texts)
     {
         return; // some are numbers, some texts
     }
