@@ -3,22 +3,30 @@
 #include <algorithm>
 #include <iterator>
 #include <set>
+#include <span>
 #include <tuple>
 #include <utility>
 
 #include "AxNearest.h"
+#include "AxPrbProbabilityCoefficients.h"
 #include "AxPrbRangeTableEntry.h"
 #include "AxReaderWriterFile.h"
+#include "AxRwInt.h"
 #include "AxRwList.h"
 #include "AxRwProperties.h"
 #include "AxRwRealAttributeList.h"
 #include "AxRwString.h"
 #include "AxRwStringAttributeList.h"
+#include "AxRwUnsigned.h"
 #include "AxlPrint.h"
+#include "PathText.h"
 #include "RangeText.h"
+#include "RecordValue.h"
+#include "RowCheck.h"
 #include "ShownPath.h"
 #include "TextPath.h"
 #include "TextPlacement.h"
+#include "Units.h"
 
 namespace
 {
@@ -55,6 +63,23 @@ bool isLeadingItem(std::string_view name)
         "parameter-type", "component-descriptor-type", "comm-model-descriptor-type", "object-type", "match-type",
         "record-name"};
     return std::ranges::find(theWords, name) != std::end(theWords);
+}
+
+bool toOwnUnit(std::string& value, AxReaderWriter const* rw, std::string const& name, std::string& fault)
+{
+    std::string unit;
+    double number = 0.0;
+    bool const hasUnit = rw != nullptr && !isText(rw) && rw->property() == nullptr && unitOf(*rw, name, unit);
+    if (!hasUnit || (unit.empty() && !numberIn(*rw, number)))
+    {
+        return true;
+    }
+    bool const isWhole =
+        dynamic_cast<AxRwInt const*>(rw) != nullptr || dynamic_cast<AxRwUnsigned const*>(rw) != nullptr;
+    std::string why;
+    bool const isConverted = convertUnit(value, unit, isWhole, why);
+    fault = isConverted ? std::string() : "\"" + name + "\" " + why;
+    return isConverted;
 }
 
 std::string valueText(std::string const& value, AxReaderWriter const* rw, AxReaderWriter const* outer)
@@ -108,7 +133,7 @@ ElsewhereNote elsewhere(AxReaderWriter const* rw, std::string const& name, std::
     }
     if (member != nullptr)
     {
-        std::size_t const slash = path.find('/');
+        std::size_t const slash = findOutsideQuotes(path, '/');
         path = slash == std::string_view::npos ? std::string_view() : path.substr(slash + 1);
     }
     return {"\"" + of + "\" is read from \"" + shownPath(file->foundFilename().native()) + "\"",
@@ -135,6 +160,17 @@ AxDiagnostic valueFault(AxReaderWriter const& member, AxReaderWriter const* oute
         fault.code = "out-of-range";
         fault.text = "\"" + name + "\" is " + text;
         fault.hint = "--force sets it all the same";
+    }
+    else if (auto const* const polynomial = dynamic_cast<AxPrbProbabilityCoefficients const*>(&member))
+    {
+        std::span const coefficients(polynomial->coefficients(),
+                                     static_cast<std::size_t>(polynomial->numCoefficients()));
+        if (std::string const extent = extentOutside(coefficients); !extent.empty())
+        {
+            fault.code = "out-of-range";
+            fault.text = "\"" + name + "\" is " + extent + " at every range, expected 0 to 1";
+            fault.hint = "--force sets it all the same";
+        }
     }
     return fault;
 }

@@ -20,6 +20,10 @@ bool holdsNamedValues(AxReaderWriter const* rw);
 /// Words that tell what a record or element is; they are read before there are members.
 bool isLeadingItem(std::string_view name);
 
+/// Converts a number with a unit behind it, such as "36 km/h", to the unit in which the member stands in files. False,
+/// and `fault` tells why, for a unit that does not go with it.
+bool toOwnUnit(std::string& value, AxReaderWriter const* rw, std::string const& name, std::string& fault);
+
 /// What follows the keyword, as it stands in parameter text; empty for what is no value. `rw` reads it, `outer` what it
 /// stands in; either is null when nothing is known of it. The type of a property may be left out.
 std::string valueText(std::string const& value, AxReaderWriter const* rw, AxReaderWriter const* outer);

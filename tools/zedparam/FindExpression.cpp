@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <numbers>
 #include <utility>
 
 #include "AxNumberText.h"
@@ -54,40 +53,8 @@ struct FindExpression::Subject
     ExpressionFault& fault;
 };
 
-FindExpression::Unit const FindExpression::theUnits[] = {
-    {"m", "m", 1.0},
-    {"km", "m", 1000.0},
-    {"cm", "m", 0.01},
-    {"ft", "m", 0.3048},
-    {"nmi", "m", 1852.0},
-    {"m/s", "m/s", 1.0},
-    {"km/h", "m/s", 1.0 / 3.6},
-    {"kt", "m/s", 1852.0 / 3600.0},
-    {"m/s2", "m/s2", 1.0},
-    {"rad", "rad", 1.0},
-    {"deg", "rad", std::numbers::pi / 180.0},
-    {"rad/s", "rad/s", 1.0},
-    {"deg/s", "rad/s", std::numbers::pi / 180.0},
-    {"s", "s", 1.0},
-    {"ms", "s", 0.001},
-    {"min", "s", 60.0},
-    {"h", "s", 3600.0},
-    {"kg", "kg", 1.0},
-    {"t", "kg", 1000.0},
-    {"Hz", "Hz", 1.0},
-    {"kHz", "Hz", 1e3},
-    {"MHz", "Hz", 1e6},
-    {"GHz", "Hz", 1e9},
-};
-
 FindExpression::FindExpression() = default;
 FindExpression::~FindExpression() = default;
-
-FindExpression::Unit const* FindExpression::unit(std::string_view name)
-{
-    auto const found = std::ranges::find(theUnits, name, [](Unit const& unit) { return std::string_view(unit.name); });
-    return found != std::end(theUnits) ? found : nullptr;
-}
 
 bool FindExpression::holds(AxSxpParameterDbEntry const& entry, RecordWalk& walk, ExpressionFault& fault)
 {

@@ -8,6 +8,7 @@
 
 #include "RecordValue.h"
 #include "RecordWalk.h"
+#include "Units.h"
 
 class AxSxpParameterDbEntry;
 
@@ -57,12 +58,6 @@ private:
         GreaterOrEqual,
         Like
     };
-    struct Unit
-    {
-        char const* name;
-        char const* base; ///< in which values stand in files
-        double factor;
-    };
     struct Operand
     {
         enum class Kind
@@ -90,8 +85,6 @@ private:
 
     FindExpression();
 
-    static Unit const theUnits[];
-    static Unit const* unit(std::string_view name);
     bool holds(Node& node, Subject& subject);
     bool compares(Node& node, Subject& subject);
     void appendFutile(Node const& node, std::vector<std::string>& out) const;

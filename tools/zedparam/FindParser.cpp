@@ -5,6 +5,7 @@
 
 #include "AxNumberText.h"
 #include "FindNode.h"
+#include "PathText.h"
 
 /// Reads an expression: `or` binds least, then `and`, `not`, and comparisons.
 class ExpressionParser
@@ -94,10 +95,11 @@ private:
         }
         else
         {
+            end = myAt;
             while (end < myText.size() && !isBlank(myText[end]) &&
                    theSigns.find(myText[end]) == std::string_view::npos && myText[end] != '"' && myText[end] != '\'')
             {
-                ++end;
+                end = std::max(end + 1, behindQuoted(myText, end));
             }
             myToken.kind = Token::Kind::Word;
         }
@@ -269,12 +271,12 @@ private:
         std::string unit = text.substr(end);
         std::size_t const column = myToken.column + end;
         advance();
-        if (unit.empty() && myToken.kind == Token::Kind::Word && FindExpression::unit(myToken.text) != nullptr)
+        if (unit.empty() && myToken.kind == Token::Kind::Word && unitNamed(myToken.text) != nullptr)
         {
             unit = myToken.text;
             advance();
         }
-        operand.unit = unit.empty() ? nullptr : FindExpression::unit(unit);
+        operand.unit = unit.empty() ? nullptr : unitNamed(unit);
         if (!unit.empty() && operand.unit == nullptr)
         {
             throw Failure{{column, "expected a unit such as km/h or deg, found \"" + unit + "\""}};

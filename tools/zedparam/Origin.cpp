@@ -8,6 +8,7 @@
 #include "Collection.h"
 #include "ElementSource.h"
 #include "Json.h"
+#include "PathText.h"
 #include "ShownPath.h"
 
 namespace
@@ -20,7 +21,7 @@ KeywordPath pathOf(std::span<SourceStep const> steps, std::string const& rest)
     std::string text;
     for (SourceStep const& step : steps)
     {
-        text.append(step.keyword.isNull() ? "*" : step.keyword.view()).append("/");
+        text.append(step.keyword.isNull() ? "*" : stepOf(step.keyword.view())).append("/");
     }
     KeywordPath path;
     std::string fault;
@@ -137,7 +138,7 @@ Origin Origins::ofInherited(RecordWalk const& at)
     Origin origin;
     origin.kind = Origin::Kind::Inherited;
     auto const* collection = dynamic_cast<Collection const*>(&myDatabase);
-    KeywordPath const path = pathOf(at.steps().first(at.steps().size() - 1), at.keyword().string().string());
+    KeywordPath const path = pathOf(at.steps().first(at.steps().size() - 1), stepOf(at.keyword().view()));
     AxObjectType type = myEntry.objectType();
     bool isFound = false;
     while (collection != nullptr && !isFound)
@@ -205,7 +206,6 @@ AxlObj const* Origins::cellOf(std::string const& variable, Place& place)
             place = Places::at(walk.files().front(), cell);
             return cell;
         }
-    }
         if (!myPlaces.hasRead(walk.files().front()))
         {
             place.file = shownPath(walk.files().front());
@@ -215,16 +215,17 @@ AxlObj const* Origins::cellOf(std::string const& variable, Place& place)
     if (myDatabase.file().empty()) // a collection of records binds nothing
     {
         return nullptr;
+    }
     AxlObj const* const cell = myPlaces.valueIn(myDatabase.file(), steps);
     if (cell != nullptr)
     {
         place = Places::at(myDatabase.file(), cell);
     }
-    return cell;
     else if (!myPlaces.hasRead(myDatabase.file()))
     {
         place.file = shownPath(myDatabase.file());
     }
+    return cell;
 }
 
 void Origins::bind(std::string variable, RecordWalk const& at, Origin& origin)
@@ -263,7 +264,7 @@ bool Origins::bindToSystem(std::string const& variable, RecordWalk const& at, Or
     {
         return false;
     }
-    walk.run(pathOf(at.steps().first(system), variable),
+    walk.run(pathOf(at.steps().first(system), stepOf(variable)),
              [&](RecordWalk const& member)
              {
                  Origin const its = of(member);

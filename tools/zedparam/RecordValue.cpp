@@ -114,20 +114,25 @@ void appendAtoms(RecordWalk const& at, std::vector<Atom>& atoms)
 
 bool unitOf(RecordWalk const& at, std::string& unit)
 {
-    if (AxKeyword const* const description = at.rw().description())
+    return unitOf(at.rw(), at.keyword().view(), unit);
+}
+
+bool unitOf(AxReaderWriter const& rw, std::string_view keyword, std::string& unit)
+{
+    if (AxKeyword const* const description = rw.description())
     {
         unit = description->unit;
         return true;
     }
     // The parameters of a component system are declared, with their units, in its definition.
-    AxReaderWriterRegistry const* const registry = at.rw().parentRegistry();
+    AxReaderWriterRegistry const* const registry = rw.parentRegistry();
     auto const* system =
         registry != nullptr ? dynamic_cast<AxComponentSystemDescriptor const*>(registry->owner()) : nullptr;
     if (system != nullptr)
     {
         for (AxSystemParameterData const* parameter : system->systemDefinition()->metaData().paramterDataList())
         {
-            if (at.keyword() == parameter->parameterName())
+            if (parameter->parameterName().string() == keyword)
             {
                 unit = parameter->sourceUnits().string();
                 return !unit.empty();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "AxlObj.h"
@@ -31,5 +32,7 @@ Atom atomOf(double number);
 void appendAtoms(RecordWalk const& at, std::vector<Atom>& atoms);
 /// The unit of that value; false when nobody told one, empty for a value that has none.
 bool unitOf(RecordWalk const& at, std::string& unit);
+/// The same of a member and the keyword that it was come to by.
+bool unitOf(AxReaderWriter const& rw, std::string_view keyword, std::string& unit);
 /// The value at which the walk stands as in parameter text; empty for records and lists.
 std::string valueText(RecordWalk const& at);

@@ -1,7 +1,6 @@
 #include "RecordWalk.h"
 
 #include <algorithm>
-#include <charconv>
 #include <typeinfo>
 #include <unordered_map>
 #include <utility>
@@ -17,6 +16,8 @@
 #include "AxRwUnsigned.h"
 #include "AxZedObjectParameters.h"
 #include "AxlFunctions.h"
+#include "NamedElement.h"
+#include "PathText.h"
 #include "RecordValue.h"
 
 namespace
@@ -25,7 +26,8 @@ using Step = KeywordPath::Step;
 
 bool matches(Step const& step, SourceStep const& at)
 {
-    bool const isThat = step.occurrence == SourceStep::theLast || step.occurrence == std::max(at.occurrence, 0);
+    bool const isThat = (step.occurrence == SourceStep::theLast || step.occurrence == std::max(at.occurrence, 0)) &&
+                        (step.identity.empty() || ownName(*at.rw) == step.identity);
     return isThat && (step.kind == Step::Kind::Any || step.keyword == at.keyword || at.rw->hasAlias(step.keyword));
 }
 
@@ -90,47 +92,30 @@ std::string_view neededText(std::span<Step const> rest)
 }
 } // namespace
 
-bool takePosition(std::string& name, std::size_t& position)
-{
-    position = 0;
-    std::size_t const bracket = name.rfind('[');
-    if (bracket == std::string::npos || !name.ends_with(']'))
-    {
-        return true;
-    }
-    char const* const end = name.data() + name.size() - 1;
-    auto const [stop, error] = std::from_chars(name.data() + bracket + 1, end, position);
-    name.resize(bracket);
-    return error == std::errc() && stop == end && position != 0;
-}
-
 bool KeywordPath::parse(std::string_view text, KeywordPath& out, std::string& fault)
 {
     out.myText = text;
     out.mySteps.clear();
     int anyDepths = 0;
-    for (std::size_t begin = 0; begin <= text.size();)
+    std::vector<KeywordStep> steps;
+    bool const isPath = readPath(text, steps);
+    for (KeywordStep const& step : steps)
     {
-        std::size_t const end = std::min(text.find('/', begin), text.size());
-        std::string word(text.substr(begin, end - begin));
-        std::size_t position = 0;
-        bool const isWord = takePosition(word, position);
-        begin = end + 1;
-        Step::Kind const kind = word == "*"    ? Step::Kind::Any
-                                : word == "**" ? Step::Kind::AnyDepth
-                                               : Step::Kind::Keyword;
+        Step::Kind const kind = step.isQuoted       ? Step::Kind::Keyword
+                                : step.name == "*"  ? Step::Kind::Any
+                                : step.name == "**" ? Step::Kind::AnyDepth
+                                                    : Step::Kind::Keyword;
         anyDepths += kind == Step::Kind::AnyDepth;
-        if (word.empty() || !isWord || anyDepths > 1)
-        {
-            fault = "\"" + std::string(text) + "\" is no path of keywords; expected one such as \"max-speed\"";
-            fault += anyDepths > 1 ? ", with \"**\" at most once" : "";
-            return false;
-        }
-        out.mySteps.push_back({kind,
-                               kind == Step::Kind::Keyword ? AxSymbolString(std::string_view(word)) : AxSymbolString(),
-                               static_cast<int>(position) - 1});
+        bool const isWord = kind == Step::Kind::Keyword;
+        out.mySteps.push_back({kind, isWord ? AxSymbolString(std::string_view(step.name)) : AxSymbolString(),
+                               static_cast<int>(step.position) - 1, step.identity});
     }
-    return true;
+    if (!isPath || anyDepths > 1)
+    {
+        fault = "\"" + std::string(text) + "\" is no path of keywords; expected one such as \"max-speed\"";
+        fault += anyDepths > 1 ? ", with \"**\" at most once" : "";
+    }
+    return isPath && anyDepths <= 1;
 }
 
 KeywordPath const& KeywordPath::everything()
@@ -143,6 +128,12 @@ KeywordPath const& KeywordPath::everything()
         return path;
     }();
     return everything;
+}
+
+std::string_view KeywordPath::last() const
+{
+    bool const isWord = mySteps.back().kind == Step::Kind::Keyword;
+    return isWord ? mySteps.back().keyword.view() : std::string_view(myText).substr(myText.rfind('/') + 1);
 }
 
 bool KeywordPath::isPlain() const
@@ -166,7 +157,7 @@ std::string RecordWalk::path() const
     std::string path;
     for (SourceStep const& step : steps())
     {
-        path.append(path.empty() ? "" : "/").append(step.keyword.isNull() ? "*" : step.keyword.view());
+        path.append(path.empty() ? "" : "/").append(step.keyword.isNull() ? "*" : stepOf(step.keyword.view()));
         path.append(step.isOneOfSeveral ? "[" + std::to_string(step.occurrence + 1) + "]" : std::string());
     }
     return path;
@@ -256,12 +247,14 @@ void RecordWalk::elements(AxReaderWriter& rw, Steps rest)
         names.push_back(nameOf(*AxRwList::element(item)));
         occurrences.count(names.back());
     }
+    bool const byOwnName = !only.isNull() && std::ranges::find(names, only) == names.end();
     auto name = names.cbegin();
     for (AxListItem const* item = first; item != nullptr; item = item->next(), ++name)
     {
         AxReaderWriter& element = *AxRwList::element(item);
         SourceStep const step = occurrences.next(*name, element);
-        if ((only.isNull() || only == *name) && (!onlyReferences || element.isVariableReference()))
+        bool const isMeant = byOwnName ? ownName(element) == only.view() : only.isNull() || only == *name;
+        if (isMeant && (!onlyReferences || element.isVariableReference()))
         {
             child(step, element, nullptr, rest);
         }
@@ -343,7 +336,8 @@ void RecordWalk::child(SourceStep const& step, AxReaderWriter& rw, AxlObj const*
     mySteps.push_back(step);
     if (rest.front().kind != Step::Kind::AnyDepth)
     {
-        if (rest.front().occurrence == SourceStep::theLast || matches(rest.front(), step))
+        bool const isNarrowed = rest.front().occurrence != SourceStep::theLast || !rest.front().identity.empty();
+        if (!isNarrowed || matches(rest.front(), step))
         {
             arrive(rw, item, rest.subspan(1));
         }

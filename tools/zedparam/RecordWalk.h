@@ -15,8 +15,10 @@ class AxReaderWriterRegistry;
 class AxZedObjectParameters;
 
 /// Keywords from a record inwards, as users write them: "systems/main-gun/reload-time". A list has its elements by
-/// name, a file member what it read; of several of one name "position[2]" is the second. A step of "*" is any keyword;
-/// "**", once in a path, any number of steps, also none.
+/// name, a file member what it read; of several of one name "position[2]" is the second, and "real-resource["fuel"]"
+/// the one that calls itself so. What is called by no keyword is looked for among what elements call themselves. A step
+/// of
+/// "*" is any keyword; "**", once in a path, any number of steps, also none.
 class KeywordPath
 {
 public:
@@ -31,6 +33,7 @@ public:
         Kind kind;
         AxSymbolString keyword{};
         int occurrence = SourceStep::theLast; ///< from 0; that or any, where none is given
+        std::string identity{};               ///< what the element calls itself; empty for any
     };
 
     /// False, and `fault` tells why, for a text that is no path.
@@ -44,15 +47,12 @@ public:
     /// Whether it names at most one object, but for lists with several elements of one name.
     bool isPlain() const;
     /// The last step as text.
-    std::string_view last() const { return std::string_view(myText).substr(myText.rfind('/') + 1); }
+    std::string_view last() const;
 
 private:
     std::string myText;
     std::vector<Step> mySteps;
 };
-
-/// Takes "[2]" from the end of a name; 0 when there is none. False for what is no number from 1.
-bool takePosition(std::string& name, std::size_t& position);
 
 /// Goes through a record and the contents of its files along a path, and knows for each object how it is reached and
 /// where it is read. Words that an object writes besides its members ("parameter-type") are come to as well.

@@ -54,32 +54,6 @@ Row readRow(AxlObj const& range, AxlObj const* outcomes, CellReport const& repor
     return row;
 }
 
-/// The value of a constant that is no probability, "below 0" or "above 1" when all values of a polynomial are; empty
-/// for others. The coefficient of the highest power stands first.
-std::string extentOf(AxlObj const& coefficients)
-{
-    if (coefficients.cdr()->nil())
-    {
-        double const constant = coefficients.car()->flonum();
-        return isProbability(constant) ? std::string() : spelled(constant);
-    }
-    bool isBelow = true;
-    bool isAbove = true;
-    forEachRange(
-        [&](double range)
-        {
-            double value = 0.0;
-            for (AxlObj const* number = &coefficients; number->isPair(); number = number->cdr())
-            {
-                value = value * range + number->car()->flonum();
-            }
-            isBelow = isBelow && value < 0.0;
-            isAbove = isAbove && value > 1.0;
-            return isBelow || isAbove;
-        });
-    return isBelow ? "below 0" : isAbove ? "above 1" : "";
-}
-
 void checkOrder(std::vector<Row> const& rows, CellReport const& report)
 {
     for (std::size_t i = 0; i < rows.size(); ++i)
@@ -129,6 +103,29 @@ void checkOutcomes(std::vector<Row> const& rows, CellReport const& report)
 std::string spelled(double value)
 {
     std::string text;
+std::string extentOutside(std::span<double const> coefficients)
+{
+    if (coefficients.size() == 1)
+    {
+        return isProbability(coefficients.front()) ? std::string() : spelled(coefficients.front());
+    }
+    bool isBelow = !coefficients.empty();
+    bool isAbove = isBelow;
+    forEachRange(
+        [&](double range)
+        {
+            double value = 0.0;
+            for (double const coefficient : coefficients)
+            {
+                value = value * range + coefficient;
+            }
+            isBelow = isBelow && value < 0.0;
+            isAbove = isAbove && value > 1.0;
+            return isBelow || isAbove;
+        });
+    return isBelow ? "below 0" : isAbove ? "above 1" : "";
+}
+
     axAppendReal(text, value);
     return text;
 }
@@ -173,7 +170,12 @@ void checkCoefficients(AxlObj const& list, CellReport const& report)
     for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
     {
         AxlObj const& first = *rest->car()->cdr()->car();
-        std::string const extent = first.isNumber() ? extentOf(*rest->car()->cdr()) : std::string();
+        std::vector<double> coefficients;
+        for (AxlObj const* number = rest->car()->cdr(); first.isNumber() && number->isPair(); number = number->cdr())
+        {
+            coefficients.push_back(number->car()->flonum());
+        }
+        std::string const extent = extentOutside(coefficients);
         if (!extent.empty())
         {
             report("out-of-range", first,

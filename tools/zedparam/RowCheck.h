@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,10 @@ void checkRows(std::string const& file, Source const& source, Findings& findings
 
 /// Shows `goOn` the target and, in steps that grow with the range, what is around it, as far as it answers true.
 void forEachRange(std::function<bool(double range)> const& goOn);
+
+/// The value of a constant that is no probability, "below 0" or "above 1" when all values of a polynomial are; empty
+/// for others. The coefficient of the highest power stands first.
+std::string extentOutside(std::span<double const> coefficients);
 
 /// Whether a list is a range list or the coefficients of a determinant, and what is odd in it.
 void checkRangeList(AxlObj const& list, CellReport const& report);

@@ -12,6 +12,7 @@
 #include "Database.h"
 #include "Findings.h"
 #include "Json.h"
+#include "PathText.h"
 #include "ReadContext.h"
 #include "TextEditor.h"
 #include "WriteFile.h"
@@ -171,14 +172,16 @@ void addSetCommand(CommandLine& line)
 {
     addEditCommand(
         line, "set", "Changes values in a file; every other byte stays as it is.", "PATH=VALUE",
-        "Such as max-speed=20.5 or systems/main-gun/reload-time=6.0; all are set, or none",
+        "Such as max-speed=20.5, 'max-speed=60 km/h' or systems/main-gun/reload-time=6.0; all are set, or none",
         [](FileEditor& editor, std::string const& edit)
         {
-            std::size_t const equals = edit.find('=');
+            std::size_t const equals = findOutsideQuotes(edit, '=');
             return editor.set(edit.substr(0, equals), edit.substr(equals + 1));
         },
-        [](std::string const& edit) {
-            return edit.find('=') == std::string::npos ? "expected PATH=VALUE, found \"" + edit + "\"" : std::string();
+        [](std::string const& edit)
+        {
+            return findOutsideQuotes(edit, '=') == std::string::npos ? "expected PATH=VALUE, found \"" + edit + "\""
+                                                                     : std::string();
         });
 }
 

@@ -14,7 +14,9 @@
 #include "CommandLine.h"
 #include "Findings.h"
 #include "Json.h"
+#include "NamedElement.h"
 #include "Origin.h"
+#include "PathText.h"
 #include "RecordJson.h"
 #include "RecordValue.h"
 #include "RecordWalk.h"
@@ -36,32 +38,42 @@ void tellMissing(RecordWalk& walk, KeywordPath const& path)
 {
     // The longest beginning of the path that there is, and what stands below that.
     std::string const& text = path.text();
+    std::vector<KeywordStep> steps;
+    readPath(text, steps);
     std::string parent = walk.record().name().string().string();
-    std::string missing = text.substr(0, text.find('/'));
+    std::string missing = steps.front().name;
     std::vector<std::string> names;
-    auto const collect = [&](std::string const& pattern, auto const& visit)
+    auto const visit = [&](std::string const& pattern, RecordWalk::Visit const& visitor)
     {
         KeywordPath below;
         std::string fault;
         KeywordPath::parse(pattern, below, fault);
-        walk.run(below, visit);
+        walk.run(below, visitor);
     };
-    for (std::size_t end = text.rfind('/'); end != std::string::npos && end != 0; end = text.rfind('/', end - 1))
+    auto const collect = [&](RecordWalk const& at)
     {
+        names.push_back(at.keyword().string().string());
+        if (std::string const own = at.ownItem() == nullptr ? ownName(at.rw()) : std::string(); !own.empty())
+        {
+            names.push_back(own);
+        }
+    };
+    for (std::size_t count = steps.size() - 1; count > 0; --count)
+    {
+        std::string const prefix = text.substr(0, steps[count].begin - 1);
         bool isThere = false;
-        collect(text.substr(0, end), [&](RecordWalk const&) { isThere = true; });
+        visit(prefix, [&](RecordWalk const&) { isThere = true; });
         if (isThere)
         {
-            std::string const prefix = text.substr(0, end);
-            parent = prefix.substr(prefix.rfind('/') + 1);
-            missing = text.substr(end + 1, text.find('/', end + 1) - end - 1);
-            collect(prefix + "/*", [&](RecordWalk const& at) { names.push_back(at.keyword().string().string()); });
+            parent = steps[count - 1].name;
+            missing = steps[count].name;
+            visit(prefix + "/*", collect);
             break;
         }
     }
     if (names.empty())
     {
-        collect("*", [&](RecordWalk const& at) { names.push_back(at.keyword().string().string()); });
+        visit("*", collect);
     }
     std::vector<std::string_view> const known(names.begin(), names.end());
     std::string_view const nearest = axNearest(missing, known);

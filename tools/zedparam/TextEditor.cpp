@@ -85,7 +85,13 @@ bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::s
         return refuseAt(list, "no-value", "\"" + path.names.back() + "\" is not one value; name one that is in it",
                         names.empty() ? std::string() : "such as \"" + path.names.back() + "/" + names.front() + "\"");
     }
-    std::string const text = valueText(value, path.rw, path.outer);
+    std::string given = value;
+    std::string fault;
+    if (!toOwnUnit(given, path.rw, path.names.back(), fault))
+    {
+        return refuseAt(list.firstValue() ? list.firstValue() : list, "wrong-kind", fault);
+    }
+    std::string const text = valueText(given, path.rw, path.outer);
     if (text.empty())
     {
         return refuseAt(list, "no-value", "\"" + value + "\" is no value");
@@ -167,7 +173,13 @@ bool TextEditor::insert(TextTree const& tree, TextPath const& path, std::string 
     {
         return refuseAt(list, "no-value", "\"" + names.back() + "\" is not one value; name one that is in it");
     }
-    std::string const text = valueText(value, member, map);
+    std::string given = value;
+    std::string fault;
+    if (!toOwnUnit(given, member, names.back(), fault))
+    {
+        return refuseAt(list, "wrong-kind", fault);
+    }
+    std::string const text = valueText(given, member, map);
     if (text.empty())
     {
         return refuseAt(list, "no-value", "\"" + value + "\" is no value");

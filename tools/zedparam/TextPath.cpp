@@ -1,13 +1,15 @@
 #include "TextPath.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <utility>
 
 #include "AxObjectType.h"
 #include "AxReaderWriterFile.h"
 #include "EditedValue.h"
-#include "RecordWalk.h"
+#include "NamedElement.h"
+#include "PathText.h"
 
 namespace
 {
@@ -40,25 +42,36 @@ bool isFor(TextItem list, AxObjectType const& type)
     return false;
 }
 
-/// The items of `list` that `name` may mean.
-std::vector<TextItem> itemsNamed(std::string const& name, TextItem list, AxReaderWriter const* member)
+/// The items of `list` that the step may mean.
+std::vector<TextItem> itemsMeant(KeywordStep const& step, TextItem list, AxReaderWriter const* member)
 {
+    std::vector<TextItem> headed;
     std::vector<TextItem> named;
     AxObjectType type;
-    bool const isType = AxObjectType::fromString(name, type) && name.find(':') != std::string::npos;
+    bool const isType = AxObjectType::fromString(step.name, type) && step.name.find(':') != std::string::npos;
     for (TextItem item = list.firstValue(); item; item = item.next())
     {
+        if (!item.isList())
+        {
+            continue;
+        }
         std::string const head = item.head();
-        bool const isMeant =
-            item.isList() && !head.empty() &&
-            (head == name ||
-             (member != nullptr && (member->name() == AxString(head) || member->hasAlias(AxSymbolString::find(head)))));
-        if (isMeant || (isType && item.isList() && isFor(item, type)))
+        bool const isMember =
+            member != nullptr && (member->name() == AxString(head) || member->hasAlias(AxSymbolString::find(head)));
+        if ((!head.empty() && (head == step.name || isMember)) || (isType && isFor(item, type)))
+        {
+            headed.push_back(item);
+        }
+        else if (step.identity.empty() && ownName(item) == step.name)
         {
             named.push_back(item);
         }
     }
-    return named;
+    if (!step.identity.empty())
+    {
+        std::erase_if(headed, [&step](TextItem item) { return ownName(item) != step.identity; });
+    }
+    return headed.empty() ? named : headed;
 }
 } // namespace
 
@@ -66,49 +79,45 @@ TextPath TextPath::follow(std::string_view path, TextTree const& tree, TextReadi
 {
     TextPath result;
     result.text = path;
-    std::vector<std::size_t> positions;
-    std::vector<std::size_t> begins;
-    for (std::size_t begin = 0; begin <= path.size();)
+    std::vector<KeywordStep> steps;
+    if (!readPath(path, steps))
     {
-        begins.push_back(begin);
-        std::size_t const end = std::min(path.find('/', begin), path.size());
-        result.names.emplace_back(path.substr(begin, end - begin));
-        positions.push_back(0);
-        begin = end + 1;
-        if (!takePosition(result.names.back(), positions.back()) || result.names.back().empty())
-        {
-            result.fault = "\"" + std::string(path) + "\" is no path; expected one such as \"max-speed\", " +
-                           "\"sensors/radar/detection-period\" or \"range-list/range-entry[2]/hit\"";
-            return result;
-        }
+        result.fault = "\"" + std::string(path) + "\" is no path; expected one such as \"max-speed\", " +
+                       "\"sensors/radar/detection-period\" or \"range-list/range-entry[2]/hit\"";
+        return result;
     }
+    std::ranges::transform(steps, std::back_inserter(result.names), &KeywordStep::name);
     result.lists.push_back(tree.root());
     result.rw = reading.read(tree);
-    for (std::size_t i = 0; i < result.names.size(); ++i)
+    for (KeywordStep const& step : steps)
     {
-        std::string const& name = result.names[i];
-        AxReaderWriter const* const member = memberOf(result.rw, name);
-        std::vector<TextItem> const items = itemsNamed(name, result.lists.back(), member);
+        AxReaderWriter const* const member = memberOf(result.rw, step.name);
+        std::vector<TextItem> const items = itemsMeant(step, result.lists.back(), member);
         if (items.empty())
         {
-            auto [text, hint] = elsewhere(result.rw, name, path.substr(begins[i]));
-            result.fault = std::move(text);
-            result.hint = std::move(hint);
+            auto [text, hint] = elsewhere(result.rw, step.name, path.substr(step.begin));
+            bool const isAbsent = text.empty() && !step.identity.empty();
+            result.fault = isAbsent ? "there is no " + stepOf(step.name, step.identity) : std::move(text);
+            result.hint =
+                isAbsent ? nearestHint(step.identity, namesIn(result.lists.back(), nullptr)) : std::move(hint);
             return result;
         }
-        if (items.size() > 1 && positions[i] == 0 && member == nullptr)
+        if (items.size() > 1 && step.position == 0 && member == nullptr)
         {
-            result.fault = std::to_string(items.size()) + " items are \"" + name + "\"; name one as \"" + name +
-                           "[1]\" to \"" + name + "[" + std::to_string(items.size()) + "]\"";
+            std::vector<NamedElement> choices;
+            std::ranges::transform(items, std::back_inserter(choices),
+                                   [](TextItem item) {
+                                       return NamedElement{item.head(), ownName(item)};
+                                   });
+            result.fault = ambiguous(step.name, choices);
             return result;
         }
-        if (positions[i] > items.size())
+        if (step.position > items.size())
         {
-            result.fault = "there is no \"" + name + "[" + std::to_string(positions[i]) + "]\", only " +
-                           std::to_string(items.size());
+            result.fault = absent(step.name, step.position, items.size());
             return result;
         }
-        TextItem const chosen = positions[i] == 0 ? items.back() : items[positions[i] - 1];
+        TextItem const chosen = step.position == 0 ? items.back() : items[step.position - 1];
         result.lists.push_back(chosen);
         result.outer = result.rw;
         result.rw = result.rw != nullptr ? reading.part(*result.rw, chosen) : nullptr;
@@ -148,9 +157,12 @@ std::vector<std::string> namesIn(TextItem list, AxReaderWriter const* rw)
     }
     for (TextItem item = list.firstValue(); item; item = item.next())
     {
-        if (item.isList() && !item.head().empty() && seen.insert(item.head()).second)
+        for (std::string const& name : {item.isList() ? item.head() : std::string(), ownName(item)})
         {
-            names.push_back(item.head());
+            if (!name.empty() && seen.insert(name).second)
+            {
+                names.push_back(name);
+            }
         }
     }
     return names;

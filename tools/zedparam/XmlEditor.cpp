@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <boost/make_shared.hpp>
+#include <iterator>
 #include <list>
 #include <string_view>
 #include <utility>
@@ -17,8 +18,9 @@
 #include "EditedValue.h"
 #include "ElementSource.h"
 #include "Findings.h"
+#include "NamedElement.h"
+#include "PathText.h"
 #include "ReadContext.h"
-#include "RecordWalk.h"
 #include "TextPath.h"
 #include "TextPlacement.h"
 #include "XmlText.h"
@@ -38,7 +40,7 @@ struct XmlEditor::Target
 {
     std::string path;
     std::vector<std::string> names;
-    std::vector<std::size_t> positions; ///< of the elements that share a name, from 1; 0: there is but one
+    std::vector<KeywordStep> steps;
     std::size_t found = 0;
     AxEnvObjectPtr owner;         ///< the innermost element found
     AxEnvValuePtr attribute;      ///< of the owner, that holds the value; null for a record or list
@@ -81,6 +83,23 @@ std::vector<AxEnvObjectPtr> childrenOf(AxEnvObject const& parent, std::string_vi
     return found;
 }
 
+/// The elements that the step may mean, as TextPath finds them in parameter text.
+std::vector<AxEnvObjectPtr> elementsMeant(AxEnvObject const& parent, std::string_view tag, KeywordStep const& step,
+                                          AxReaderWriter const* member)
+{
+    std::vector<AxEnvObjectPtr> found = childrenOf(parent, tag, step.name, member);
+    if (!step.identity.empty())
+    {
+        std::erase_if(found, [&step](AxEnvObjectPtr const& child) { return ownName(*child) != step.identity; });
+    }
+    else if (found.empty() && tag.empty())
+    {
+        found = childrenOf(parent, tag, {});
+        std::erase_if(found, [&step](AxEnvObjectPtr const& child) { return ownName(*child) != step.name; });
+    }
+    return found;
+}
+
 /// The member of that name, or the one of the elements of that name or of none that is at `position`.
 AxReaderWriter* partOf(AxReaderWriter* rw, std::string const& name, std::size_t position = 1)
 {
@@ -90,7 +109,7 @@ AxReaderWriter* partOf(AxReaderWriter* rw, std::string const& name, std::size_t 
     for (; item != nullptr && found == nullptr; item = item->next())
     {
         AxReaderWriter* const element = AxRwList::element(item);
-        bool const isNamed = element->name().isNull() || element->name() == AxString(name);
+        bool const isNamed = element->name().isNull() || element->name() == AxString(name) || ownName(*element) == name;
         found = isNamed && --position == 0 ? element : nullptr;
     }
     return found;
@@ -194,16 +213,11 @@ std::unique_ptr<XmlEditor::Document> XmlEditor::read(std::string const& text)
 bool XmlEditor::follow(Document& document, std::string const& path, Target& target)
 {
     target.path = path;
-    for (std::size_t begin = 0; begin <= path.size();)
+    if (!readPath(path, target.steps))
     {
-        std::size_t const end = std::min(path.find('/', begin), path.size());
-        target.names.emplace_back(path.substr(begin, end - begin));
-        begin = end + 1;
-        if (!takePosition(target.names.back(), target.positions.emplace_back(0)) || target.last().empty())
-        {
-            return refuse(1, 1, "no-path", "\"" + path + "\" is no path; expected one such as \"max-speed\"");
-        }
+        return refuse(1, 1, "no-path", "\"" + path + "\" is no path; expected one such as \"max-speed\"");
     }
+    std::ranges::transform(target.steps, std::back_inserter(target.names), &KeywordStep::name);
     target.owner = document.platform;
     target.rw = document.record.get();
     std::string tag; // of the element that bears the next name
@@ -229,7 +243,8 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
         auto const its = std::ranges::find_if(attributes, [&](AxEnvObject::Attribute const& each)
                                               { return tag.empty() && isMeant(each.name, name, member); });
         AxEnvValuePtr const attribute = its != attributes.end() ? its->value : nullptr;
-        std::vector<AxEnvObjectPtr> elements = childrenOf(*target.owner, tag, name, member);
+        KeywordStep const& step = target.steps[target.found];
+        std::vector<AxEnvObjectPtr> elements = elementsMeant(*target.owner, tag, step, member);
         bool const isInSystem = target.owner->type() == AxString("componentSystem");
         if (isInSystem && elements.empty() && attribute == nullptr)
         {
@@ -239,16 +254,23 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
                        : sets.empty() ? elements
                                       : childrenOf(*sets.front(), "variable", name);
         }
-        std::size_t const position = target.positions[target.found];
+        std::size_t const position = step.position;
         if (position > elements.size() || (position == 0 && elements.size() > 1))
         {
+            std::vector<NamedElement> choices;
+            std::ranges::transform(elements, std::back_inserter(choices),
+                                   [](AxEnvObjectPtr const& element) {
+                                       return NamedElement{elementName(*element).string(), ownName(*element)};
+                                   });
             return refuseAt(*target.owner, "no-path",
-                            std::to_string(elements.size()) + " items are \"" + name + "\"; name one as \"" + name +
-                                "[1]\"");
+                            position > elements.size() ? absent(name, position, elements.size())
+                                                       : ambiguous(name, choices));
         }
         if (attribute == nullptr && elements.empty())
         {
-            return leadsOn(target);
+            bool const isAbsent = !step.identity.empty();
+            return isAbsent ? refuseAt(*target.owner, "no-path", "there is no " + stepOf(name, step.identity))
+                            : leadsOn(target);
         }
         tag.clear();
         target.outer = target.rw;
@@ -268,11 +290,7 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
 /// False, after a fault, when the path leads into another file.
 bool XmlEditor::leadsOn(Target const& target)
 {
-    std::string_view path = target.path;
-    for (std::size_t i = 0; i < target.found; ++i)
-    {
-        path.remove_prefix(path.find('/') + 1);
-    }
+    std::string_view const path = std::string_view(target.path).substr(target.steps[target.found].begin);
     auto const [text, hint] = elsewhere(target.rw, target.names[target.found], path);
     AxEnvValue const& place = target.attribute != nullptr ? *target.attribute : *target.owner;
     return text.empty() || refuseAt(place, "no-path", text, hint);
@@ -293,7 +311,14 @@ bool XmlEditor::accepts(Target const& target, AxReaderWriter* rw, AxReaderWriter
     std::string const type = property != nullptr ? property->type().string() + " " : std::string();
     rw = property != nullptr ? property->rwValue() : rw;
     bool const isTyped = !type.empty() && value.starts_with(type);
-    std::string const text = valueText(isTyped ? value.substr(type.size()) : value, rw, outer);
+    AxEnvValue const& place = target.attribute != nullptr ? *target.attribute : *target.owner;
+    std::string given = isTyped ? value.substr(type.size()) : value;
+    std::string unitFault;
+    if (!toOwnUnit(given, rw, target.last(), unitFault))
+    {
+        return refuseAt(place, "wrong-kind", unitFault);
+    }
+    std::string const text = valueText(given, rw, outer);
     if (text.empty())
     {
         return refuseAt(*target.owner, "no-value", "\"" + value + "\" is no value");
@@ -312,7 +337,6 @@ bool XmlEditor::accepts(Target const& target, AxReaderWriter* rw, AxReaderWriter
     bool const isTaken =
         rw->readText(list, AxFilename(file()), myContext.files, myContext.bindings) && findings.empty();
     AxDiagnostic const fault = valueFault(*rw, outer, target.last(), value, isTaken, findings.sorted());
-    AxEnvValue const& place = target.attribute != nullptr ? *target.attribute : *target.owner;
     return fault.code.empty() || force() || refuseAt(place, fault.code, fault.text, fault.hint);
 }
 
@@ -565,7 +589,13 @@ bool XmlEditor::refuseUnknown(Target const& target, std::size_t place, AxReaderW
     bool const isThere = target.isWhole();
     std::string const& name = target.names[place];
     std::string const owner = rw != nullptr ? rw->name().string().string() : target.owner->type().string();
+    std::vector<std::string> known = namesIn({}, rw);
+    for (AxEnvObjectPtr const& child : childrenOf(*target.owner, {}, {}))
+    {
+        known.push_back(ownName(*child));
+    }
+    std::erase(known, std::string());
     return refuseAt(*target.owner, "unknown-keyword",
                     "\"" + owner + "\" " + (isThere ? "knows" : "has") + " no \"" + name + "\"",
-                    nearestHint(name, namesIn({}, rw)));
+                    nearestHint(name, known));
 }

@@ -1,0 +1,151 @@
+#include "Units.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+#include "AxNumberText.h"
+
+namespace
+{
+constexpr Unit theUnits[] = {
+    {"m", "m", 1.0},
+    {"km", "m", 1000.0},
+    {"cm", "m", 0.01},
+    {"ft", "m", 0.3048},
+    {"nmi", "m", 1852.0},
+    {"m/s", "m/s", 1.0},
+    {"km/h", "m/s", 1.0 / 3.6},
+    {"kt", "m/s", 1852.0 / 3600.0},
+    {"m/s2", "m/s2", 1.0},
+    {"rad", "rad", 1.0},
+    {"deg", "rad", std::numbers::pi / 180.0},
+    {"rad/s", "rad/s", 1.0},
+    {"deg/s", "rad/s", std::numbers::pi / 180.0},
+    {"s", "s", 1.0},
+    {"ms", "s", 0.001},
+    {"min", "s", 60.0},
+    {"h", "s", 3600.0},
+    {"kg", "kg", 1.0},
+    {"t", "kg", 1000.0},
+    {"Hz", "Hz", 1.0},
+    {"kHz", "Hz", 1e3},
+    {"MHz", "Hz", 1e6},
+    {"GHz", "Hz", 1e9},
+};
+
+/// Digits that a number of the text and its factor are good for.
+constexpr int theDigits = 15;
+
+std::string converted(double value, double factor, bool isWhole)
+{
+    std::array<char, 40> digits{};
+    double const product = value * factor;
+    auto const end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), product, std::chars_format::general, theDigits);
+    double rounded = product;
+    std::from_chars(digits.data(), end.ptr, rounded);
+    std::string text;
+    axAppendReal(text, rounded);
+    bool const hasPoint = text.ends_with(".0");
+    return isWhole && hasPoint ? text.substr(0, text.size() - 2) : text;
+}
+
+std::vector<std::string> wordsOf(std::string const& value)
+{
+    std::vector<std::string> words(1);
+    for (char const byte : value)
+    {
+        if (std::isspace(static_cast<unsigned char>(byte)) == 0)
+        {
+            words.back() += byte;
+        }
+        else if (!words.back().empty())
+        {
+            words.emplace_back();
+        }
+    }
+    if (words.back().empty())
+    {
+        words.pop_back();
+    }
+    return words;
+}
+
+/// "45deg" becomes "45" and "deg".
+void splitLast(std::vector<std::string>& words)
+{
+    std::string const last = words.back();
+    std::size_t end = last.size();
+    while (end > 0 && !axIsNumber(std::string_view(last).substr(0, end)))
+    {
+        --end;
+    }
+    if (end != 0 && end != last.size())
+    {
+        words.back().resize(end);
+        words.push_back(last.substr(end));
+    }
+}
+} // namespace
+
+Unit const* unitNamed(std::string_view name)
+{
+    auto const found = std::ranges::find(theUnits, name, [](Unit const& unit) { return std::string_view(unit.name); });
+    return found != std::end(theUnits) ? found : nullptr;
+}
+
+std::string unitsOf(std::string_view base)
+{
+    std::vector<std::string> names;
+    for (Unit const& unit : theUnits)
+    {
+        if (unit.base == base)
+        {
+            names.emplace_back(unit.name);
+        }
+    }
+    std::string text(names.empty() ? base : names.front());
+    for (std::size_t i = 1; i < names.size(); ++i)
+    {
+        text.append(i + 1 == names.size() ? " or " : ", ").append(names[i]);
+    }
+    return text;
+}
+
+bool convertUnit(std::string& value, std::string_view base, bool isWhole, std::string& fault)
+{
+    std::vector<std::string> words = wordsOf(value);
+    if (words.empty())
+    {
+        return true;
+    }
+    splitLast(words);
+    std::string const name = words.back();
+    words.pop_back();
+    if (words.empty() || axIsNumber(name) || !std::ranges::all_of(words, axIsNumber))
+    {
+        return true;
+    }
+    Unit const* const unit = unitNamed(name);
+    bool const isSame = !base.empty() && name == base;
+    if (!isSame && (unit == nullptr || unit->base != base))
+    {
+        fault = (base.empty() ? "has no unit" : "is in " + std::string(base)) + ", found \"" + name + "\"";
+        fault += unitNamed(base) == nullptr ? std::string() : "; expected " + unitsOf(base);
+        return false;
+    }
+    value.clear();
+    for (std::string const& word : words)
+    {
+        double number = 0.0;
+        axParseReal(word, number);
+        value.append(value.empty() ? "" : " ");
+        value.append(isSame || unit->factor == 1.0 ? word : converted(number, unit->factor, isWhole));
+    }
+    return true;
+}
