@@ -1,5 +1,7 @@
 #include <algorithm>
-#include <array>
+#include <map>
+#include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -60,36 +62,100 @@ bool readType(AxlObj const* item, AxEntityType& type)
     return true;
 }
 
-bool isPattern(AxEntityType const& type)
+/// An element, by all that it is asked by.
+struct Asked
 {
-    return std::ranges::find(type.fields(), AxEntityType::theWildcard) != type.fields().end();
+    AxlObj const* place;
+    bool isPattern;
+    std::vector<std::string> fields{};
+    std::vector<bool> isFixed{}; ///< which fields a question must have the same for the element to answer it
+
+    void add(std::string field, bool isFixedField)
+    {
+        fields.push_back(std::move(field));
+        isFixed.push_back(isFixedField);
+    }
+    /// Takes the fields of a type; null as a whole counts as any where `nullIsAny`.
+    template <class Type>
+    void addType(Type const& type, bool nullIsAny)
+    {
+        for (std::int32_t const field : type.fields())
+        {
+            add(std::to_string(field), field != Type::theWildcard && !(nullIsAny && type.isNull()));
+        }
+    }
+    std::string joined(std::vector<bool> const& chosen) const
+    {
+        std::string text;
+        for (std::size_t i = 0; i < fields.size(); ++i)
+        {
+            text.append(chosen[i] ? fields[i] : std::string()) += '\0';
+        }
+        return text;
+    }
+};
+
+template <class Type>
+bool isPattern(Type const& type)
+{
+    return std::ranges::find(type.fields(), Type::theWildcard) != type.fields().end();
 }
 
-bool isPattern(AxObjectType const& type)
+Asked askedBy(AxEntityType const& type, AxlObj const& place)
 {
-    return std::ranges::find(type.fields(), AxObjectType::theWildcard) != type.fields().end();
+    Asked asked{&place, isPattern(type)};
+    asked.addType(type, false);
+    return asked;
+}
+
+Asked askedBy(AxSimMunition const& munition, AxlObj const& place)
+{
+    Asked asked{&place, isPattern(munition.munitionType())};
+    asked.addType(munition.munitionType(), true);
+    asked.addType(munition.tracerType(), true);
+    asked.add(std::to_string(munition.warhead()), munition.warhead() != -1);
+    asked.add(munition.guidanceMode().string(), !munition.guidanceMode().isNull());
+    asked.add(munition.munitionName().string(), !munition.munitionName().isNull());
+    return asked;
 }
 
 /// Of elements that are asked in file order, an exact one before every pattern and of patterns the last that fits: an
-/// exact one is hidden by its like before it, a pattern by a later one that covers it.
-template <class Key, class IsPattern, class Covers>
-void checkHidden(std::vector<std::pair<Key, AxlObj const*>> const& elements, IsPattern const& isPatternOf,
-                 Covers const& covers, CellReport const& report)
+/// exact one is hidden by its like before it, a pattern by a later one that covers it. Elements with the same fields
+/// fixed are found by these fields, so that the time grows with the number of elements.
+void checkHidden(std::vector<Asked> const& elements, CellReport const& report)
 {
-    for (auto element = elements.begin(); element != elements.end(); ++element)
+    std::vector<AxlObj const*> hiding(elements.size());
+    std::unordered_map<std::string, AxlObj const*> exact;
+    for (std::size_t i = 0; i < elements.size(); ++i)
     {
-        auto const& key = element->first;
-        auto const hides = [&](auto const& other)
-        { return isPatternOf(key) ? covers(other.first, key) : other.first == key; };
-        bool const isPatternElement = isPatternOf(key);
-        auto const begin = isPatternElement ? std::next(element) : elements.begin();
-        auto const end = isPatternElement ? elements.end() : element;
-        auto const hiding = std::find_if(begin, end, hides);
-        if (hiding != end)
+        Asked const& element = elements[i];
+        if (!element.isPattern)
         {
-            report("hidden-entry", *element->second,
-                   "never answers: the element in line " + std::to_string(hiding->second->line()) +
-                       (isPatternElement ? " covers all its types and stands behind it" : " has its type"));
+            auto const all = std::vector<bool>(element.fields.size(), true);
+            auto const [first, isNew] = exact.try_emplace(element.joined(all), element.place);
+            hiding[i] = isNew ? nullptr : first->second;
+        }
+    }
+    std::map<std::vector<bool>, std::unordered_map<std::string, std::size_t>> behind; // the nearest of each
+    for (std::size_t i = elements.size(); i-- > 0;)
+    {
+        Asked const& element = elements[i];
+        std::size_t nearest = elements.size();
+        for (auto const& [isFixed, others] : behind)
+        {
+            auto const other = element.isPattern ? others.find(element.joined(isFixed)) : others.end();
+            nearest = other != others.end() ? std::min(nearest, other->second) : nearest;
+        }
+        hiding[i] = nearest != elements.size() ? elements[nearest].place : hiding[i];
+        behind[element.isFixed][element.joined(element.isFixed)] = i;
+    }
+    for (std::size_t i = 0; i < elements.size(); ++i)
+    {
+        if (hiding[i] != nullptr)
+        {
+            report("hidden-entry", *elements[i].place,
+                   "never answers: the element in line " + std::to_string(hiding[i]->line()) +
+                       (elements[i].isPattern ? " covers all its types and stands behind it" : " has its type"));
         }
     }
 }
@@ -97,8 +163,7 @@ void checkHidden(std::vector<std::pair<Key, AxlObj const*>> const& elements, IsP
 
 void checkElements(AxlObj const& list, CellReport const& report)
 {
-    std::vector<std::pair<AxEntityType, AxlObj const*>> byType;
-    std::vector<std::pair<AxSimMunition, AxlObj const*>> byMunition;
+    std::vector<Asked> elements;
     std::string_view const word = elementWordIn(list);
     for (AxlObj const* rest = list.cdr(); rest->isPair(); rest = rest->cdr())
     {
@@ -115,19 +180,14 @@ void checkElements(AxlObj const& list, CellReport const& report)
         }
         else if (isMunition)
         {
-            byMunition.emplace_back(AxSimMunition(), &element);
-            byMunition.back().first.getSelf(AxlObjPtr(item), {}, {});
+            AxSimMunition munition;
+            munition.getSelf(AxlObjPtr(item), {}, {});
+            elements.push_back(askedBy(munition, element));
         }
         else if (item != nullptr && readType(item, type))
         {
-            byType.emplace_back(type, &element);
+            elements.push_back(askedBy(type, element));
         }
     }
-    checkHidden(
-        byType, [](AxEntityType const& type) { return isPattern(type); },
-        [](AxEntityType const& pattern, AxEntityType const& type) { return type.matchPattern(pattern); }, report);
-    checkHidden(
-        byMunition, [](AxSimMunition const& munition) { return isPattern(munition.munitionType()); },
-        [](AxSimMunition const& pattern, AxSimMunition const& munition) { return pattern.matchPattern(munition); },
-        report);
+    checkHidden(elements, report);
 }

@@ -133,13 +133,13 @@ void visitRepeatedNames(AxEnvObject const& list, std::string_view tag,
     }
 }
 
-/// The value of the first attribute that `accept` takes.
+/// The first attribute that `accept` takes.
 template <class Accept>
 AxEnvValue const* attributeBelow(AxEnvObject const& object, Accept const& accept)
 {
     for (AxEnvObject::Attribute const& attribute : object.attributes())
     {
-        if (accept(attribute.name.string(), attribute.value->value().string()))
+        if (accept(attribute.name.string(), *attribute.value))
         {
             return attribute.value.get();
         }
@@ -231,15 +231,26 @@ AxEnvValue const* ElementSource::reference(std::string_view variable) const
     std::string const whole = "$" + std::string(variable);
     std::string const embedded = "$(" + std::string(variable) + ")";
     return myElement == nullptr ? nullptr
-                                : attributeBelow(*myElement, [&](std::string const&, std::string const& text)
-                                                 { return text == whole || text.find(embedded) != std::string::npos; });
+                                : attributeBelow(*myElement,
+                                                 [&](std::string const&, AxEnvValue const& attribute)
+                                                 {
+                                                     std::string const& text = attribute.value().string();
+                                                     return text == whole || text.find(embedded) != std::string::npos;
+                                                 });
 }
 
-AxEnvValue const* ElementSource::attribute(std::string_view name, std::string_view value) const
+void ElementSource::forEachAttribute(
+    std::function<void(std::string_view name, AxEnvValue const& attribute)> const& visit) const
 {
-    return myElement == nullptr ? nullptr
-                                : attributeBelow(*myElement, [&](std::string const& key, std::string const& text)
-                                                 { return key == name && text == value; });
+    if (myElement != nullptr)
+    {
+        attributeBelow(*myElement,
+                       [&visit](std::string const& name, AxEnvValue const& attribute)
+                       {
+                           visit(name, attribute);
+                           return false;
+                       });
+    }
 }
 
 void ElementSource::forEachRepeatedName(std::function<void(AxEnvObject const& element)> const& visit) const

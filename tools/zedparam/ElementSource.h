@@ -22,8 +22,8 @@ public:
     AxEnvValue const* variable(std::string_view name) const;
     /// The first attribute that is `$variable` or holds `$(variable)`.
     AxEnvValue const* reference(std::string_view variable) const;
-    /// The first attribute `name="value"`.
-    AxEnvValue const* attribute(std::string_view name, std::string_view value) const;
+    /// Shows `visit` every attribute, those of an element before those in it.
+    void forEachAttribute(std::function<void(std::string_view name, AxEnvValue const& attribute)> const& visit) const;
     /// Shows `visit` each system and component that has the name of one in front of it in its list.
     void forEachRepeatedName(std::function<void(AxEnvObject const& element)> const& visit) const;
     /// The element as the parameter text that says the same, with the places of the elements that it stands for.

@@ -50,6 +50,19 @@ std::size_t FindingPlaces::add(std::string file)
     return myFiles.size() - 1;
 }
 
+AxEnvValue const* FindingPlaces::attribute(std::string_view name, std::string_view value) const
+{
+    if (myAttributes.empty())
+    {
+        ElementSource(myElement).forEachAttribute(
+            [this](std::string_view key, AxEnvValue const& attribute) {
+                myAttributes.try_emplace({key, std::string_view(attribute.value().string())}, &attribute);
+            });
+    }
+    auto const found = myAttributes.find({name, value});
+    return found != myAttributes.end() ? found->second : nullptr;
+}
+
 Source const& FindingPlaces::source(std::size_t file) const
 {
     return myCheckedFiles.source(myFiles[file]);
@@ -77,7 +90,7 @@ AxDiagnostic FindingPlaces::atItem(char const* code, std::size_t file, std::stri
                                    std::string text) const
 {
     AxDiagnostic finding = warning(code, file, std::move(text));
-    return isElement(file) ? at(std::move(finding), ElementSource(myElement).attribute(keyword, value))
+    return isElement(file) ? at(std::move(finding), attribute(keyword, value))
                            : at(std::move(finding), source(file).item(keyword, value));
 }
 
@@ -88,11 +101,9 @@ AxDiagnostic FindingPlaces::atConnection(char const* code, std::size_t file, std
     if (isElement(file))
     {
         std::string const value = std::string(from) + ' ' + std::string(to);
-        return at(std::move(finding), ElementSource(myElement).attribute("value", value));
+        return at(std::move(finding), attribute("value", value));
     }
-    auto const isMeant = [&](AxlObj const& list)
-    { return list.cdr()->car()->text() == from && list.cdr()->cdr()->car()->text() == to; };
-    return at(std::move(finding), source(file).find(isMeant));
+    return at(std::move(finding), source(file).listWith(from, to));
 }
 
 AxDiagnostic FindingPlaces::atList(char const* code, std::size_t file, std::string_view head, std::string text) const

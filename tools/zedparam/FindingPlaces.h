@@ -1,7 +1,9 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "AxDiagnostic.h"
@@ -43,10 +45,13 @@ public:
 
 private:
     Source const& source(std::size_t file) const;
+    /// The first attribute `name="value"` of the element.
+    AxEnvValue const* attribute(std::string_view name, std::string_view value) const;
 
     std::vector<std::string> myFiles;
     AxEnvValuePtr myElement;
     CheckedFiles& myCheckedFiles;
+    mutable std::map<std::pair<std::string_view, std::string_view>, AxEnvValue const*> myAttributes; // once asked for
 };
 
 /// The item that binds the variable in a list `(variable-bindings ...)`; null when none does.

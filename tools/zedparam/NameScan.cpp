@@ -1,6 +1,7 @@
 #include "NameScan.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <vector>
 
 namespace
@@ -52,7 +53,7 @@ private:
         ++myDepth;
         if (std::ranges::find(theKeyedLists, head) != std::end(theKeyedLists))
         {
-            myLists.push_back({myDepth, {}});
+            myLists.push_back({myDepth});
         }
         myAt = end > begin ? end : begin;
     }
@@ -68,16 +69,16 @@ private:
 
     void noteName(std::string_view name, std::size_t at)
     {
-        std::vector<std::string_view>& names = myLists.back().names;
-        if (std::ranges::find(names, name) == names.end())
+        if (myLists.back().names.insert(name).second)
         {
-            names.push_back(name);
             return;
         }
-        std::string_view const before = myText.substr(0, at);
-        std::size_t const line = before.rfind('\n');
-        myReport(name, static_cast<unsigned>(std::ranges::count(before, '\n')) + 1,
-                 static_cast<unsigned>(line == std::string_view::npos ? at + 1 : at - line));
+        for (std::size_t end = myText.find('\n', myLineStart); end < at; end = myText.find('\n', myLineStart))
+        {
+            myLineStart = end + 1;
+            ++myLine;
+        }
+        myReport(name, myLine, static_cast<unsigned>(at - myLineStart + 1));
     }
 
     void skipString()
@@ -92,12 +93,14 @@ private:
     struct List
     {
         std::size_t depth; // within which its elements begin
-        std::vector<std::string_view> names;
+        std::unordered_set<std::string_view> names{};
     };
 
     std::string_view myText;
     std::function<void(std::string_view name, unsigned line, unsigned column)> const& myReport;
     std::size_t myAt = 0;
+    std::size_t myLineStart = 0; // of the line that was told last
+    unsigned myLine = 1;
     std::size_t myDepth = 0;
     std::vector<List> myLists;
 };

@@ -1,6 +1,7 @@
 #include "RowCheck.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -23,12 +24,13 @@ struct Row
 {
     double range;
     AxlObj const* place;
-    std::vector<std::string_view> outcomes{};
+    std::vector<std::string_view> outcomes{}; // each once
 };
 
 Row readRow(AxlObj const& range, AxlObj const* outcomes, CellReport const& report)
 {
     Row row{range.flonum(), &range};
+    std::unordered_set<std::string_view> names;
     for (; outcomes->isPair(); outcomes = outcomes->cdr())
     {
         AxlObj const& outcome = *outcomes->car();
@@ -44,7 +46,7 @@ Row readRow(AxlObj const& range, AxlObj const* outcomes, CellReport const& repor
             report("out-of-range", value,
                    "probability of " + at + " is " + spelled(value.flonum()) + ", expected 0 to 1");
         }
-        if (std::ranges::find(row.outcomes, name) != row.outcomes.end())
+        if (!names.insert(name).second)
         {
             report("repeated-outcome", outcome, at + " is told again; the first answers");
             continue;
@@ -56,6 +58,7 @@ Row readRow(AxlObj const& range, AxlObj const* outcomes, CellReport const& repor
 
 void checkOrder(std::vector<Row> const& rows, CellReport const& report)
 {
+    std::unordered_set<double> ranges;
     for (std::size_t i = 0; i < rows.size(); ++i)
     {
         Row const& row = rows[i];
@@ -63,9 +66,7 @@ void checkOrder(std::vector<Row> const& rows, CellReport const& report)
         {
             report("out-of-range", *row.place, "range is " + spelled(row.range) + ", expected 0.0 or more");
         }
-        auto const isSame = [&](Row const& other) { return other.range == row.range; };
-        auto const end = rows.begin() + static_cast<std::ptrdiff_t>(i);
-        if (std::find_if(rows.begin(), end, isSame) != end)
+        if (!ranges.insert(row.range).second)
         {
             report("repeated-range", *row.place, "another row of range " + spelled(row.range) + "; the later counts");
         }
@@ -80,16 +81,18 @@ void checkOrder(std::vector<Row> const& rows, CellReport const& report)
 void checkOutcomes(std::vector<Row> const& rows, CellReport const& report)
 {
     std::vector<std::string_view> all;
+    std::unordered_set<std::string_view> names;
     for (Row const& row : rows)
     {
         std::ranges::copy_if(row.outcomes, std::back_inserter(all),
-                             [&](std::string_view name) { return std::ranges::find(all, name) == all.end(); });
+                             [&](std::string_view name) { return names.insert(name).second; });
     }
     for (Row const& row : rows)
     {
-        for (std::string_view const name : all)
+        names = {row.outcomes.begin(), row.outcomes.end()};
+        for (std::string_view const name : names.size() != all.size() ? all : std::vector<std::string_view>())
         {
-            if (std::ranges::find(row.outcomes, name) == row.outcomes.end())
+            if (!names.contains(name))
             {
                 report("missing-outcome", *row.place,
                        "the row of range " + spelled(row.range) + " has no \"" + std::string(name) +
@@ -100,9 +103,6 @@ void checkOutcomes(std::vector<Row> const& rows, CellReport const& report)
 }
 } // namespace
 
-std::string spelled(double value)
-{
-    std::string text;
 std::string extentOutside(std::span<double const> coefficients)
 {
     if (coefficients.size() == 1)
@@ -126,6 +126,9 @@ std::string extentOutside(std::span<double const> coefficients)
     return isBelow ? "below 0" : isAbove ? "above 1" : "";
 }
 
+std::string spelled(double value)
+{
+    std::string text;
     axAppendReal(text, value);
     return text;
 }

@@ -110,9 +110,32 @@ AxlObj const* Source::find(std::function<bool(AxlObj const& list)> const& accept
 
 AxlObj const* Source::item(std::string_view head, std::string_view word) const
 {
-    AxlObj const* const list =
-        find([&](AxlObj const& cell) { return cell.car()->text() == head && cell.cdr()->car()->text() == word; });
-    return list != nullptr ? list->cdr()->car() : nullptr;
+    if (!myByHead)
+    {
+        myByHead.emplace();
+        forEachList(
+            [this](AxlObj const& list) {
+                myByHead->try_emplace({list.car()->text(), list.cdr()->car()->text()}, list.cdr()->car());
+            });
+    }
+    auto const found = myByHead->find({head, word});
+    return found != myByHead->end() ? found->second : nullptr;
+}
+
+AxlObj const* Source::listWith(std::string_view second, std::string_view third) const
+{
+    if (!myByWords)
+    {
+        myByWords.emplace();
+        forEachList(
+            [this](AxlObj const& list)
+            {
+                AxlObj const* const rest = list.cdr();
+                myByWords->try_emplace({rest->car()->text(), rest->cdr()->car()->text()}, &list);
+            });
+    }
+    auto const found = myByWords->find({second, third});
+    return found != myByWords->end() ? found->second : nullptr;
 }
 
 void Source::forEachList(std::function<void(AxlObj const& list)> const& visit) const

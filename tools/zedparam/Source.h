@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <map>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -31,13 +33,13 @@ public:
     /// Without an expression, and without a report, when the file cannot be read.
     explicit Source(std::string const& file);
     explicit Source(AxlObjPtr expression) : myExpression(std::move(expression)) {}
-
-    /// Nil when there is none.
     /// Of a file that the library has read: that it cannot be read once more is reported.
     static Source again(std::string const& file);
 
     /// False when searches find nothing because the file could not be read.
     bool isRead() const { return myIsRead; }
+
+    /// Nil when there is none.
     AxlObj const& expression() const { return *myExpression; }
     /// What follows the last keyword.
     AxlObj const* value(std::span<SourceStep const> path) const;
@@ -47,6 +49,8 @@ public:
     AxlObj const* find(std::function<bool(AxlObj const& list)> const& accept) const;
     /// The second word of the first `(head word ...)`.
     AxlObj const* item(std::string_view head, std::string_view word) const;
+    /// The first list with these as its second and third words. All are known once one was asked for.
+    AxlObj const* listWith(std::string_view second, std::string_view third) const;
     /// Shows `visit` every list, each before those in it.
     void forEachList(std::function<void(AxlObj const& list)> const& visit) const;
 
@@ -54,8 +58,13 @@ public:
     static void setPlace(AxDiagnostic& finding, AxlObj const* cell);
 
 private:
+    using WordPair = std::pair<std::string_view, std::string_view>;
+    using ListsByWords = std::map<WordPair, AxlObj const*>;
+
     void parse(std::string text);
 
     AxlObjPtr myExpression;
+    mutable std::optional<ListsByWords> myByHead;  // and second word
+    mutable std::optional<ListsByWords> myByWords; // the second and the third
     bool myIsRead = true;
 };

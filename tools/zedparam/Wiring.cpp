@@ -1,7 +1,12 @@
 #include "Wiring.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "AxComponentSystemDefinition.h"
@@ -23,15 +28,15 @@ std::string nearestHint(std::string_view word, std::vector<std::string_view> con
 }
 
 /// The ports on the boundary of a system: those that it gives out, or those that it takes in.
-std::vector<std::string_view> portsOf(AxComponentSystemDefinition const& system, bool outputs)
+std::set<std::string_view> portsOf(AxComponentSystemDefinition const& system, bool outputs)
 {
-    std::vector<std::string_view> ports;
+    std::set<std::string_view> ports;
     for (AxConnectionDescriptor const* wire : system.connectionDescriptorList())
     {
         std::string_view const end = (outputs ? wire->destination() : wire->source()).string();
         if (end.starts_with(theBoundaryPrefix))
         {
-            ports.push_back(end.substr(theBoundaryPrefix.size()));
+            ports.insert(end.substr(theBoundaryPrefix.size()));
         }
     }
     return ports;
@@ -45,6 +50,7 @@ public:
     {
         for (AxComponentSystemDescriptor const* system : wiring.systems)
         {
+            mySystems.try_emplace(system->AxReaderWriter::name().view(), system);
             myParts.push_back(system->AxReaderWriter::name().view());
         }
         for (AxComponentDescriptorList const* list : {&wiring.sensors, &wiring.controllers, &wiring.actuators})
@@ -54,9 +60,10 @@ public:
                 myParts.push_back(component->AxReaderWriter::name().view());
             }
         }
+        myKnownParts.insert(myParts.begin(), myParts.end());
     }
 
-    void run() const
+    void run()
     {
         for (AxConnectionDescriptor const* wire : myWiring.connections)
         {
@@ -66,7 +73,7 @@ public:
     }
 
 private:
-    void checkEnd(AxConnectionDescriptor const& wire, std::string_view end, bool isSource) const
+    void checkEnd(AxConnectionDescriptor const& wire, std::string_view end, bool isSource)
     {
         if (end.empty() || end.starts_with(theBoundaryPrefix))
         {
@@ -74,36 +81,53 @@ private:
         }
         std::size_t const colon = std::min(end.find(':'), end.size());
         std::string_view const part = end.substr(0, colon);
-        if (std::ranges::find(myParts, part) == myParts.end())
+        if (!myKnownParts.contains(part))
         {
             myReport(WireFault{"dangling-connection", "there is no component or system \"" + std::string(part) + '"',
-                               nearestHint(part, myParts), wire});
+                               hintFor(part, myParts), wire});
             return;
         }
-        AxComponentSystemDescriptor const* const system =
-            myWiring.systems.lookupComponentSystemDescriptor(AxString(std::string(part)));
-        if (system != nullptr && isDefined(*system) && colon != end.size())
+        auto const system = mySystems.find(part);
+        if (system != mySystems.end() && isDefined(*system->second) && colon != end.size())
         {
-            checkPort(wire, *system, end.substr(colon + 1), isSource);
+            checkPort(wire, *system->second, end.substr(colon + 1), isSource);
         }
     }
 
     void checkPort(AxConnectionDescriptor const& wire, AxComponentSystemDescriptor const& system, std::string_view port,
-                   bool isSource) const
+                   bool isSource)
     {
-        std::vector<std::string_view> const ports = portsOf(*system.systemDefinition(), isSource);
-        if (std::ranges::find(ports, port) == ports.end())
+        auto const [found, isNew] = myPorts.try_emplace({system.systemDefinition(), isSource});
+        std::set<std::string_view>& ports = found->second;
+        if (isNew)
+        {
+            ports = portsOf(*system.systemDefinition(), isSource);
+        }
+        if (!ports.contains(port))
         {
             myReport(WireFault{"unknown-port",
                                "the system \"" + system.AxReaderWriter::name().string().string() + "\" has no " +
                                    (isSource ? "output" : "input") + " \"" + std::string(port) + '"',
-                               nearestHint(port, ports), wire});
+                               hintFor(port, {ports.begin(), ports.end()}), wire});
         }
+    }
+
+    /// Many faults in the face of many names get none: comparing all would take too long.
+    std::string hintFor(std::string_view word, std::vector<std::string_view> const& known)
+    {
+        bool const isAffordable = known.size() <= myComparisonsLeft;
+        myComparisonsLeft -= isAffordable ? known.size() : 0;
+        return isAffordable ? nearestHint(word, known) : std::string();
     }
 
     Wiring const& myWiring;
     std::function<void(WireFault const&)> const& myReport;
     std::vector<std::string_view> myParts;
+    std::unordered_set<std::string_view> myKnownParts;
+    std::unordered_map<std::string_view, AxComponentSystemDescriptor const*> mySystems;
+    std::map<std::pair<AxComponentSystemDefinition const*, bool>, std::set<std::string_view>>
+        myPorts; // outputs, inputs
+    std::size_t myComparisonsLeft = 1'000'000;
 };
 } // namespace
 
