@@ -1,8 +1,11 @@
 #include "Allocations.h"
 
 #include <cstdlib>
+#include <dlfcn.h>
 #include <limits>
 #include <new>
+
+#include <expat.h>
 
 namespace
 {
@@ -13,19 +16,48 @@ std::size_t theFirstToFail = never;
 std::size_t theLastToFail = never;
 bool wasFaultHit = false;
 
+bool isToFail()
+{
+    bool const isDue = ++theCount >= theFirstToFail && theCount <= theLastToFail;
+    wasFaultHit = wasFaultHit || isDue;
+    return isDue;
+}
+
 void countOrFail()
 {
-    if (++theCount >= theFirstToFail && theCount <= theLastToFail)
+    if (isToFail())
     {
-        wasFaultHit = true;
         throw std::bad_alloc();
     }
+}
+
+std::size_t theParserCount = 0;
+
+bool isParserToFail()
+{
+    ++theParserCount;
+    return isToFail();
+}
+
+void* parserMalloc(std::size_t size)
+{
+    return isParserToFail() ? nullptr : std::malloc(size);
+}
+
+void* parserRealloc(void* memory, std::size_t size)
+{
+    return isParserToFail() ? nullptr : std::realloc(memory, size);
 }
 } // namespace
 
 std::size_t allocationCount()
 {
     return theCount;
+}
+
+std::size_t parserAllocationCount()
+{
+    return theParserCount;
 }
 
 AllocationFault::AllocationFault(std::size_t n, Reach reach)
@@ -43,6 +75,15 @@ AllocationFault::~AllocationFault()
 bool AllocationFault::wasHit()
 {
     return wasFaultHit;
+}
+
+// Stands in front of the XML parser's own for everything in the process.
+extern "C" __attribute__((visibility("default"))) XML_Parser XML_ParserCreate(XML_Char const* encoding)
+{
+    static auto const create =
+        reinterpret_cast<decltype(&XML_ParserCreate_MM)>(dlsym(RTLD_NEXT, "XML_ParserCreate_MM"));
+    static XML_Memory_Handling_Suite const memory{parserMalloc, parserRealloc, std::free};
+    return create(encoding, &memory, nullptr);
 }
 
 // All of them: a sanitizer has its own of each, which must not meet these.

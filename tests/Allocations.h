@@ -4,8 +4,10 @@
 
 #include <cstddef>
 
-/// How often memory was asked for by `new` since the process began.
+/// How often memory was asked for, by `new` or by the XML parser, since the process began.
 std::size_t allocationCount();
+/// How often by the XML parser.
+std::size_t parserAllocationCount();
 
 /// Bytes in use of the heap, with the allocator's own overhead.
 inline std::size_t heapUse()
@@ -14,7 +16,8 @@ inline std::size_t heapUse()
     return info.uordblks + info.hblkhd;
 }
 
-/// As long as one lives, the n-th `new` from its construction on fails, alone or with all that follow it.
+/// As long as one lives, the n-th allocation from its construction on fails, alone or with all that follow it; those
+/// of the XML parser among them.
 class AllocationFault
 {
 public:

@@ -1,4 +1,6 @@
 #include "Allocations.h"
+#include "AxEnvXMLReader.h"
+#include "AxEnvXMLWriter.h"
 #include "AxModelSet.h"
 #include "AxRangeProbabilityTable.h"
 #include "AxReaderWriterFile.h"
@@ -27,7 +29,7 @@ public:
         {
             AxObjectType const type(1, below(2), 225, below(number < 200 ? 12 : 3) - 1, below(4) - 1, 1, below(3) - 2);
             // First many, then single ones.
-            int const kind = number < 120 ? below(10) < 8 ? 0 : 3 : below(4);
+            int const kind = number < 80 ? 0 : number < 120 ? below(10) < 8 ? 0 : 3 : below(4);
             Step step{kind, type, nullptr};
             if (kind == 0 || kind == 1)
             {
@@ -213,6 +215,99 @@ TEST_F(AllocationFaults, RecordOfAnEntityFile)
             text = [this, forces] { return forces->lookup(tank)->writtenText(true); };
             return [this, forces] { return forces->lookup(tank) != nullptr; };
         });
+}
+
+// What the tests above read is plain XML, of which the parser sees nothing.
+TEST_F(AllocationFaults, TheXmlParser)
+{
+    std::string const declared = "<?xml version=\"1.0\" encoding=\"windows-1252\"?>\n<!DOCTYPE simObject>\n";
+    std::string const plain = "<simObject name=\"m1\"><?by hand?><objectType value=\"1:1:1:225:1:1:3:0\"/>"
+                              "<platform parameter-type=\"ground-vehicle-param\" display-name=\"M1 \xe4\" "
+                              "mass=\"1.0\"/><![CDATA[text]]><!-- " +
+                              std::string(3000, '-').replace(1, 2998, 2998, 'c') + " --></simObject>\n";
+    AxFilename const file = put("m1.entity", declared + plain);
+    AxString const content = get("m1.entity");
+    std::size_t const before = parserAllocationCount();
+    for (bool const isFile : {false, true})
+    {
+        hold(
+            [&]() -> Job
+            {
+                auto const tree = std::make_shared<AxEnvironmentPtr>();
+                text = [tree]
+                {
+                    std::string written;
+                    AxEnvXMLWriter().writeText(*tree, written);
+                    return written;
+                };
+                return [&, tree, isFile]
+                {
+                    bool isRead = false;
+                    *tree = isFile ? AxEnvXMLReader::readFile(file, &isRead)
+                                   : AxEnvXMLReader::readText(content.string(), file, &isRead);
+                    EXPECT_EQ(isRead, *tree != nullptr);
+                    return isRead;
+                };
+            });
+    }
+    EXPECT_GT(parserAllocationCount(), before + 1000);
+    for (char const* const refused : {"<!DOCTYPE a [<!ENTITY b \"c\">]><a/>", "<!DOCTYPE a SYSTEM \"d\"><a>&b;</a>",
+                                      "<?xml version=\"1.0\" encoding=\"none-such\"?><a/>", "<a><b></a>"})
+    {
+        hold(
+            [&]() -> Job
+            {
+                text = [] { return std::string(); };
+                return [&file, refused] { return !AxEnvXMLReader::readText(refused, file); };
+            });
+    }
+}
+
+TEST_F(AllocationFaults, FilesThatNeedTheXmlParser)
+{
+    AxFilename const file =
+        put("m1.entity", "<simObject name=\"m1\"><?by hand?>\n"
+                         "  <variableBindings name=\"variable-bindings\">\n"
+                         "    <variable name=\"camp\" value=\"red\"/>\n"
+                         "  </variableBindings>\n"
+                         "  <objectType name=\"objectType\" value=\"1:1:1:225:1:1:3:0\"/>\n"
+                         "  <platform name=\"m1\" parameter-type=\"ground-vehicle-param\" mass=\"62100.0\"\n"
+                         "    display-name=\"$camp\" unknown=\"to us\"/>\n"
+                         "</simObject>\n");
+    std::size_t const before = parserAllocationCount();
+    hold(
+        [&]() -> Job
+        {
+            auto const forces = std::make_shared<AxSxpParameterDb>();
+            forces->init();
+            forces->add(tank, file, false, nullptr);
+            EXPECT_TRUE(forces->lookupParameterDbEntry(tank, nullptr));
+            text = [this, forces] { return forces->lookup(tank)->writtenText(true); };
+            return [this, forces] { return forces->lookup(tank) != nullptr; };
+        });
+    AxFilename const recordFile = put("m1.xml", made("ground-vehicle-param")->toXml().string() + "<?by hand?>\n");
+    for (bool const isFile : {false, true})
+    {
+        AxString const content(get("m1.xml"));
+        hold(
+            [&]() -> Job
+            {
+                std::shared_ptr<AxZedObjectParameters> const read = made("ground-vehicle-param");
+                text = [read] { return read->writtenText(true); };
+                return [read, content, recordFile, isFile]
+                { return isFile ? read->fromXmlFile(recordFile) : read->fromXml(content); };
+            });
+    }
+    AxFilename const group = put("a.sog", "<?by hand?><simulationObjectGroup label=\"Patrol\">"
+                                          "<AxSimulationObjectEntityState label=\"Red 1\"/></simulationObjectGroup>\n");
+    hold(
+        [&]() -> Job
+        {
+            auto const read = std::make_shared<AxSimulationObjectGroupModelSetEntry>("group", nullptr);
+            text = [read] { return read->writtenText(true); };
+            return [read, group] { return read->load(group); };
+        });
+    EXPECT_GT(parserAllocationCount(), before + 1000);
 }
 
 TEST_F(AllocationFaults, EntriesComeGoAndAreFoundWithoutMemory)

@@ -14,6 +14,7 @@
 #include "AxCharacters.h"
 #include "AxDiagnostic.h"
 #include "AxFileBytes.h"
+#include "AxGuarded.h"
 #include "AxLimits.h"
 #include "AxReadWholeFile.h"
 #include "AxWindows1252.h"
@@ -114,7 +115,7 @@ private:
         bool keepsText = false;
     };
 
-    /// One event; whatever its body throws stops the parser instead of passing through it.
+    /// One event; whatever its body throws stops the parser instead of passing through it, and is thrown behind it.
     template <void (XmlParse::*body)(char const*, char const*)>
     static void guarded(void* self, char const* first, char const* second)
     {
@@ -134,9 +135,10 @@ private:
         {
             body(parse);
         }
-        catch (std::exception const& error)
+        catch (...)
         {
-            parse.fail("xml-error", error.what());
+            parse.myThrown = std::current_exception();
+            parse.stop();
         }
     }
 
@@ -163,6 +165,7 @@ private:
     AxDiagnostic findingHere(AxSeverity severity, char const* code, std::string text) const;
     void report(AxSeverity severity, char const* code, std::string text) const;
     void fail(char const* code, std::string text);
+    void stop();
 
     struct ParserDeleter
     {
@@ -181,6 +184,7 @@ private:
     AxEnvValuePtr myValue;
     std::string myGathered;
     bool myFailed = false;
+    std::exception_ptr myThrown;
     AxDiagnostic myDoctype; ///< told at the end of the declaration
 };
 
@@ -214,10 +218,14 @@ void XmlParse::setHandlers()
     XML_SetEndDoctypeDeclHandler(parser, [](void* self) { guarded<&XmlParse::endDoctype>(self, "", ""); });
     XML_SetEntityDeclHandler(
         parser, [](void* self, char const*, int, char const*, int, char const*, char const*, char const*, char const*)
-        { static_cast<XmlParse*>(self)->fail("xml-entity", "entity declarations are not accepted"); });
+        { run(self, [](XmlParse& parse) { parse.fail("xml-entity", "entity declarations are not accepted"); }); });
     XML_SetSkippedEntityHandler(
-        parser, [](void* self, char const* name, int)
-        { static_cast<XmlParse*>(self)->fail("xml-entity", "entity \"" + std::string(name) + "\" is not declared"); });
+        parser,
+        [](void* self, char const* name, int)
+        {
+            run(self, [name](XmlParse& parse)
+                { parse.fail("xml-entity", "entity \"" + std::string(name) + "\" is not declared"); });
+        });
     XML_SetUnknownEncodingHandler(parser, onEncoding, this);
 }
 
@@ -229,8 +237,16 @@ AxEnvironmentPtr XmlParse::read()
         return {};
     }
     XML_Status status = XML_Parse(myParser.get(), myText.data(), static_cast<int>(myText.size()), XML_TRUE);
+    if (myThrown)
+    {
+        std::rethrow_exception(myThrown);
+    }
     if (status != XML_STATUS_OK)
     {
+        if (XML_GetErrorCode(myParser.get()) == XML_ERROR_NO_MEMORY)
+        {
+            throw std::bad_alloc();
+        }
         fail("xml-syntax", XML_ErrorString(XML_GetErrorCode(myParser.get())));
     }
     return myFailed ? AxEnvironmentPtr() : myEnvironment;
@@ -261,10 +277,15 @@ void XmlParse::fail(char const* code, std::string text)
 {
     if (!myFailed)
     {
-        myFailed = true;
+        stop();
         report(AxSeverity::Error, code, std::move(text));
-        XML_StopParser(myParser.get(), XML_FALSE);
     }
+}
+
+void XmlParse::stop()
+{
+    myFailed = true;
+    XML_StopParser(myParser.get(), XML_FALSE);
 }
 
 TextPlaces::Place XmlParse::currentPlace() const
@@ -461,12 +482,8 @@ int XmlParse::onEncoding(void* self, char const* name, XML_Encoding* encoding)
         encoding->release = nullptr;
         return XML_STATUS_OK;
     }
-    auto& parse = *static_cast<XmlParse*>(self);
-    if (!parse.myFailed)
-    {
-        parse.myFailed = true;
-        parse.report(AxSeverity::Error, "xml-encoding", "encoding \"" + std::string(name) + "\" is not supported");
-    }
+    run(self, [name](XmlParse& parse)
+        { parse.fail("xml-encoding", "encoding \"" + std::string(name) + "\" is not supported"); });
     return XML_STATUS_ERROR;
 }
 
@@ -480,54 +497,67 @@ void reportFile(AxFilename const& file, char const* code, std::string text)
 }
 
 /// Most documents are plain and need no parser.
-AxEnvironmentPtr guardedRead(std::string&& text, AxFilename const& name, bool reports)
+AxEnvironmentPtr parsed(std::string&& text, AxFilename const& name, bool reports)
 {
+    AxXmlDocument::Ptr const plain = AxXmlDocument::scanned(std::move(text));
+    return plain ? AxXmlDocument::environment(plain) : XmlParse(text, name, reports).read();
+}
+
+template <typename Read>
+AxEnvironmentPtr guarded(AxFilename const& name, bool reports, bool* ok, Read read)
+{
+    AxEnvironmentPtr environment;
     try
     {
-        AxXmlDocument::Ptr const plain = AxXmlDocument::scanned(std::move(text));
-        return plain ? AxXmlDocument::environment(plain) : XmlParse(text, name, reports).read();
+        environment = read();
     }
     catch (std::exception const& error)
     {
         if (reports)
         {
-            reportFile(name, "xml-error", error.what());
+            axReportException("xml-error", name, &error);
         }
-        return {};
     }
+    if (ok != nullptr)
+    {
+        *ok = environment != nullptr;
+    }
+    return environment;
 }
 } // namespace
 
 AxEnvironmentPtr AxEnvXMLReader::readText(std::string_view text, AxFilename const& name, bool* ok, bool reports)
 {
-    AxEnvironmentPtr environment = guardedRead(std::string(text), name, reports);
-    if (ok != nullptr)
-    {
-        *ok = environment != nullptr;
-    }
-    return environment;
+    return guarded(name, reports, ok, [&] { return parsed(std::string(text), name, reports); });
 }
 
 AxEnvironmentPtr AxEnvXMLReader::readOpenFile(std::FILE* file, AxFilename const& name, bool reports)
 {
-    std::string text;
-    // That reading failed says nothing of the reason.
-    return axReadRest(file, text) ? guardedRead(std::move(text), name, reports) : readFile(name, nullptr, reports);
+    return guarded(name, reports, nullptr,
+                   [&]
+                   {
+                       std::string text;
+                       // That reading failed says nothing of the reason.
+                       return axReadRest(file, text) ? parsed(std::move(text), name, reports)
+                                                     : readFile(name, nullptr, reports);
+                   });
 }
 
 AxEnvironmentPtr AxEnvXMLReader::readFile(AxFilename const& file, bool* ok, bool reports)
 {
-    std::string text;
-    int error = 0;
-    bool const isRead = axReadWholeFile(file, text, error);
-    AxEnvironmentPtr environment = isRead ? guardedRead(std::move(text), file, reports) : AxEnvironmentPtr();
-    if (ok != nullptr)
-    {
-        *ok = environment != nullptr;
-    }
-    if (!isRead && reports)
-    {
-        reportFile(file, "unreadable-file", std::string("cannot be read: ") + std::strerror(error));
-    }
-    return environment;
+    return guarded(file, reports, ok,
+                   [&]
+                   {
+                       std::string text;
+                       int error = 0;
+                       if (axReadWholeFile(file, text, error))
+                       {
+                           return parsed(std::move(text), file, reports);
+                       }
+                       if (reports)
+                       {
+                           reportFile(file, "unreadable-file", std::string("cannot be read: ") + std::strerror(error));
+                       }
+                       return AxEnvironmentPtr();
+                   });
 }

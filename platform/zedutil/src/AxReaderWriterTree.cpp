@@ -170,9 +170,13 @@ bool AxReaderWriter::fromXml(AxString const& text)
 
 bool AxReaderWriter::fromXmlFile(AxFilename const& file)
 {
-    AxSourceScope const source(file);
     bool isRead = false;
-    AxTreeForm::guarded("read-failed", nullptr, [&] { isRead = readTree(*this, AxEnvXMLReader::readFile(file)); });
+    AxTreeForm::guarded("read-failed", nullptr,
+                        [&]
+                        {
+                            AxSourceScope const source(file);
+                            isRead = readTree(*this, AxEnvXMLReader::readFile(file));
+                        });
     return isRead;
 }
 
