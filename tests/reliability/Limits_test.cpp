@@ -1,6 +1,9 @@
 #include "AxEnvXMLReader.h"
 #include "AxLimits.h"
 #include "AxReadWholeFile.h"
+#include "AxReaderWriterFile.h"
+#include "AxRwStringList.h"
+#include "AxRwVariableBindings.h"
 #include "src/paramdb/DatabaseFixture.h"
 
 #include <cerrno>
@@ -53,6 +56,28 @@ std::string repeated(std::string const& text, std::size_t count)
     }
     return all;
 }
+/// A list of its own kind; its words may stand in a file.
+class Nest : public AxRwList
+{
+public:
+    Nest(AxSymbolString name, AxReaderWriterRegistry* registry) : AxRwList(name, registry)
+    {
+        wordsFile.setContent(&words);
+    }
+    ~Nest() override { removeAndDeleteAll(); }
+    using AxRwList::getData;
+    AxlObjPtr getData(AxlObjPtr const& item, AxFilenameList const& files, AxBindingsList const& bindings) override
+    {
+        auto* const inner = new Nest("nest", nullptr);
+        inner->getSelf(item, files, bindings);
+        add(inner);
+        return item;
+    }
+    Nest& innermost() { return isEmpty() ? *this : static_cast<Nest*>(firstElement())->innermost(); }
+
+    AxReaderWriterFile wordsFile{"words-file", registry()};
+    AxRwStringList words{"words", registry()};
+};
 } // namespace
 
 TEST_F(Limits, NestingOfLists)
@@ -192,5 +217,27 @@ TEST_F(Limits, FilesReadBecauseOthersNameThem)
         EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
         EXPECT_TRUE(db.lookup(tank));
         EXPECT_EQ(only(), code) << count;
+    }
+}
+
+TEST_F(Limits, RecordsInEachOtherWhereNamesMayLeadToMore)
+{
+    put("words.txt", "(words \"far\" \"near\")");
+    AxRwVariableBindings set;
+    set.readText("(variable-bindings (more far near))", AxFilename(), {}, {});
+    for (auto const& [open, fileCode, variableCode] :
+         {std::tuple(axLimits.recordNesting - 1, "", ""), std::tuple(axLimits.recordNesting, "", ""),
+          std::tuple(axLimits.recordNesting + 1, "file-chain-limit", "variable-limit")})
+    {
+        for (bool const isFile : {true, false})
+        {
+            Nest nest("nest", nullptr);
+            std::string const text = repeated("(nest ", open) +
+                                     (isFile ? "(words-file \"words.txt\")" : "(words $more)") + std::string(open, ')');
+            nest.readText(text, AxFilename("nest.ope"), {AxFilename(directory())}, {&set});
+            std::string const code = only();
+            EXPECT_EQ(code, isFile ? fileCode : variableCode) << open;
+            EXPECT_EQ(nest.innermost().words.size(), code.empty() ? 2U : 0U) << open;
+        }
     }
 }
