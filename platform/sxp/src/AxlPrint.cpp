@@ -59,6 +59,10 @@ void appendAtom(std::string& out, AxlObj const* cell)
 
 void axAppendCell(std::string& out, AxlObj const* cell)
 {
+    if (cell == nullptr)
+    {
+        return;
+    }
     // What is still to be written of the lists around; depth must not cost calls, cells built in code know no limit.
     std::vector<AxlObj const*> rests;
     for (;;)

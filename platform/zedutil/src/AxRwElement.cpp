@@ -74,7 +74,7 @@ void AxRwElement<AxForceType>::write(std::string& out, AxForceType value)
 std::string axWrittenItems(AxlObj const* items)
 {
     std::string text;
-    for (; items->isPair(); items = items->cdr())
+    for (; items && items->isPair(); items = items->cdr())
     {
         if (!text.empty())
         {

@@ -33,7 +33,7 @@ AxRwString& AxRwString::operator=(char const* value)
 
 bool AxRwString::readValue(AxlObj const*& items, AxString& value)
 {
-    if (items->tag() != AxlObj::Tag::Pair || items->car()->tag() == AxlObj::Tag::Pair)
+    if (!items || items->tag() != AxlObj::Tag::Pair || items->car()->tag() == AxlObj::Tag::Pair)
     {
         return false;
     }

@@ -67,7 +67,7 @@ AxString AxRwUUID::string() const
 bool AxRwUUID::readValue(AxlObj const*& items, boost::uuids::uuid& value)
 {
     boost::uuids::uuid read{};
-    if (!items->isPair() || !parse(items->car()->text(), read))
+    if (!items || !items->isPair() || !parse(items->car()->text(), read))
     {
         return false;
     }

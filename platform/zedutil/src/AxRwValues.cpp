@@ -26,6 +26,12 @@ bool same(double a, double b)
     return AxRwReal::same(a, b);
 }
 
+/// Hosts may hand over no cell at all.
+bool hasItem(AxlObj const* items)
+{
+    return items && items->isPair();
+}
+
 /// A number, or one of the words inf, -inf and nan.
 bool realOf(AxlObj const* cell, double& value)
 {
@@ -78,7 +84,11 @@ bool integerOf(AxlObj const* cell, double low, double high, double& value)
 /// Three reals side by side or in one nested list.
 bool threeReals(AxlObj const*& items, std::array<double, 3>& values)
 {
-    bool const isNested = items->isPair() && items->car()->isPair();
+    if (!hasItem(items))
+    {
+        return false;
+    }
+    bool const isNested = items->car()->isPair();
     AxlObj const* item = isNested ? items->car() : items;
     std::array<double, 3> read{};
     for (double& value : read)
@@ -143,7 +153,7 @@ void appendFields(std::string& out, Fields const& fields, std::size_t from)
 template <class Type>
 bool typeOf(AxlObj const*& items, Type& value)
 {
-    if (!items->isPair())
+    if (!hasItem(items))
     {
         return false;
     }
@@ -216,7 +226,7 @@ char const* AxRwReal::xmlType() const
 
 bool AxRwReal::readValue(AxlObj const*& items, double& value)
 {
-    if (!items->isPair() || !realOf(items->car(), value))
+    if (!hasItem(items) || !realOf(items->car(), value))
     {
         return false;
     }
@@ -237,7 +247,7 @@ char const* AxRwInt::xmlType() const
 bool AxRwInt::readValue(AxlObj const*& items, int& value)
 {
     double number = 0.0;
-    if (!items->isPair() ||
+    if (!hasItem(items) ||
         !integerOf(items->car(), std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), number))
     {
         return false;
@@ -260,7 +270,7 @@ char const* AxRwUnsigned::xmlType() const
 bool AxRwUnsigned::readValue(AxlObj const*& items, unsigned& value)
 {
     double number = 0.0;
-    if (!items->isPair() || !integerOf(items->car(), 0.0, std::numeric_limits<unsigned>::max(), number))
+    if (!hasItem(items) || !integerOf(items->car(), 0.0, std::numeric_limits<unsigned>::max(), number))
     {
         return false;
     }
@@ -281,7 +291,7 @@ char const* AxRwBoolean::xmlType() const
 
 bool AxRwBoolean::readValue(AxlObj const*& items, bool& value)
 {
-    if (!items->isPair())
+    if (!hasItem(items))
     {
         return false;
     }

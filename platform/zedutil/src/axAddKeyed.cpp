@@ -43,6 +43,10 @@ AxReadFrame::Index* indexOf(AxRwList const& list, AxElementKey keyOf)
 
 void axAddKeyed(AxRwList& list, AxReaderWriter* element, AxElementKey keyOf)
 {
+    if (!element)
+    {
+        return;
+    }
     std::string_view const key = keyOf(*element);
     AxReadFrame::Index* const index = indexOf(list, keyOf);
     AxListItem* older = nullptr;
