@@ -62,6 +62,51 @@ TEST(AxRwProperty, IsTheOnlyReaderWriterThatAnswersItself)
     EXPECT_EQ(property.type(), "AxRwInt");
 }
 
+TEST(AxRwProperty, IsEmptyWithoutAType)
+{
+    AxRwProperty property("p", nullptr), other("p", nullptr);
+    AxRwVariableBindings set;
+    readFrom(set, "(variable-bindings (n 4))");
+    property.bindVariables({&set});
+    property.bindLocalVariables({&set});
+    property.clearAllVariableReferenceFlags();
+    property.reset();
+    EXPECT_TRUE(property.unboundVariables().empty());
+    EXPECT_FALSE(property.hasVariableReference());
+    EXPECT_EQ(property.recordUpdateTime(), static_cast<AxReaderWriter&>(property).AxReaderWriter::recordUpdateTime());
+    EXPECT_TRUE(property.equals(other));
+    std::string written;
+    property.putData(written, 0);
+    EXPECT_EQ(written, "");
+    ASSERT_TRUE(other.setType("AxRwInt"));
+    EXPECT_FALSE(property.equals(other));
+    other = property;
+    EXPECT_FALSE(other.rwValue());
+    EXPECT_TRUE(property.equals(other));
+    AxRwProperty const& same = property;
+    property = same;
+    EXPECT_TRUE(property.equals(other));
+    AxRwProperty named("q", nullptr);
+    EXPECT_FALSE(property.equals(named));
+}
+
+TEST(AxRwProperty, TakesItsValueAlongWhenVariablesAndMarksChange)
+{
+    AxRwProperty property("p", nullptr);
+    readFrom(property, "(p AxRwInt $n)");
+    EXPECT_TRUE(property.hasVariableReference());
+    EXPECT_EQ(property.unboundVariables().size(), 1U);
+    AxRwVariableBindings set;
+    readFrom(set, "(variable-bindings (n 4))");
+    property.bindLocalVariables({&set});
+    EXPECT_EQ(dynamic_cast<AxRwInt&>(*property.rwValue()).value(), 4);
+    property.clearAllVariableReferenceFlags();
+    EXPECT_FALSE(property.hasVariableReference());
+    EXPECT_EQ(property.writtenText(), "(p AxRwInt 4)\n");
+    property.reset();
+    EXPECT_EQ(dynamic_cast<AxRwInt&>(*property.rwValue()).value(), 0);
+}
+
 TEST(AxRwProperties, ReplaceInALongTextAsInAShortOne)
 {
     std::string text = "(p";

@@ -30,6 +30,21 @@ TEST(AxSharedTextTest, KeepsEqualTextsOnce)
     EXPECT_TRUE(AxSharedText() == shared(""));
 }
 
+TEST(AxSharedTextTest, FindsEachOfManyTexts)
+{
+    std::vector<AxSharedText> texts;
+    for (int i = 0; i < 3000; ++i)
+    {
+        texts.push_back(shared("text " + std::to_string(i)));
+    }
+    for (int i = 0; i < 3000; ++i)
+    {
+        auto const at = static_cast<std::size_t>(i);
+        EXPECT_EQ(textOf(texts[at]), "text " + std::to_string(i));
+        EXPECT_TRUE(shared("text " + std::to_string(i)) == texts[at]);
+    }
+}
+
 TEST(AxSharedTextTest, TakesItsOwnText)
 {
     AxSharedText text = shared("a text that no other value holds");

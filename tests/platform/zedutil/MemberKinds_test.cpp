@@ -168,6 +168,9 @@ TEST(AxRwSequence, KeepsItsValuesWhenOneOfTheNewIsOfAnotherKind)
         {made<AxRwObjectTypeList>(), "(k (1 1 1 1 1 1 1))", "(k (1 2 3))", "wrong-kind@1:4"},
         {made<AxRwForces>(), "(k 1)", "(k 1.5)", "wrong-kind@1:4"},
         {made<AxRwRealAttributeList>(), "(k (\"a\" 1.0))", "(k (\"a\" 2.0) (\"b\" 1.0 2.0))", "wrong-kind@1:14"},
+        {made<AxRwRealAttributeList>(), "(k (\"a\" 1.0))", "(k ((a) 2.0))", "wrong-kind@1:4"},
+        {made<AxRwRealAttributeList>(), "(k (\"a\" 1.0))", "(k (\"a\" x))", "wrong-kind@1:4"},
+        {made<AxRwRealAttributeList>(), "(k (\"a\" 1.0))", "(k (\"a\"))", "wrong-kind@1:4"},
         {made<AxRwStringAttributeList>(), "(k (\"a\" \"b\"))", "(k \"a\")", "wrong-kind@1:4"},
     };
     for (Case const& one : cases)
@@ -192,6 +195,53 @@ TEST(AxRwSequence, MarksItselfSpecifiedWhenEditedButNotWhenAssigned)
     EXPECT_FALSE(words.remove("a"));
     EXPECT_EQ(words[0], "b");
     EXPECT_EQ(words.size(), 1U);
+}
+
+TEST(AxRwSequence, ValuesAreComparedOneByOneAndNoNumberEqualsItself)
+{
+    struct
+    {
+        std::unique_ptr<AxReaderWriter> one;
+        std::unique_ptr<AxReaderWriter> other;
+        char const* left;
+        char const* right;
+        bool areEqual;
+    } const cases[] = {
+        {made<AxNLengthRealVector>(), made<AxNLengthRealVector>(), "(k 1.0 nan)", "(k 1.0 nan)", true},
+        {made<AxNLengthRealVector>(), made<AxNLengthRealVector>(), "(k nan 1.0)", "(k 1.0 nan)", false},
+        {made<AxNLengthRealVector>(), made<AxNLengthRealVector>(), "(k 1.0)", "(k nan)", false},
+        {made<AxNLengthRealVector>(), made<AxNLengthRealVector>(), "(k 1.0)", "(k 1.0 2.0)", false},
+        {made<AxRwRealAttributeList>(), made<AxRwRealAttributeList>(), "(k (a nan))", "(k (a nan))", true},
+        {made<AxRwRealAttributeList>(), made<AxRwRealAttributeList>(), "(k (a 1.0))", "(k (b 1.0))", false},
+        {made<AxRwRealAttributeList>(), made<AxRwRealAttributeList>(), "(k (a 1.0))", "(k (a 1.0) (b 1.0))", false},
+        {made<AxRwStringAttributeList>(), made<AxRwStringAttributeList>(), "(k (a x))", "(k (a y))", false},
+    };
+    for (auto const& [one, other, left, right, areEqual] : cases)
+    {
+        readFrom(*one, left);
+        readFrom(*other, right);
+        EXPECT_EQ(AxReaderWriterFactory::equalByType(*one, *other), areEqual) << left << ' ' << right;
+    }
+}
+
+TEST(AxRwSequence, GoesBackToItsDefaultOnReset)
+{
+    AxRwRealAttributeList factors("factors", nullptr);
+    AxNLengthRealVector values("values", nullptr);
+    auto* const usualFactors = new AxRwRealAttributeList("factors", nullptr);
+    auto* const usualValues = new AxNLengthRealVector("values", nullptr);
+    readFrom(*usualFactors, "(factors (mud 0.4))");
+    readFrom(*usualValues, "(values 1.0 2.0)");
+    factors.setDefaultRWValue(usualFactors);
+    values.setDefaultRWValue(usualValues);
+    EXPECT_FALSE(factors.remove("sand"));
+    readFrom(factors, "(factors (sand 0.7))");
+    readFrom(values, "(values 3.0)");
+    factors.reset();
+    values.reset();
+    EXPECT_EQ(factors.get("mud"), 0.4);
+    EXPECT_FALSE(factors.contains("sand"));
+    EXPECT_EQ(values.values(), (std::vector<double>{1.0, 2.0}));
 }
 
 TEST(AxRwSequence, ExpandsReferencesInTextsAndKeepsThemForWriting)

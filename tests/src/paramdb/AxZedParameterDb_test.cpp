@@ -107,6 +107,37 @@ TEST_F(AxZedParameterDbTest, IndexAnswersAsTheWalkDoes)
     EXPECT_EQ(warnings.text(), "");
 }
 
+TEST_F(AxZedParameterDbTest, ManyThatComeAtOnceStandInOrder)
+{
+    // How far the fields reach from 0: types of few values make short numbers, others need more bits than one has.
+    std::array<std::int32_t, 8> const reaches[] = {
+        {1, 1, 0, 3, 3, 3, 3, 0},
+        {1, 1, 1, 300, 10, 10, 100, 1000},
+        {0, 0, 0, 0, 0, 0, 0, 500},
+        {1 << 30, 1 << 30, 1 << 30, 1 << 30, 1 << 30, 1 << 30, 1 << 30, 1 << 30},
+    };
+    RandomTypes random(5);
+    for (auto const& reach : reaches)
+    {
+        for (std::size_t const count : {63U, 64U, 300U})
+        {
+            WalkedDatabase many;
+            Walk walk;
+            while (walk.entries.size() < count)
+            {
+                AxObjectType::Fields fields{};
+                std::transform(reach.begin(), reach.end(), fields.begin(),
+                               [&random](std::int32_t most) { return most > 0 ? random.number(-1, most) : 0; });
+                AxZedParameterDbEntry* const entry = newEntry(AxObjectType(fields), false);
+                walk.insert(entry);
+                many.addParameterDbEntry(entry);
+            }
+            ASSERT_EQ(many.entries(), walk.entries) << reach[7] << ' ' << count;
+            ASSERT_EQ(many.found(walk.entries[count / 2]->objectType()), walk.entries[count / 2]);
+        }
+    }
+}
+
 TEST_F(AxZedParameterDbTest, IndexAnswersAsTheWalkDoesForTheTypesOfAFile)
 {
     char const* const file = std::getenv("ZEDOBJPARAM_TYPES");
