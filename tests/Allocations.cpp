@@ -1,7 +1,6 @@
 #include "Allocations.h"
 
 #include <cstdlib>
-#include <dlfcn.h>
 #include <limits>
 #include <new>
 
@@ -80,10 +79,8 @@ bool AllocationFault::wasHit()
 // Stands in front of the XML parser's own for everything in the process.
 extern "C" __attribute__((visibility("default"))) XML_Parser XML_ParserCreate(XML_Char const* encoding)
 {
-    static auto const create =
-        reinterpret_cast<decltype(&XML_ParserCreate_MM)>(dlsym(RTLD_NEXT, "XML_ParserCreate_MM"));
     static XML_Memory_Handling_Suite const memory{parserMalloc, parserRealloc, std::free};
-    return create(encoding, &memory, nullptr);
+    return XML_ParserCreate_MM(encoding, &memory, nullptr);
 }
 
 // All of them: a sanitizer has its own of each, which must not meet these.

@@ -107,13 +107,18 @@ Class* made()
     {
         return new Made("given", nullptr);
     }
-    else if constexpr (std::is_constructible_v<Made, char const*>)
+    else if constexpr (std::is_constructible_v<Made, char const*> && std::is_class_v<Made> &&
+                       !std::is_polymorphic_v<Made>)
     {
         return new Made("given");
     }
     else if constexpr (std::is_default_constructible_v<Made>)
     {
         return new Made();
+    }
+    else if constexpr (std::is_constructible_v<Made, char const*>)
+    {
+        return new Made("given");
     }
     else
     {
@@ -286,7 +291,13 @@ void hold(char const* name, Call const& call, IsChanged const& isChanged)
         }
         else
         {
-            answer = shown<std::remove_cvref_t<decltype(call())>>(call());
+            decltype(auto) result = call();
+            answer = shown<std::remove_cvref_t<decltype(result)>>(result);
+            if constexpr (std::is_convertible_v<decltype(result), AxReaderWriter const*>)
+            {
+                // What such a function makes is the caller's.
+                delete (std::string_view(name).find("::c") != std::string_view::npos ? result : nullptr);
+            }
         }
         if (isChanged())
         {
@@ -308,7 +319,8 @@ inline bool never()
 template <class Class, class Call>
 void holdMember(char const* name, Call const& call)
 {
-    std::unique_ptr<Class> const object(made<Class>());
+    constexpr bool isDeleted = !std::is_polymorphic_v<Class> || std::has_virtual_destructor_v<Class>;
+    Class* const object = isDeleted ? made<Class>() : kept<Class>();
     auto const run = [&]() -> decltype(auto) { return call(*object); };
     if constexpr (std::is_base_of_v<AxReaderWriter, Class>)
     {
@@ -318,6 +330,10 @@ void holdMember(char const* name, Call const& call)
     else
     {
         hold(name, run, never);
+    }
+    if constexpr (isDeleted)
+    {
+        delete object;
     }
 }
 
