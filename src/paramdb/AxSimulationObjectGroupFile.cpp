@@ -156,14 +156,18 @@ bool AxSimulationObjectGroupModelSetEntry::load(AxFilename const& file)
 
 bool AxSimulationObjectGroupModelSetEntry::readAllSimulationObject()
 {
-    Content content;
-    if (!readContent(foundFile(), content))
-    {
-        return false;
-    }
-    content.entry.reset();
-    myContent = std::move(content);
-    return true;
+    return axGuarded("read-failed", AxFilename::nullFilename(), false,
+                     [&]
+                     {
+                         Content content;
+                         if (!readContent(foundFile(), content))
+                         {
+                             return false;
+                         }
+                         content.entry.reset();
+                         myContent = std::move(content);
+                         return true;
+                     });
 }
 
 AxFilename AxSimulationObjectGroupModelSetEntry::foundFile() const
@@ -182,7 +186,7 @@ AxFilename AxSimulationObjectGroupModelSetEntry::foundFile() const
 bool AxSimulationObjectGroupModelSetEntry::save()
 {
     // Name and directories stay as the set tells them, so that both can be moved together.
-    return write(foundFile());
+    return axGuarded("write-failed", AxFilename::nullFilename(), false, [&] { return write(foundFile()); });
 }
 
 bool AxSimulationObjectGroupModelSetEntry::save(AxFilename const& file)

@@ -447,6 +447,17 @@ TEST_F(AllocationFaults, GroupsAndEntityFilesOfModels)
             text = [this] { return get("new.sog"); };
             return [read, group, saved] { return read->load(group) && read->save(saved); };
         });
+    AxFilename const set = put("named.models", "(model-set (simulation-object-group (label \"Patrol\") "
+                                               "(filename \"models/a.sog\")))");
+    hold(
+        [&]() -> Job
+        {
+            auto const models = std::make_shared<AxModelSet>("model-set", nullptr);
+            EXPECT_TRUE(models->load(set));
+            auto* const named = models->findSimulationObjectGroup("Patrol");
+            text = [named] { return std::to_string(named->simulationObjects().size()); };
+            return [models, named] { return named->readAllSimulationObject() && named->save(); };
+        });
     hold(
         [&]() -> Job
         {

@@ -125,6 +125,26 @@ TEST_F(HostileHost, NullsHaveADefinedResult)
     AxWarn(nullptr);
 }
 
+TEST_F(HostileHost, TheSameReaderAgainAndNoListOfConfigurationsAreNoHarm)
+{
+    auto* const reader = new AxSxpParameterDbReader;
+    auto* const writer = new AxSxpParameterDbWriter;
+    for (int i = 0; i < 2; ++i)
+    {
+        db.setReader(reader);
+        db.setWriter(writer);
+    }
+    EXPECT_TRUE(db.load(AxFilename(path("force.opd"))));
+    EXPECT_TRUE(db.save(AxFilename(path("new.opd"))));
+    AxSxpParameterDb plain;
+    plain.setRemoteConfigurationListCreatorFcn({});
+    plain.init();
+    EXPECT_EQ(plain.remoteConfigurationList(), nullptr);
+    EXPECT_TRUE(plain.load(AxFilename(path("new.opd"))));
+    EXPECT_TRUE(plain.lookup(tank));
+    EXPECT_TRUE(plain.save(AxFilename(path("newer.opd"))));
+}
+
 TEST_F(HostileHost, TwoDatabasesDoNotDisturbEachOther)
 {
     put("other/m1.ope", record("(mass 2.0)"));

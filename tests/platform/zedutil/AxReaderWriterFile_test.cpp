@@ -338,6 +338,55 @@ TEST(AxReaderWriterFile, TellsWhetherItsContentWasChanged)
     EXPECT_FALSE(copy.rowsFile.contentChanged());
 }
 
+TEST(AxReaderWriterFile, BoundVariablesAreNoChangeOfItsContent)
+{
+    Folder const folder;
+    folder.write("a.hit", "(rows (r (value $v)))");
+    AxRwVariableBindings set;
+    readFrom(set, "(variable-bindings (v 7))");
+    for (bool const isLocal : {false, true})
+    {
+        Weapon gun("gun");
+        readFrom(gun, "(gun (rows-file \"a.hit\"))", {}, folder.search());
+        EXPECT_TRUE(gun.rowsFile.hasVariableReference());
+        isLocal ? gun.rowsFile.bindLocalVariables({&set}) : gun.rowsFile.bindVariables({&set});
+        EXPECT_EQ(gun.rows.lookup("r")->value.value(), 7);
+        EXPECT_FALSE(gun.rowsFile.contentChanged());
+        gun.rows.lookup("r")->setName("s");
+        gun.rows.lookup("s")->value = 8;
+        isLocal ? gun.rowsFile.bindLocalVariables({&set}) : gun.rowsFile.bindVariables({&set});
+        EXPECT_TRUE(gun.rowsFile.contentChanged()) << "an edit stays one";
+        gun.rowsFile.clearAllVariableReferenceFlags();
+        EXPECT_FALSE(gun.rowsFile.hasVariableReference());
+    }
+}
+
+TEST(AxReaderWriterFile, IsANameAloneWithoutContent)
+{
+    Weapon gun("gun");
+    EXPECT_TRUE(gun.rowsFile.hasChild(&gun.rows));
+    EXPECT_FALSE(gun.tableFile.hasChild(&gun.table)) << "which is the record's";
+    EXPECT_FALSE(gun.rowsFile.hasChild(&gun.table));
+    EXPECT_FALSE(gun.rowsFile.save()) << "without a name";
+    AxReaderWriterFile bare("file", nullptr);
+    bare = AxFilename("a.hit");
+    bare.bindVariables({});
+    bare.bindLocalVariables({});
+    bare.clearAllVariableReferenceFlags();
+    bare.clearChanged();
+    EXPECT_FALSE(bare.hasChild(&gun.rows));
+    EXPECT_FALSE(bare.save());
+    EXPECT_FALSE(bare.contentEnabled());
+    EXPECT_FALSE(bare.contentChanged());
+    EXPECT_FALSE(bare.hasVariableReference());
+    EXPECT_TRUE(bare.unboundVariables().empty());
+    gun.rowsFile = bare;
+    EXPECT_EQ(gun.rowsFile.filename(), AxFilename("a.hit"));
+    EXPECT_EQ(gun.rowsFile.content(), &gun.rows);
+    bare.reset();
+    EXPECT_TRUE(bare.filename().isNull());
+}
+
 TEST(AxReaderWriterFile, SavesTheContentToTheFileThatWasFound)
 {
     Folder const folder;

@@ -114,6 +114,34 @@ TEST(AxRwVariableBindings, KeepsWhatIsNoVariable)
     EXPECT_EQ(set.writtenText(), "(variable-bindings\n  (a 1)\n  (c 2)\n  (b)\n  7)\n");
 }
 
+TEST(AxRwVariableBindings, AreEqualWithEqualValuesInAnyOrder)
+{
+    struct
+    {
+        char const* items;
+        bool isEqual;
+    } const cases[] = {{"(a 1) (b x y)", true},
+                       {"(b x y) (a 1)", true},
+                       {"(a 1)", false},
+                       {"(a 1) (b x y) (c 1)", false},
+                       {"(a 1) (c x y)", false},
+                       {"(a 2) (b x y)", false},
+                       {"(a 1) (b \"x\" y)", false},
+                       {"", false}};
+    AxRwVariableBindings set;
+    readFrom(set, "(variable-bindings (a 1) (b x y))");
+    for (auto const& [items, isEqual] : cases)
+    {
+        AxRwVariableBindings other;
+        readFrom(other, "(variable-bindings " + std::string(items) + ")");
+        EXPECT_EQ(set.equals(other), isEqual) << items;
+        EXPECT_EQ(other.equals(set), isEqual) << items;
+    }
+    AxRwVariableBindings copy(set);
+    set.addAllFrom(set);
+    EXPECT_TRUE(set.equals(copy));
+}
+
 TEST(AxRwVariableBindings, FindsEachOfMany)
 {
     AxRwVariableBindings set;
