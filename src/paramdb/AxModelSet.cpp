@@ -152,12 +152,13 @@ void AxModelSet::addToEnd(AxReaderWriter* rw)
 void AxModelSet::remove(AxReaderWriter* rw, AxListItem* item)
 {
     AxListItem* const place = item ? item : knownItemOf(static_cast<AxModelSetEntry*>(rw));
-    if (!place)
+    auto const* const entry = static_cast<AxModelSetEntry const*>(element(place));
+    if (!entry)
     {
         return;
     }
     // Of entries of one type another one comes to the front; of an entry whose type changed the old one is not known.
-    auto const found = myIndex.find(static_cast<AxModelSetEntry const*>(element(place))->objectType());
+    auto const found = myIndex.find(entry->objectType());
     bool const isSettled =
         myIndexedChange == changeCount() && !myHasRepeatedTypes && found != myIndex.end() && found->second == place;
     AxRwList::remove(rw, place);
