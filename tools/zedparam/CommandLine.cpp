@@ -58,6 +58,12 @@ Command& Command::oneFlagOf(char const* group)
     return *this;
 }
 
+Command& Command::hidden()
+{
+    myArguments->group("");
+    return *this;
+}
+
 Command& Command::footer(char const* text)
 {
     myArguments->footer(text);

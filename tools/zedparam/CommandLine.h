@@ -30,6 +30,8 @@ public:
     Command& flag(char const* name, bool& value, char const* help);
     /// Of the flags that follow, one must be given.
     Command& oneFlagOf(char const* group);
+    /// No help text lists the command.
+    Command& hidden();
     /// Stands below the arguments in the help text.
     Command& footer(char const* text);
 

@@ -34,3 +34,4 @@ void addFmtCommand(CommandLine& line);
 void addDiffCommand(CommandLine& line);
 void addMergeCommand(CommandLine& line);
 void addManualCommand(CommandLine& line);
+void addCompleteCommand(CommandLine& line);

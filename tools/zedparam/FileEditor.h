@@ -23,6 +23,10 @@ public:
     /// Takes the item at the end of the path out, with its line when it has one for itself.
     virtual bool unset(std::string const& path) = 0;
 
+    /// The steps that lead on from the path, or from the beginning for an empty one: what stands there already, and
+    /// else what may. One behind which a path goes on ends in "/".
+    virtual std::vector<std::string> stepsBehind(std::string const& path, bool onlyThere) = 0;
+
     std::string const& text() const { return myText; }
     AxDiagnostic const& fault() const { return myFault; }
     /// What was done, in the order in which it was asked for.

@@ -6,10 +6,10 @@
 
 namespace
 {
-/// The sub-commands in their order.
+/// The sub-commands in their order, but for hidden ones.
 std::vector<CLI::App const*> commands(CLI::App const& app)
 {
-    return app.get_subcommands([](CLI::App const*) { return true; });
+    return app.get_subcommands([](CLI::App const* command) { return !command->get_group().empty(); });
 }
 
 std::vector<CLI::Option const*> options(CLI::App const& app)
@@ -47,17 +47,6 @@ std::vector<std::string> spellings(CLI::Option const& option)
     return all;
 }
 
-/// "ope entity json" of an option that takes one of these; empty for others.
-std::string choices(CLI::Option const& option)
-{
-    std::string const type = option.get_type_name();
-    std::size_t const begin = type.find('{');
-    std::size_t const end = type.find('}', begin);
-    std::string words = begin < end && end != std::string::npos ? type.substr(begin + 1, end - begin - 1) : "";
-    std::replace(words.begin(), words.end(), ',', ' ');
-    return words;
-}
-
 bool takesValue(CLI::Option const& option)
 {
     return option.get_items_expected_max() > 0;
@@ -90,7 +79,79 @@ std::string joined(std::vector<std::string> const& parts, char const* separator)
     }
     return text;
 }
+/// Puts the words up to the cursor together again, which bash divides at ":" and "=" as well, and takes their quotes.
+constexpr std::string_view theBashWords = R"sh(_zedparam_words()
+{
+    local rest=${COMP_LINE:0:COMP_POINT} i blanks
+    words=()
+    for ((i = 0; i <= COMP_CWORD; i++)); do
+        blanks=${rest%%[![:space:]]*}
+        rest=${rest#"$blanks"}
+        word=${COMP_WORDS[i]}
+        [[ $rest == "$word"* ]] || word=$rest
+        rest=${rest#"$word"}
+        if ((i == 0)) || [[ -n $blanks ]]; then
+            words+=("$word")
+        else
+            words[${#words[@]} - 1]+=$word
+        fi
+    done
+    for ((i = 0; i < ${#words[@]}; i++)); do
+        word=${words[i]}
+        case $word in
+            \'*) word=${word#\'} word=${word%\'} ;;
+            \"*) word=${word#\"} word=${word%\"} ;;
+            '~/'*) word=$HOME/${word#??} ;;
+            *) word=${word//\\/} ;;
+        esac
+        words[i]=$word
+    done
+}
+)sh";
+
+/// Asks the command itself, with what bash takes for words of their own left as it stands. Without an answer bash goes
+/// on with the names of files.
+constexpr std::string_view theBashQuestion = R"sh(
+    local prefix=
+    [[ $COMP_WORDBREAKS == *:* ]] && prefix=${current%"${current##*:}"}
+    if [[ $COMP_WORDBREAKS == *=* && ${current#"$prefix"} == *=* ]]; then
+        prefix=${current%"${current##*=}"}
+    fi
+    while IFS= read -r word; do
+        [[ $word == *[/=] || ${words[1]}:${#words[@]} == find:4 ]] && compopt -o nospace 2>/dev/null
+        word=${word#"$prefix"}
+        [[ ${COMP_WORDS[COMP_CWORD]} == [\"\']* ]] || printf -v word %q "$word"
+        COMPREPLY+=("$word")
+    done < <("${words[0]}" complete -- "${words[@]:1}" 2>/dev/null)
+}
+complete -o default -F _zedparam zedparam
+)sh";
+
+constexpr std::string_view theZshQuestion = R"sh(_zedparam_values()
+{
+    local -a found open closed
+    found=(${(f)"$(zedparam complete -- ${(Q)words[1,CURRENT-1]} "${(Q)PREFIX}" 2>/dev/null)"})
+    if ((! $#found)); then
+        _files
+        return
+    fi
+    open=(${(M)found:#*[/=]})
+    closed=(${found:#*[/=]})
+    (($#closed)) && compadd -a closed
+    (($#open)) && compadd -S '' -a open
+}
+)sh";
 } // namespace
+
+std::string choices(CLI::Option const& option)
+{
+    std::string const type = option.get_type_name();
+    std::size_t const begin = type.find('{');
+    std::size_t const end = type.find('}', begin);
+    std::string words = begin < end && end != std::string::npos ? type.substr(begin + 1, end - begin - 1) : "";
+    std::replace(words.begin(), words.end(), ',', ' ');
+    return words;
+}
 
 std::string bashCompletion(CLI::App const& app)
 {
@@ -107,35 +168,38 @@ std::string bashCompletion(CLI::App const& app)
             words.insert(words.end(), its.begin(), its.end());
             if (std::string const known = choices(*option); !known.empty() && !its.empty())
             {
-                values += "        " + command->get_name() + ":" + its.back() + ") words=\"" + known + "\" ;;\n";
+                values += "        " + command->get_name() + ":" + its.back() + ") choices=\"" + known + "\" ;;\n";
             }
         }
-        cases += "        " + command->get_name() + ") words=\"" + joined(words, " ") + "\" ;;\n";
+        cases += "            " + command->get_name() + ") choices=\"" + joined(words, " ") + "\" ;;\n";
     }
-    return "# Completion of zedparam for bash.\n"
+    std::string text = "# Completion of zedparam for bash.\n";
+    text += theBashWords;
+    return text +
            "_zedparam()\n{\n"
-           "    local current=${COMP_WORDS[COMP_CWORD]} command=${COMP_WORDS[1]} words=\n"
+           "    local words word current choices=\n"
            "    COMPREPLY=()\n"
-           "    if ((COMP_CWORD == 1)); then\n"
+           "    _zedparam_words\n"
+           "    current=${words[${#words[@]} - 1]}\n"
+           "    if ((${#words[@]} == 2)); then\n"
            "        COMPREPLY=($(compgen -W \"" +
            joined(names, " ") +
            " --help --version\" -- \"$current\"))\n"
            "        return\n"
            "    fi\n"
-           "    case $command:${COMP_WORDS[COMP_CWORD - 1]} in\n" +
+           "    case ${words[1]}:${words[${#words[@]} - 2]} in\n" +
            values +
            "    esac\n"
-           "    if [[ -n $words ]]; then\n"
-           "        COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n"
-           "        return\n"
-           "    fi\n"
-           "    [[ $current == -* ]] || return # bash completes the names of files\n"
-           "    case $command in\n" +
+           "    if [[ -z $choices && $current == -* ]]; then\n"
+           "        case ${words[1]} in\n" +
            cases +
-           "    esac\n"
-           "    COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n"
-           "}\n"
-           "complete -o default -F _zedparam zedparam\n";
+           "        esac\n"
+           "    fi\n"
+           "    if [[ -n $choices ]]; then\n"
+           "        COMPREPLY=($(compgen -W \"$choices\" -- \"$current\"))\n"
+           "        return\n"
+           "    fi" +
+           std::string(theBashQuestion);
 }
 
 std::string zshCompletion(CLI::App const& app)
@@ -167,9 +231,9 @@ std::string zshCompletion(CLI::App const& app)
                          inQuotes(spelling + "[" + quoted(option->get_description()) + "]" + value) + "'";
             }
         }
-        cases += " \\\n                '*:file:_files'\n            ;;\n";
+        cases += " \\\n                '*: :_zedparam_values'\n            ;;\n";
     }
-    return "#compdef zedparam\n# Completion of zedparam for zsh.\n"
+    return "#compdef zedparam\n# Completion of zedparam for zsh.\n" + std::string(theZshQuestion) +
            "_zedparam()\n{\n"
            "    local -a commands\n"
            "    commands=(\n" +

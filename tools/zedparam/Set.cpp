@@ -1,4 +1,3 @@
-#include "CommandLine.h"
 #include "Commands.h"
 
 #include <cstdio>
@@ -9,15 +8,11 @@
 
 #include "AxReadWholeFile.h"
 #include "CommandLine.h"
-#include "Database.h"
 #include "Findings.h"
 #include "Json.h"
+#include "OpenEditor.h"
 #include "PathText.h"
-#include "ReadContext.h"
-#include "TextEditor.h"
 #include "WriteFile.h"
-#include "XmlEditor.h"
-#include "XmlLayout.h"
 
 namespace
 {
@@ -31,45 +26,6 @@ struct SetOptions
     bool dryRun = false;
     bool json = false;
 };
-
-/// The editor of a file, and what it works with; without one after a line that says why.
-struct Opened
-{
-    std::unique_ptr<TextReading> reading;
-    std::unique_ptr<Database> database;
-    std::unique_ptr<ReadContext> context;
-    std::unique_ptr<FileEditor> editor;
-};
-
-Opened open(SetOptions const& options, std::string const& text)
-{
-    Opened opened;
-    if (isXml(text))
-    {
-        opened.database = databaseFor(options.file, options.database);
-        if (opened.database != nullptr)
-        {
-            opened.context = std::make_unique<ReadContext>(options.file, *opened.database);
-            opened.editor =
-                std::make_unique<XmlEditor>(options.file, text, options.object, *opened.context, options.force);
-        }
-        return opened;
-    }
-    TextTree const tree(text);
-    if (!tree.isReadable())
-    {
-        AxDiagnostic fault = tree.faults().front().diagnostic();
-        fault.file = options.file;
-        std::fprintf(stderr, "%s\n", fault.format().c_str());
-        return opened;
-    }
-    opened.reading = TextReading::open(options.file, options.database);
-    if (opened.reading != nullptr)
-    {
-        opened.editor = std::make_unique<TextEditor>(options.file, text, *opened.reading, options.force);
-    }
-    return opened;
-}
 
 void printJson(SetOptions const& options, std::vector<FileEditor::Change> const& changes,
                std::vector<AxDiagnostic> const& findings)
@@ -106,12 +62,12 @@ int edit(SetOptions const& options, bool (*apply)(FileEditor& editor, std::strin
         std::fprintf(stderr, "zedparam: cannot read \"%s\": %s\n", options.file.c_str(), std::strerror(error));
         return CouldNotRun;
     }
-    Opened const opened = open(options, text);
-    if (opened.editor == nullptr)
+    OpenEditor const opened(options.file, text, options.database, options.object, options.force);
+    if (opened.editor() == nullptr)
     {
         return CouldNotRun;
     }
-    FileEditor& editor = *opened.editor;
+    FileEditor& editor = *opened.editor();
     for (std::string const& each : options.edits)
     {
         if (!apply(editor, each))

@@ -9,6 +9,8 @@
 #include "AxReaderWriterFile.h"
 #include "AxlPrint.h"
 #include "EditedValue.h"
+#include "NamedElement.h"
+#include "PathSteps.h"
 #include "TextPlacement.h"
 
 namespace
@@ -31,6 +33,17 @@ void appendSubstance(std::vector<std::string_view>& out, TextTree const& tree, s
             out.push_back(tree.textOf(*token));
         }
     }
+}
+
+/// Whether a path may go on in the list.
+bool holdsNamedItems(TextItem list)
+{
+    bool isFound = false;
+    for (TextItem item = list.firstValue(); item && !isFound; item = item.next())
+    {
+        isFound = item.isList() && (item.firstChild().isWord() || item.firstChild().isString());
+    }
+    return isFound;
 }
 
 /// The item and those behind it.
@@ -234,6 +247,34 @@ bool TextEditor::unset(std::string const& path)
     }
     note({path, at.line, at.column, {}, old, {}});
     return true;
+}
+
+std::vector<std::string> TextEditor::stepsBehind(std::string const& path, bool onlyThere)
+{
+    TextTree const tree(myText);
+    TextPath place;
+    if (path.empty())
+    {
+        place.lists.push_back(tree.root());
+        place.rw = myReading.read(tree);
+    }
+    else
+    {
+        place = TextPath::follow(path, tree, myReading);
+    }
+    if (!place.isWhole())
+    {
+        return {};
+    }
+    Steps steps;
+    for (TextItem item = place.lists.back().firstValue(); item; item = item.next())
+    {
+        bool const leadsOn = holdsNamedItems(item);
+        std::string const own = ownName(item);
+        std::string const name = own.empty() && leadsOn ? typeOf(item) : own;
+        steps.add(item.isList() ? item.head() : std::string(), name, memberOf(place.rw, item.head()), leadsOn);
+    }
+    return steps.all(onlyThere ? nullptr : place.rw);
 }
 
 /// Whether the member takes the value, and holds it to make sense.

@@ -18,6 +18,7 @@ public:
 
     bool set(std::string const& path, std::string const& value) override;
     bool unset(std::string const& path) override;
+    std::vector<std::string> stepsBehind(std::string const& path, bool onlyThere) override;
 
 private:
     /// Bytes to be replaced.

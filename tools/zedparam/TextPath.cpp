@@ -22,24 +22,32 @@ void appendFields(TextItem item, std::string& text)
     }
 }
 
-/// Whether the entry `list` is for that type.
-bool isFor(TextItem list, AxObjectType const& type)
+} // namespace
+
+std::string typeOf(TextItem entry)
 {
     for (std::string_view const keyword : {"object-type", "entity-type"})
     {
-        TextItem const item = list.find(keyword);
         std::string text;
-        for (TextItem value = item.firstValue(); value; value = value.next())
+        for (TextItem value = entry.find(keyword).firstValue(); value; value = value.next())
         {
             appendFields(value, text);
         }
-        AxObjectType its;
-        if (item && AxObjectType::fromString(text, its) && its == type)
+        if (!text.empty())
         {
-            return true;
+            return text;
         }
     }
-    return false;
+    return {};
+}
+
+namespace
+{
+/// Whether the entry is for that type.
+bool isFor(TextItem entry, AxObjectType const& type)
+{
+    AxObjectType its;
+    return AxObjectType::fromString(typeOf(entry), its) && its == type;
 }
 
 /// The items of `list` that the step may mean.

@@ -19,6 +19,7 @@
 #include "ElementSource.h"
 #include "Findings.h"
 #include "NamedElement.h"
+#include "PathSteps.h"
 #include "PathText.h"
 #include "ReadContext.h"
 #include "TextPath.h"
@@ -554,6 +555,41 @@ bool XmlEditor::unset(std::string const& path)
     }
     note({path, line, column, {}, shownItem(old), {}});
     return true;
+}
+
+std::vector<std::string> XmlEditor::stepsBehind(std::string const& path, bool onlyThere)
+{
+    std::unique_ptr<Document> const document = read(myText);
+    bool const areSystems = path == "systems";
+    Target target;
+    if (document == nullptr || (!path.empty() && !areSystems && !follow(*document, path, target)))
+    {
+        return {};
+    }
+    if (path.empty() || areSystems)
+    {
+        target.owner = areSystems ? document->element : document->platform;
+        target.rw = areSystems ? nullptr : document->record.get();
+    }
+    else if (!target.isWhole() || !target.isElement)
+    {
+        return {};
+    }
+    Steps steps;
+    for (AxEnvObject::Attribute const& attribute : target.owner->attributes())
+    {
+        if (AxReaderWriter const* const member = memberOf(target.rw, attribute.name.string()))
+        {
+            steps.add(attribute.name.string(), {}, member, false);
+        }
+    }
+    for (AxEnvObjectPtr const& child : childrenOf(*target.owner, areSystems ? "componentSystem" : "", {}))
+    {
+        AxReaderWriter const* const member = memberOf(target.rw, elementName(*child).string());
+        bool const leadsOn = child->attribute("value") == nullptr;
+        steps.add(elementName(*child).string(), ownName(*child), member, leadsOn);
+    }
+    return steps.all(onlyThere ? nullptr : target.rw);
 }
 
 bool XmlEditor::apply(Document const& document, AxEnvValue const& place, std::size_t begin, std::size_t end,

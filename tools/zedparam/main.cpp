@@ -35,6 +35,7 @@ int main(int argc, char** argv)
         addDiffCommand(line);
         addMergeCommand(line);
         addManualCommand(line);
+        addCompleteCommand(line);
         int const exitCode = line.run(argc, argv);
         if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
         {
