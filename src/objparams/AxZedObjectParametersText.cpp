@@ -51,10 +51,15 @@ AxSymbolString objectTypeHead()
     return head;
 }
 
+AxSymbolString matchTypeHead()
+{
+    static AxSymbolString const head("match-type");
+    return head;
+}
+
 bool isObjectType(AxSymbolString head)
 {
-    static AxSymbolString const matchTypeHead("match-type");
-    return head == objectTypeHead() || head == matchTypeHead;
+    return head == objectTypeHead() || head == matchTypeHead();
 }
 
 std::unique_ptr<AxRwVariableBindings> bindingsOf(AxlObj const* item, AxBindingsList const& bindings)
@@ -373,7 +378,7 @@ bool AxZedObjectParameters::takeItem(AxlObj const* item, AxBindingsList const& b
     constexpr std::size_t noPlace = 3;
     std::size_t const place = head == extensionHead      ? 0
                               : head == objectTypeHead() ? 1
-                              : isObjectType(head)       ? 2
+                              : head == matchTypeHead()  ? 2
                                                          : noPlace;
     AxReadFrame* const frame = AxReadFrame::innermost;
     // These are no members; behind the members there is room to note them.
