@@ -92,8 +92,7 @@ Merging const theMergings[] = {
      "<<<<<<< ours\n<a>\n<b x=\"\xC3\xA4\"/>\n<c y=\"1\"/>\n=======\n"
      "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\n<a>\n<b x=\"\xE4\"/>\n<c/>\n>>>>>>> theirs\n</a>\n"},
     {"FirstElementAndAttributeOfXml", "<r>\n<a x=\"1\"/>\n</r>\n", "<r>\n<a x=\"2\"/>\n</r>\n",
-     "<r>\n<a x=\"1\"><b/></a>\n</r>\n",
-     "<r>\n<<<<<<< ours\n<a x=\"2\"/>\n=======\n<a x=\"1\"><b/></a>\n>>>>>>> theirs\n</r>\n"},
+     "<r>\n<a x=\"1\"><b/></a>\n</r>\n", "<r>\n<a x=\"2\"> <b/>\n</a>\n</r>\n"},
     {"NoParameterText", "<a/>\n<b/>\n", "<a/>\n<c/>\n", "<a/>\n<d/>\n",
      "<a/>\n<<<<<<< ours\n<c/>\n=======\n<d/>\n>>>>>>> theirs\n"},
     {"BrokenText", "(a (x 1))", "(a (x 2))", "(a (x 3)",

@@ -127,7 +127,8 @@ bool convertUnit(std::string& value, std::string_view base, bool isWhole, std::s
     splitLast(words);
     std::string const name = words.back();
     words.pop_back();
-    if (words.empty() || axIsNumber(name) || !std::ranges::all_of(words, axIsNumber))
+    bool const isWord = name.find_first_of("()\"';") == std::string::npos;
+    if (words.empty() || !isWord || axIsNumber(name) || !std::ranges::all_of(words, axIsNumber))
     {
         return true;
     }
