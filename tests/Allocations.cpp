@@ -22,6 +22,24 @@ bool isToFail()
     return isDue;
 }
 
+std::size_t theLiveCount = 0;
+
+void* counted(void* memory)
+{
+    if (memory == nullptr)
+    {
+        throw std::bad_alloc();
+    }
+    ++theLiveCount;
+    return memory;
+}
+
+void release(void* memory)
+{
+    theLiveCount -= memory != nullptr ? 1 : 0;
+    std::free(memory);
+}
+
 void countOrFail()
 {
     if (isToFail())
@@ -59,6 +77,11 @@ std::size_t parserAllocationCount()
     return theParserCount;
 }
 
+std::size_t liveAllocations()
+{
+    return theLiveCount;
+}
+
 AllocationFault::AllocationFault(std::size_t n, Reach reach)
 {
     wasFaultHit = false;
@@ -87,11 +110,7 @@ extern "C" __attribute__((visibility("default"))) XML_Parser XML_ParserCreate(XM
 void* operator new(std::size_t size)
 {
     countOrFail();
-    if (void* const memory = std::malloc(size ? size : 1))
-    {
-        return memory;
-    }
-    throw std::bad_alloc();
+    return counted(std::malloc(size ? size : 1));
 }
 
 void* operator new[](std::size_t size)
@@ -116,43 +135,39 @@ void* operator new[](std::size_t size, std::nothrow_t const& tag) noexcept
 
 void operator delete(void* memory) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete(void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete[](void* memory) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete[](void* memory, std::size_t) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete(void* memory, std::nothrow_t const&) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete[](void* memory, std::nothrow_t const&) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void* operator new(std::size_t size, std::align_val_t alignment)
 {
     countOrFail();
     auto const unit = static_cast<std::size_t>(alignment);
-    if (void* const memory = std::aligned_alloc(unit, (size + unit - 1) / unit * unit))
-    {
-        return memory;
-    }
-    throw std::bad_alloc();
+    return counted(std::aligned_alloc(unit, (size + unit - 1) / unit * unit));
 }
 
 void* operator new[](std::size_t size, std::align_val_t alignment)
@@ -162,20 +177,20 @@ void* operator new[](std::size_t size, std::align_val_t alignment)
 
 void operator delete(void* memory, std::align_val_t) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete(void* memory, std::size_t, std::align_val_t) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete[](void* memory, std::align_val_t) noexcept
 {
-    std::free(memory);
+    release(memory);
 }
 
 void operator delete[](void* memory, std::size_t, std::align_val_t) noexcept
 {
-    std::free(memory);
+    release(memory);
 }

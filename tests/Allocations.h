@@ -8,8 +8,10 @@
 std::size_t allocationCount();
 /// How often by the XML parser.
 std::size_t parserAllocationCount();
+/// How many of those by `new` are still in use.
+std::size_t liveAllocations();
 
-/// Bytes in use of the heap, with the allocator's own overhead.
+/// Bytes in use of the heap, with the allocator's own overhead, which comes and goes with the order of blocks.
 inline std::size_t heapUse()
 {
     struct mallinfo2 const info = mallinfo2();
