@@ -14,6 +14,7 @@
 #include "TableFile.h"
 #include "TableQuery.h"
 #include "TypeArgument.h"
+#include "Units.h"
 
 namespace
 {
@@ -30,7 +31,7 @@ struct ProbabilityOptions
     bool json = false;
 };
 
-struct Unit
+struct Measure
 {
     std::string_view name;
     double size;
@@ -38,13 +39,13 @@ struct Unit
 
 /// Reads a number with a unit behind it or without, which is the first of `units`; false after a line.
 template <std::size_t count>
-bool readQuantity(char const* option, std::string const& text, Unit const (&units)[count], double& out)
+bool readQuantity(char const* option, std::string const& text, Measure const (&units)[count], double& out)
 {
     double number = 0.0;
     std::size_t const end = std::min(text.find_first_not_of("0123456789.eE+-"), text.size());
     std::string_view const digits(text.data(), end);
     std::string_view const name = std::string_view(text).substr(end);
-    for (Unit const& unit : units)
+    for (Measure const& unit : units)
     {
         if ((name == unit.name || (name.empty() && &unit == units)) && axParseReal(digits, number) && number >= 0.0)
         {
@@ -53,7 +54,7 @@ bool readQuantity(char const* option, std::string const& text, Unit const (&unit
         }
     }
     std::fprintf(stderr, "zedparam: %s \"%s\": expected a number, 0 or more, in", option, text.c_str());
-    for (Unit const& unit : units)
+    for (Measure const& unit : units)
     {
         std::fprintf(stderr, "%s%s", &unit == units ? " " : " or ", std::string(unit.name).c_str());
     }
@@ -81,8 +82,8 @@ bool readMunition(std::string const& text, AxSimMunition& munition)
 /// False after a line.
 bool readQuestion(ProbabilityOptions const& options, TableQuestion& question)
 {
-    constexpr Unit theLengths[] = {{"m", 1.0}, {"km", 1000.0}};
-    constexpr Unit theAngles[] = {{"deg", 1.0}, {"rad", 180.0 / std::numbers::pi}};
+    constexpr Measure theLengths[] = {{"m", 1.0}, {"km", 1000.0}};
+    constexpr Measure theAngles[] = {{"deg", 1.0}, {"rad", 180.0 / std::numbers::pi}};
     TypeArgument type;
     if (!options.type.empty())
     {
@@ -117,9 +118,7 @@ void printText(TableAnswer const& answer)
     }
     for (AxRwReal const* outcome : answer.outcomes)
     {
-        std::string value;
-        axAppendReal(value, outcome->value());
-        std::printf("%-20s%s\n", outcome->name().c_str(), value.c_str());
+        std::printf("%-20s%s\n", outcome->name().c_str(), tidied(outcome->value()).c_str());
     }
     for (AxSimMunition const* munition : answer.munitions)
     {

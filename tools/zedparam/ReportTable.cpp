@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "AxAmmoSelectTable.h"
-#include "AxNumberText.h"
 #include "AxTargetPriorityList.h"
 #include "Curves.h"
 #include "Markup.h"
@@ -14,6 +13,7 @@
 #include "PlotSvg.h"
 #include "ReportPage.h"
 #include "TableFile.h"
+#include "Units.h"
 
 namespace
 {
@@ -63,9 +63,7 @@ std::string numbersOf(Plot const& plot, std::size_t subject)
         out += "<tr><th scope=\"row\">" + (isStep && i + 1 == ranges.size() ? "beyond" : drawn(ranges[i])) + "</th>";
         for (PlotLine const* line : lines)
         {
-            std::string number;
-            axAppendReal(number, heightAt(*line, ranges[i]));
-            out += "<td>" + number + "</td>";
+            out += "<td>" + tidied(heightAt(*line, ranges[i])) + "</td>";
         }
         out += "</tr>\n";
     }

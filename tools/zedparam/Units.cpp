@@ -38,21 +38,13 @@ constexpr Unit theUnits[] = {
     {"GHz", "Hz", 1e9},
 };
 
-/// Digits that a number of the text and its factor are good for.
+/// Digits that a computed number is good for.
 constexpr int theDigits = 15;
 
 std::string converted(double value, double factor, bool isWhole)
 {
-    std::array<char, 40> digits{};
-    double const product = value * factor;
-    auto const end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), product, std::chars_format::general, theDigits);
-    double rounded = product;
-    std::from_chars(digits.data(), end.ptr, rounded);
-    std::string text;
-    axAppendReal(text, rounded);
-    bool const hasPoint = text.ends_with(".0");
-    return isWhole && hasPoint ? text.substr(0, text.size() - 2) : text;
+    std::string const text = tidied(value * factor);
+    return isWhole && text.ends_with(".0") ? text.substr(0, text.size() - 2) : text;
 }
 
 std::vector<std::string> wordsOf(std::string const& value)
@@ -92,6 +84,17 @@ void splitLast(std::vector<std::string>& words)
     }
 }
 } // namespace
+
+std::string tidied(double value)
+{
+    std::array<char, axLongestNumber> digits{};
+    auto const end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::general, theDigits);
+    std::from_chars(digits.data(), end.ptr, value);
+    std::string text;
+    axAppendReal(text, value);
+    return text;
+}
 
 Unit const* unitNamed(std::string_view name)
 {

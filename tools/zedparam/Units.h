@@ -17,6 +17,9 @@ Unit const* unitNamed(std::string_view name);
 /// "m/s, km/h or kt": those of values that stand in files in that unit; itself when there are no others.
 std::string unitsOf(std::string_view base);
 
+/// A number that was computed, without the traces of binary fractions in its last digits.
+std::string tidied(double value);
+
 /// Takes a unit off the end of a value such as "36 km/h" or "45deg" and converts its numbers to `base`. False, and
 /// `fault` tells why, for a unit that does not go with that. A value without numbers in front of a word stays as it is.
 bool convertUnit(std::string& value, std::string_view base, bool isWhole, std::string& fault);
