@@ -228,7 +228,6 @@ std::vector<std::string> completionsOf(CLI::App const& app, std::vector<std::str
     Words found = candidates(line);
     std::erase_if(found, [&line](std::string const& word) { return !word.starts_with(line.current); });
     std::ranges::sort(found);
-    auto const repeated = std::ranges::unique(found);
-    found.erase(repeated.begin(), repeated.end());
+    found.erase(std::unique(found.begin(), found.end()), found.end());
     return found;
 }

@@ -6,7 +6,7 @@
 #include "FileEditor.h"
 
 class Database;
-class ReadContext;
+struct ReadContext;
 class TextReading;
 
 /// The editor of a file, and what it works with.
