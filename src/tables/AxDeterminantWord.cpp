@@ -4,7 +4,34 @@
 #include "AxSourceScope.h"
 #include "AxlObj.h"
 
-static constexpr std::string_view theDeterminants[] = {"range-list", "coefficients"};
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+constexpr std::string_view theDeterminants[] = {"range-list", "coefficients"};
+
+bool isDeterminant(AxlObj const* head)
+{
+    return std::ranges::find(theDeterminants, head->text()) != std::end(theDeterminants);
+}
+
+/// What stands first; a word without a value gives way to a determinant that is there.
+AxlObj const* wordOf(AxlObj const* determinant)
+{
+    AxlObj const* const first = determinant->cdr()->car();
+    if (first->isPair())
+    {
+        return first->car();
+    }
+    AxlObj const* rest = determinant->cdr();
+    while (rest->isPair() && !(rest->car()->isPair() && isDeterminant(rest->car()->car())))
+    {
+        rest = rest->cdr();
+    }
+    return rest->isPair() && isDeterminant(first) ? rest->car()->car() : first;
+}
+} // namespace
 
 AxlObj const* axDeterminantWord(AxlObj const* element)
 {
@@ -12,8 +39,7 @@ AxlObj const* axDeterminantWord(AxlObj const* element)
     {
         if (items->car()->car()->text() == "range-determinant")
         {
-            AxlObj const* const first = items->car()->cdr()->car();
-            return first->isPair() ? first->car() : first;
+            return wordOf(items->car());
         }
     }
     return AxlObj::nilCell();

@@ -455,7 +455,7 @@ TEST_F(AllocationFaults, GroupsAndEntityFilesOfModels)
             auto const models = std::make_shared<AxModelSet>("model-set", nullptr);
             EXPECT_TRUE(models->load(set));
             auto* const named = models->findSimulationObjectGroup("Patrol");
-            text = [named] { return std::to_string(named->simulationObjects().size()); };
+            text = [models, named] { return std::to_string(named->simulationObjects().size()); };
             return [models, named] { return named->readAllSimulationObject() && named->save(); };
         });
     hold(

@@ -119,6 +119,9 @@ Asked askedBy(AxSimMunition const& munition, AxlObj const& place)
     return asked;
 }
 
+/// Sets of fixed fields that are told apart; those of entity types are 128.
+constexpr std::size_t theMostShapes = 256;
+
 /// Of elements that are asked in file order, an exact one before every pattern and of patterns the last that fits: an
 /// exact one is hidden by its like before it, a pattern by a later one that covers it. Elements with the same fields
 /// fixed are found by these fields, so that the time grows with the number of elements.
@@ -147,7 +150,11 @@ void checkHidden(std::vector<Asked> const& elements, CellReport const& report)
             nearest = other != others.end() ? std::min(nearest, other->second) : nearest;
         }
         hiding[i] = nearest != elements.size() ? elements[nearest].place : hiding[i];
-        behind[element.isFixed][element.joined(element.isFixed)] = i;
+        // Munitions have more shapes than anybody writes: what hides behind the rest is not told.
+        if (behind.size() < theMostShapes || behind.contains(element.isFixed))
+        {
+            behind[element.isFixed][element.joined(element.isFixed)] = i;
+        }
     }
     for (std::size_t i = 0; i < elements.size(); ++i)
     {

@@ -281,7 +281,7 @@ private:
         {
             throw Failure{{column, "expected a unit such as km/h or deg, found \"" + unit + "\""}};
         }
-        operand.literal = atomOf(operand.unit != nullptr ? value * operand.unit->factor : value);
+        operand.literal = atomOf(operand.unit != nullptr ? inFileUnit(value, *operand.unit) : value);
         return operand;
     }
 

@@ -7,34 +7,44 @@
 #include "PathText.h"
 #include "TextPath.h"
 
-void Steps::add(std::string const& head, std::string const& own, AxReaderWriter const* member, bool leadsOn)
+void PathSteps::add(std::string const& head, std::string const& own, AxReaderWriter const* member, bool leadsOn)
 {
-    std::string const& name = member != nullptr || own.empty() ? head : own;
-    if (!name.empty())
+    if (head.empty() && own.empty())
     {
-        bool const isGroup = member != nullptr && !isText(member) && holdsItems(*member);
-        myItems.push_back({name, leadsOn || isGroup});
-        myCounts[name] += member != nullptr ? 0 : 1;
+        return;
+    }
+    bool const isMember = member != nullptr;
+    bool const isGroup = isMember && !isText(member) && (holdsItems(*member) || holdsNamedValues(member));
+    myItems.push_back({head, isMember ? std::string() : own, isMember, leadsOn || isGroup});
+    if (!isMember)
+    {
+        ++myHeads[head];
+        ++myOwnNames[own];
     }
 }
 
-std::vector<std::string> Steps::all(AxReaderWriter const* rw) const
+std::vector<std::string> PathSteps::all(AxReaderWriter const* rw) const
 {
     std::vector<std::string> steps;
     std::set<std::string> there;
-    std::map<std::string, std::size_t> seen;
+    std::map<std::string, std::size_t> seenHeads;
+    std::map<std::string, std::size_t> seenOwnNames;
     auto const add = [&steps](std::string const& step, bool leadsOn) { steps.push_back(step + (leadsOn ? "/" : "")); };
     for (Item const& item : myItems)
     {
-        bool const isFirst = there.insert(item.name).second;
-        bool const isOneOfSeveral = myCounts.at(item.name) > 1;
-        if (isOneOfSeveral)
+        // What is called by a head comes first for whoever follows a path; each head counts all that have it.
+        std::size_t const ofHead = item.isMember ? 0 : ++seenHeads[item.head];
+        bool const isByOwn = !item.own.empty() && !myHeads.contains(item.own);
+        std::size_t const ofOwn = isByOwn ? ++seenOwnNames[item.own] : 0;
+        std::string const& name = isByOwn ? item.own : item.head;
+        bool const isFirst = there.insert(name).second;
+        if (!item.isMember && (isByOwn ? myOwnNames.at(name) : myHeads.at(name)) > 1)
         {
-            add(stepOf(item.name) + "[" + std::to_string(++seen[item.name]) + "]", item.leadsOn);
+            add(stepOf(name) + "[" + std::to_string(isByOwn ? ofOwn : ofHead) + "]", item.leadsOn);
         }
         else if (isFirst)
         {
-            add(stepOf(item.name), item.leadsOn);
+            add(stepOf(name), item.leadsOn);
         }
     }
     for (std::string const& name : namesIn({}, rw))
@@ -42,7 +52,7 @@ std::vector<std::string> Steps::all(AxReaderWriter const* rw) const
         if (!there.contains(name))
         {
             AxReaderWriter const* const member = memberOf(rw, name);
-            add(name, member != nullptr && !isText(member) && holdsItems(*member));
+            add(name, member != nullptr && !isText(member) && (holdsItems(*member) || holdsNamedValues(member)));
         }
     }
     return steps;

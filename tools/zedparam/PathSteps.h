@@ -7,7 +7,7 @@
 class AxReaderWriter;
 
 /// Gathers the steps by which a path goes on in one list.
-class Steps
+class PathSteps
 {
 public:
     /// An item that is there, by its head and its own name; `member` is what reads it, null for an element.
@@ -18,9 +18,12 @@ public:
 private:
     struct Item
     {
-        std::string name;
+        std::string head;
+        std::string own; ///< empty for a member
+        bool isMember;
         bool leadsOn;
     };
     std::vector<Item> myItems;
-    std::map<std::string, std::size_t> myCounts; // of elements by name; 0 for members
+    std::map<std::string, std::size_t> myHeads; // elements by their heads
+    std::map<std::string, std::size_t> myOwnNames;
 };

@@ -16,9 +16,8 @@ class AxZedObjectParameters;
 
 /// Keywords from a record inwards, as users write them: "systems/main-gun/reload-time". A list has its elements by
 /// name, a file member what it read; of several of one name "position[2]" is the second, and "real-resource["fuel"]"
-/// the one that calls itself so. What is called by no keyword is looked for among what elements call themselves. A step
-/// of
-/// "*" is any keyword; "**", once in a path, any number of steps, also none.
+/// the one that calls itself so. What is called by no keyword is looked for among what elements call themselves, though
+/// not right behind "**". A step of "*" is any keyword; "**", once in a path, any number of steps, also none.
 class KeywordPath
 {
 public:

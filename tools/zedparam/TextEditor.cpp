@@ -100,7 +100,7 @@ bool TextEditor::replaceValue(TextTree const& tree, TextPath const& path, std::s
     }
     std::string given = value;
     std::string fault;
-    if (!toOwnUnit(given, path.rw, path.names.back(), fault))
+    if (!toOwnUnit(given, path.rw, path.names.back(), fault) && !force())
     {
         return refuseAt(list.firstValue() ? list.firstValue() : list, "wrong-kind", fault);
     }
@@ -188,7 +188,7 @@ bool TextEditor::insert(TextTree const& tree, TextPath const& path, std::string 
     }
     std::string given = value;
     std::string fault;
-    if (!toOwnUnit(given, member, names.back(), fault))
+    if (!toOwnUnit(given, member, names.back(), fault) && !force())
     {
         return refuseAt(list, "wrong-kind", fault);
     }
@@ -266,7 +266,7 @@ std::vector<std::string> TextEditor::stepsBehind(std::string const& path, bool o
     {
         return {};
     }
-    Steps steps;
+    PathSteps steps;
     for (TextItem item = place.lists.back().firstValue(); item; item = item.next())
     {
         bool const leadsOn = holdsNamedItems(item);

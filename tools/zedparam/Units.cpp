@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <numbers>
+#include <utility>
 #include <vector>
 
 #include "AxNumberText.h"
@@ -38,12 +39,21 @@ constexpr Unit theUnits[] = {
     {"GHz", "Hz", 1e9},
 };
 
-/// Digits that a computed number is good for.
-constexpr int theDigits = 15;
-
-std::string converted(double value, double factor, bool isWhole)
+/// The number that so many digits name.
+double rounded(double value, int digits)
 {
-    std::string const text = tidied(value * factor);
+    std::array<char, axLongestNumber> text{};
+    auto const end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, digits);
+    std::from_chars(text.data(), end.ptr, value);
+    return value;
+}
+
+constexpr int theExactDigits = 15;
+
+std::string textOf(double value, bool isWhole)
+{
+    std::string text;
+    axAppendReal(text, value);
     return isWhole && text.ends_with(".0") ? text.substr(0, text.size() - 2) : text;
 }
 
@@ -69,7 +79,7 @@ std::vector<std::string> wordsOf(std::string const& value)
 }
 
 /// "45deg" becomes "45" and "deg".
-void splitLast(std::vector<std::string>& words)
+void splitLast(std::vector<std::string>& words, std::string_view base)
 {
     std::string const last = words.back();
     std::size_t end = last.size();
@@ -77,23 +87,25 @@ void splitLast(std::vector<std::string>& words)
     {
         --end;
     }
-    if (end != 0 && end != last.size())
+    std::string const unit = last.substr(end);
+    if (end != 0 && (unitNamed(unit) != nullptr || (!unit.empty() && unit == base)))
     {
         words.back().resize(end);
-        words.push_back(last.substr(end));
+        words.push_back(unit);
     }
 }
 } // namespace
 
 std::string tidied(double value)
 {
-    std::array<char, axLongestNumber> digits{};
-    auto const end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::general, theDigits);
-    std::from_chars(digits.data(), end.ptr, value);
-    std::string text;
-    axAppendReal(text, value);
-    return text;
+    return textOf(rounded(value, theExactDigits), false);
+}
+
+double inFileUnit(double value, Unit const& unit)
+{
+    double const product = value * unit.factor;
+    double const shorter = rounded(product, theExactDigits);
+    return shorter == rounded(product, theExactDigits - 3) ? shorter : product;
 }
 
 Unit const* unitNamed(std::string_view name)
@@ -127,10 +139,10 @@ bool convertUnit(std::string& value, std::string_view base, bool isWhole, std::s
     {
         return true;
     }
-    splitLast(words);
+    splitLast(words, base);
     std::string const name = words.back();
     words.pop_back();
-    bool const isWord = name.find_first_of("()\"';") == std::string::npos;
+    bool const isWord = std::isalpha(static_cast<unsigned char>(name.front())) != 0;
     if (words.empty() || !isWord || axIsNumber(name) || !std::ranges::all_of(words, axIsNumber))
     {
         return true;
@@ -143,13 +155,20 @@ bool convertUnit(std::string& value, std::string_view base, bool isWhole, std::s
         fault += unitNamed(base) == nullptr ? std::string() : "; expected " + unitsOf(base);
         return false;
     }
-    value.clear();
+    std::string converted;
     for (std::string const& word : words)
     {
         double number = 0.0;
-        axParseReal(word, number);
-        value.append(value.empty() ? "" : " ");
-        value.append(isSame || unit->factor == 1.0 ? word : converted(number, unit->factor, isWhole));
+        bool const isKept = isSame || unit->factor == 1.0;
+        bool const isNumber = axParseReal(word, number);
+        number = isKept ? number : inFileUnit(number, *unit);
+        if (!isNumber || !std::isfinite(number))
+        {
+            fault = "expects a number, found " + word + ' ' + name + ", beyond the range of a double";
+            return false;
+        }
+        converted.append(converted.empty() ? "" : " ").append(isKept ? word : textOf(number, isWhole));
     }
+    value = std::move(converted);
     return true;
 }

@@ -20,6 +20,11 @@ std::string unitsOf(std::string_view base);
 /// A number that was computed, without the traces of binary fractions in its last digits.
 std::string tidied(double value);
 
+/// A number with that unit as it stands in files. It is the product, but for the traces of binary fractions where a
+/// number of few digits was meant: 36 km/h are 10 m/s.
+double inFileUnit(double value, Unit const& unit);
+
 /// Takes a unit off the end of a value such as "36 km/h" or "45deg" and converts its numbers to `base`. False, and
-/// `fault` tells why, for a unit that does not go with that. A value without numbers in front of a word stays as it is.
+/// `fault` tells why, for a unit that does not go with that or a number beyond a double. A value without numbers in
+/// front of a word stays as it is.
 bool convertUnit(std::string& value, std::string_view base, bool isWhole, std::string& fault);

@@ -243,8 +243,9 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
         auto const& attributes = target.owner->attributes();
         auto const its = std::ranges::find_if(attributes, [&](AxEnvObject::Attribute const& each)
                                               { return tag.empty() && isMeant(each.name, name, member); });
-        AxEnvValuePtr const attribute = its != attributes.end() ? its->value : nullptr;
         KeywordStep const& step = target.steps[target.found];
+        bool const isAttribute = its != attributes.end() && step.identity.empty();
+        AxEnvValuePtr const attribute = isAttribute ? its->value : nullptr;
         std::vector<AxEnvObjectPtr> elements = elementsMeant(*target.owner, tag, step, member);
         bool const isInSystem = target.owner->type() == AxString("componentSystem");
         if (isInSystem && elements.empty() && attribute == nullptr)
@@ -315,7 +316,7 @@ bool XmlEditor::accepts(Target const& target, AxReaderWriter* rw, AxReaderWriter
     AxEnvValue const& place = target.attribute != nullptr ? *target.attribute : *target.owner;
     std::string given = isTyped ? value.substr(type.size()) : value;
     std::string unitFault;
-    if (!toOwnUnit(given, rw, target.last(), unitFault))
+    if (!toOwnUnit(given, rw, target.last(), unitFault) && !force())
     {
         return refuseAt(place, "wrong-kind", unitFault);
     }
@@ -575,7 +576,7 @@ std::vector<std::string> XmlEditor::stepsBehind(std::string const& path, bool on
     {
         return {};
     }
-    Steps steps;
+    PathSteps steps;
     for (AxEnvObject::Attribute const& attribute : target.owner->attributes())
     {
         if (AxReaderWriter const* const member = memberOf(target.rw, attribute.name.string()))
