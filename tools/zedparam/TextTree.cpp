@@ -48,10 +48,10 @@ struct TextTree::Builder
         {
             add(Kind::Blank, theByteOrderMark.size());
         }
-        if (AxlSyntaxError::isUtf16(text))
+        if (AxlSyntaxError::isUtf16(text.substr(at)))
         {
             noteFault(AxlSyntaxError::utf16());
-            add(Kind::Fault, text.size());
+            add(Kind::Fault, text.size() - at);
         }
         while (at < text.size())
         {
