@@ -151,8 +151,9 @@ void AxModelSet::addToEnd(AxReaderWriter* rw)
 
 void AxModelSet::remove(AxReaderWriter* rw, AxListItem* item)
 {
-    AxListItem* const place = item ? item : knownItemOf(static_cast<AxModelSetEntry*>(rw));
-    auto const* const entry = static_cast<AxModelSetEntry const*>(element(place));
+    // Both may be of another list.
+    AxListItem* const place = item ? item : knownItemOf(dynamic_cast<AxModelSetEntry const*>(rw));
+    auto const* const entry = dynamic_cast<AxModelSetEntry const*>(element(place));
     if (!entry)
     {
         return;
