@@ -11,6 +11,7 @@
 #include <functional>
 #include <list>
 #include <map>
+#include <set>
 #include <span>
 #include <string>
 #include <type_traits>
@@ -68,6 +69,9 @@ inline std::map<std::string, std::string> const theAnswers = {
     {"AxRwVariableBindings::expand(std::string_view, AxBindingsList const&, null, AxSymbolString*)", "a value"},
     {"AxRwVariableBindings::expand(std::string_view, AxBindingsList const&, bool*, null)", "a value"},
 };
+
+/// Which of those were given.
+inline std::set<std::string> theAsked;
 
 /// What stands for a class that cannot be made.
 template <class Class>
@@ -268,10 +272,22 @@ std::string shown(Answer const& answer)
     }
 }
 
+/// Whether the function of the call makes the caller an object of its own.
+inline bool isMaker(std::string_view call)
+{
+    std::string_view const function = call.substr(0, call.find('('));
+    std::string_view const own = function.substr(function.rfind(':') + 1);
+    return own == "clone" || own == "cloneReaderWriter" || own == "creator" || own.starts_with("create");
+}
+
 /// Calls with a number tell by coming back; those with a null have an answer.
 inline void judge(std::string const& name, std::string const& answer)
 {
     auto const other = theAnswers.find(name);
+    if (other != theAnswers.end())
+    {
+        theAsked.insert(name);
+    }
     if (name.find("null") != std::string::npos)
     {
         EXPECT_EQ(answer, other != theAnswers.end() ? other->second : "") << name;
@@ -296,7 +312,7 @@ void hold(char const* name, Call const& call, IsChanged const& isChanged)
             if constexpr (std::is_convertible_v<decltype(result), AxReaderWriter const*>)
             {
                 // What such a function makes is the caller's.
-                delete (std::string_view(name).find("::c") != std::string_view::npos ? result : nullptr);
+                delete (isMaker(name) ? result : nullptr);
             }
         }
         if (isChanged())
@@ -354,6 +370,15 @@ protected:
     {
         AxReaderWriter::setPrePutSelfCallback(nullptr, nullptr);
         AxReaderWriter::setFactory(nullptr);
+    }
+
+    static void TearDownTestSuite()
+    {
+        testing::TestSuite const& suite = *testing::UnitTest::GetInstance()->current_test_suite();
+        for (auto const& [name, answer] : theAnswers)
+        {
+            EXPECT_TRUE(theAsked.contains(name) || suite.test_to_run_count() < suite.total_test_count()) << name;
+        }
     }
 };
 } // namespace nulls
