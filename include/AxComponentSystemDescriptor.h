@@ -59,6 +59,9 @@ public:
 
 private:
     void attachDefinition();
+    static bool isReadForAnother();
+    template <class Bind>
+    void bindParameters(Bind const& bind);
     void bindReferencesInDefinition(AxBindingsList const& others);
 
     AxReaderWriterFileExtensible mySystemDefinitionFile{{"system-definition", "", "File that defines the system."},

@@ -15,4 +15,6 @@ public:
     virtual bool getProbabilities(double range, AxPrbRangeTableEntry* out) const = 0;
     /// The largest range covered.
     virtual double getMaximumDamageRadius() const = 0;
+
+    void postGetSelf() override;
 };

@@ -2,6 +2,7 @@
 
 #include "AxComponentSystemDefinition.h"
 #include "AxFaultAt.h"
+#include "AxReadFrame.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRwVariableBindings.h"
 #include "AxTreeCells.h"
@@ -14,7 +15,24 @@
 
 static AxTypeEntry<AxComponentSystemDescriptor> const componentSystemDescriptorEntry;
 
-static AxlObjPtr listOf(std::vector<AxlObj const*> const& cells)
+namespace
+{
+/// A definition whose variables are being bound; the systems in it leave their references to the outermost.
+class DefinitionScope
+{
+public:
+    DefinitionScope() { ++ourDepth; }
+    DefinitionScope(DefinitionScope const&) = delete;
+    DefinitionScope& operator=(DefinitionScope const&) = delete;
+    ~DefinitionScope() { --ourDepth; }
+
+    static bool isOutermost() { return ourDepth == 1; }
+
+private:
+    static inline unsigned ourDepth = 0;
+};
+
+AxlObjPtr listOf(std::vector<AxlObj const*> const& cells)
 {
     AxlObjPtr list;
     for (auto cell = cells.rbegin(); cell != cells.rend(); ++cell)
@@ -23,6 +41,7 @@ static AxlObjPtr listOf(std::vector<AxlObj const*> const& cells)
     }
     return list;
 }
+} // namespace
 
 AxComponentSystemDescriptor::AxComponentSystemDescriptor(AxSymbolString name, AxReaderWriterRegistry* registry)
     : AxReaderWriter(name, registry)
@@ -185,13 +204,60 @@ AxlObjPtr AxComponentSystemDescriptor::getData(AxlObjPtr const& items, AxFilenam
 
 void AxComponentSystemDescriptor::postGetSelf()
 {
-    bindReferencesInDefinition({});
+    if (!isReadForAnother())
+    {
+        bindReferencesInDefinition({});
+    }
+}
+
+/// Whether what was read stands in the definition of a system that is being read, which binds the references of both.
+/// Were they bound for each system in turn, the time would be the third power of the depth.
+bool AxComponentSystemDescriptor::isReadForAnother()
+{
+    for (AxReadFrame const* inner = AxReadFrame::innermost; inner; inner = inner->outer)
+    {
+        if (!dynamic_cast<AxComponentSystemDefinition const*>(&inner->record))
+        {
+            continue;
+        }
+        for (AxReadFrame const* frame = inner->outer; frame; frame = frame->outer)
+        {
+            auto const* const system = dynamic_cast<AxComponentSystemDescriptor const*>(&frame->record);
+            if (system && system->myDefinition.get() == &inner->record)
+            {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+template <class Bind>
+void AxComponentSystemDescriptor::bindParameters(Bind const& bind)
+{
+    for (std::size_t i = 0; i < registry()->size(); ++i)
+    {
+        AxRegistryEntry const entry = registry()->entry(i);
+        if (!entry.content && entry.member != &mySystemDefinitionFile)
+        {
+            bind(*entry.member);
+        }
+    }
 }
 
 void AxComponentSystemDescriptor::bindVariables(AxBindingsList const& bindings)
 {
-    AxReaderWriter::bindVariables(bindings);
-    bindReferencesInDefinition({});
+    if (isVariableReference())
+    {
+        readBinding(nullFilenames(), bindings);
+    }
+    bindParameters([&](AxReaderWriter& member) { member.bindVariables(bindings); });
+    DefinitionScope const scope;
+    mySystemDefinitionFile.bindVariables(bindings);
+    if (scope.isOutermost())
+    {
+        bindReferencesInDefinition({});
+    }
 }
 
 void AxComponentSystemDescriptor::bindLocalVariables(AxBindingsList const& bindings)
@@ -202,14 +268,7 @@ void AxComponentSystemDescriptor::bindLocalVariables(AxBindingsList const& bindi
     {
         readBinding(nullFilenames(), bindings);
     }
-    for (std::size_t i = 0; i < registry()->size(); ++i)
-    {
-        AxRegistryEntry const entry = registry()->entry(i);
-        if (!entry.content && entry.member != &mySystemDefinitionFile)
-        {
-            entry.member->bindLocalVariables(bindings);
-        }
-    }
+    bindParameters([&](AxReaderWriter& member) { member.bindLocalVariables(bindings); });
     mySystemDefinitionFile.AxReaderWriter::bindLocalVariables(bindings);
     bindReferencesInDefinition(bindings);
 }
@@ -235,7 +294,7 @@ void AxComponentSystemDescriptor::bindReferencesInDefinition(AxBindingsList cons
     }
     bool const wasChanged = mySystemDefinitionFile.contentChanged();
     AxBindingsList sets = others;
-    sets.push_back(&values);
+    sets.push_front(&values); // the nearest counts
     myDefinition->bindLocalVariables(sets);
     if (!wasChanged)
     {

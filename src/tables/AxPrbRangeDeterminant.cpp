@@ -7,3 +7,8 @@ AxPrbRangeDeterminant& AxPrbRangeDeterminant::operator=(AxPrbRangeDeterminant co
     assign(other);
     return *this;
 }
+
+void AxPrbRangeDeterminant::postGetSelf()
+{
+    keepBehind(registry()->entry(0).keyword); // what stands first tells the kind
+}

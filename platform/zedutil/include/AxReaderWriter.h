@@ -288,6 +288,8 @@ protected:
     /// Matches each item with a member by keyword or alias; used after the data hook.
     void readItems(AxlObj const* items, AxFilenameList const& files, AxBindingsList const& bindings);
     void readItem(AxlObj const* item, AxReadFrame& frame, AxFilenameList const& files, AxBindingsList const& bindings);
+    /// What is kept in front of all members is written behind that one instead.
+    void keepBehind(AxSymbolString keyword);
     /// Writes the due members, with the kept items in their places.
     void writeMembers(std::string& out, int indent, bool all, AxFilename const& file);
     /// Writes "(head ...)" with the callbacks and the data hook; `putSelf` is this with the object's name.

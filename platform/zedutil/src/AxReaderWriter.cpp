@@ -617,6 +617,17 @@ void AxReaderWriter::keepItem(AxSymbolString after, std::string text)
     setFlag(KeepsItems, true);
 }
 
+void AxReaderWriter::keepBehind(AxSymbolString keyword)
+{
+    if (flag(KeepsItems))
+    {
+        for (AxKeptItem& item : rare().kept)
+        {
+            item.after = item.after.isNull() ? keyword : item.after;
+        }
+    }
+}
+
 void AxReaderWriter::dropKeptItems()
 {
     if (flag(KeepsItems))

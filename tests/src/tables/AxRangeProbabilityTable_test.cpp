@@ -113,6 +113,24 @@ TEST(AxRangeProbabilityTable, WritesWhatItReads)
     EXPECT_EQ(copy.writtenText(), text);
 }
 
+TEST(AxRangeProbabilityTable, WhatIsKeptInADeterminantDoesNotTellItsKindLater)
+{
+    for (char const* const text :
+         {"(hit (x (range-determinant (range-list)) (range-determinant (coefficients (hit 1)))))",
+          "(hit (x (range-determinant (range-list)) (range-determinant (spline 1))))",
+          "(hit (x (range-determinant coefficients (range-list))))",
+          "(hit (x (range-determinant (coefficients)) (range-determinant (range-list) 1)))"})
+    {
+        HitTable table(text);
+        std::string const written = table.writtenText();
+        ASSERT_EQ(table.count(), 1) << written;
+        HitTable again(written.c_str());
+        ASSERT_EQ(again.count(), 1) << written;
+        EXPECT_STREQ(again.firstElement()->readerWriterType(), table.firstElement()->readerWriterType());
+        EXPECT_EQ(again.writtenText(), written);
+    }
+}
+
 TEST(AxRangeProbabilityTable, EntriesMadeInCodeAreCopiedIn)
 {
     AxDetectionPrbRangeLookupEntry steps;
