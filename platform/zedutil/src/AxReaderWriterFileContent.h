@@ -9,7 +9,7 @@ struct AxReaderWriterFile::Content
 {
     void takeMark()
     {
-        mark = object->recordUpdateTime();
+        mark = object->changeMark();
         isChangedForSure = false;
         hasDigest = false;
     }
