@@ -54,7 +54,7 @@ private:
     void take(UsedValue value, RecordWalk const& at)
     {
         std::string const text = valueText(at);
-        if ((text.empty() && at.ownItem() != nullptr) || isRepeated(at))
+        if ((text.empty() && at.ownItem() != nullptr) || !isKeyword(at) || isRepeated(at))
         {
             return;
         }
@@ -82,6 +82,14 @@ private:
         }
         KeywordUse::Text& same = use.texts[text];
         same.first = same.count++ == 0 ? value : same.first;
+    }
+
+    /// Looked for at any depth, a keyword is not what elements call themselves.
+    bool isKeyword(RecordWalk const& at) const
+    {
+        KeywordPath::Step const& last = myPath.steps().back();
+        bool const isAnywhere = last.kind == KeywordPath::Step::Kind::Keyword && !myPath.isPlain();
+        return !isAnywhere || at.keyword() == last.keyword || at.rw().hasAlias(last.keyword);
     }
 
     /// Whether a new record of that type gives the value already, so that it is written wherever it is left out.

@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "AxObjectType.h"
 #include "AxReaderWriter.h"
 #include "EditedValue.h"
 #include "PathText.h"
@@ -23,6 +24,16 @@ void PathSteps::add(std::string const& head, std::string const& own, AxReaderWri
     }
 }
 
+namespace
+{
+/// For one type there may be several, called by their heads.
+bool isObjectType(std::string const& name)
+{
+    AxObjectType type;
+    return name.find(':') != std::string::npos && AxObjectType::fromString(name, type);
+}
+} // namespace
+
 std::vector<std::string> PathSteps::all(AxReaderWriter const* rw) const
 {
     std::vector<std::string> steps;
@@ -34,7 +45,8 @@ std::vector<std::string> PathSteps::all(AxReaderWriter const* rw) const
     {
         // What is called by a head comes first for whoever follows a path; each head counts all that have it.
         std::size_t const ofHead = item.isMember ? 0 : ++seenHeads[item.head];
-        bool const isByOwn = !item.own.empty() && !myHeads.contains(item.own);
+        bool const isByOwn =
+            !item.own.empty() && !myHeads.contains(item.own) && (!isObjectType(item.own) || myHeads.at(item.head) > 1);
         std::size_t const ofOwn = isByOwn ? ++seenOwnNames[item.own] : 0;
         std::string const& name = isByOwn ? item.own : item.head;
         bool const isFirst = there.insert(name).second;

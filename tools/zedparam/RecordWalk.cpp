@@ -24,24 +24,22 @@ namespace
 {
 using Step = KeywordPath::Step;
 
-bool matches(Step const& step, SourceStep const& at)
+/// The step that is to be found next, at this depth or below it; null when everything is.
+Step const* nextStep(std::span<Step const> rest)
 {
-    bool const isThat = (step.occurrence == SourceStep::theLast || step.occurrence == std::max(at.occurrence, 0)) &&
-                        (step.identity.empty() || ownName(*at.rw) == step.identity);
-    return isThat && (step.kind == Step::Kind::Any || step.keyword == at.keyword || at.rw->hasAlias(step.keyword));
+    std::size_t const at = rest.front().kind == Step::Kind::AnyDepth ? 1 : 0;
+    return at < rest.size() ? &rest[at] : nullptr;
 }
 
-/// The keyword of an element that has no name of its own is what it writes in front.
-AxSymbolString nameOf(AxReaderWriter& element)
+/// Whether the path goes on with what the walk came to, which is no element: a member, or a word where that is null.
+bool isMeant(std::span<Step const> rest, SourceStep const& at, AxReaderWriter const* member)
 {
-    if (!element.name().isNull())
-    {
-        return element.name();
-    }
-    std::string text;
-    element.putSelf(text, 0, false, AxFilename::nullFilename());
-    std::size_t const begin = std::min(text.find('(') + 1, text.size());
-    return AxSymbolString(std::string_view(text).substr(begin, text.find_first_of(" ()\n", begin) - begin));
+    Step const* const next = nextStep(rest);
+    std::size_t const position = static_cast<std::size_t>(std::max(at.occurrence, 0)) + 1;
+    return next != nullptr && next->text.identity.empty() &&
+           (next->text.position == 0 || next->text.position == position) &&
+           (next->kind == Step::Kind::Any || next->keyword == at.keyword ||
+            (member != nullptr && member->hasAlias(next->keyword)));
 }
 
 /// Tells elements of one name apart.
@@ -63,6 +61,30 @@ private:
     };
     std::unordered_map<AxSymbolString, Count> myCounts;
 };
+
+struct Element
+{
+    AxReaderWriter* rw;
+    AxSymbolString head;
+};
+
+/// Those of a list's elements that the step means.
+std::vector<Element> meantBy(Step const& step, std::vector<Element> const& elements)
+{
+    if (step.kind == Step::Kind::AnyDepth)
+    {
+        return {};
+    }
+    auto const isHeaded = [&step](Element const& element)
+    { return step.kind == Step::Kind::Any || element.head == step.keyword; };
+    std::vector<Element> meant =
+        elementsMeant(step.text, elements, isHeaded, [](Element const& element) { return ownName(*element.rw); });
+    if (std::size_t const position = step.text.position; position != 0)
+    {
+        meant = position <= meant.size() ? std::vector{meant[position - 1]} : std::vector<Element>();
+    }
+    return meant;
+}
 
 /// One number, word or text: there is nothing below, and nothing in it that has a keyword. Most of a record is such.
 bool isPlainValue(AxReaderWriter const& rw)
@@ -87,8 +109,8 @@ AxSymbolString onlyKeyword(std::span<Step const> rest)
 /// A keyword that must come in what is written of an object for the path to go on in it; empty for any.
 std::string_view neededText(std::span<Step const> rest)
 {
-    Step const& next = rest.size() > 1 && rest.front().kind == Step::Kind::AnyDepth ? rest[1] : rest.front();
-    return next.keyword.view();
+    Step const* const next = nextStep(rest);
+    return next != nullptr ? next->keyword.view() : std::string_view();
 }
 } // namespace
 
@@ -107,8 +129,7 @@ bool KeywordPath::parse(std::string_view text, KeywordPath& out, std::string& fa
                                                     : Step::Kind::Keyword;
         anyDepths += kind == Step::Kind::AnyDepth;
         bool const isWord = kind == Step::Kind::Keyword;
-        out.mySteps.push_back({kind, isWord ? AxSymbolString(std::string_view(step.name)) : AxSymbolString(),
-                               static_cast<int>(step.position) - 1, step.identity});
+        out.mySteps.push_back({kind, isWord ? AxSymbolString(std::string_view(step.name)) : AxSymbolString(), step});
     }
     if (!isPath || anyDepths > 1)
     {
@@ -200,7 +221,8 @@ void RecordWalk::members(AxReaderWriterRegistry const& registry, Steps rest)
     }
     if (named != nullptr && named->isValue())
     {
-        child({named->name(), named}, *named, nullptr, rest);
+        SourceStep const step{named->name(), named};
+        child(step, *named, nullptr, rest, isMeant(rest, step, named));
         return;
     }
     // A member that a file was read into stands in that file.
@@ -229,7 +251,8 @@ void RecordWalk::members(AxReaderWriterRegistry const& registry, Steps rest)
         }
         else
         {
-            child({entry.keyword, entry.member}, *entry.member, nullptr, rest);
+            SourceStep const step{entry.keyword, entry.member};
+            child(step, *entry.member, nullptr, rest, isMeant(rest, step, entry.member));
         }
     }
 }
@@ -237,26 +260,25 @@ void RecordWalk::members(AxReaderWriterRegistry const& registry, Steps rest)
 void RecordWalk::elements(AxReaderWriter& rw, Steps rest)
 {
     auto const* list = dynamic_cast<AxRwList const*>(&rw);
-    AxListItem const* const first = list != nullptr ? list->first() : nullptr;
     bool const onlyReferences = list != nullptr && isRow(rw);
-    AxSymbolString const only = onlyKeyword(rest);
     Occurrences occurrences;
-    std::vector<AxSymbolString> names;
-    for (AxListItem const* item = first; item != nullptr; item = item->next())
+    std::vector<Element> elements;
+    for (AxListItem const* item = list != nullptr ? list->first() : nullptr; item != nullptr; item = item->next())
     {
-        names.push_back(nameOf(*AxRwList::element(item)));
-        occurrences.count(names.back());
+        elements.push_back({AxRwList::element(item), headOf(*AxRwList::element(item))});
+        occurrences.count(elements.back().head);
     }
-    bool const byOwnName = !only.isNull() && std::ranges::find(names, only) == names.end();
-    auto name = names.cbegin();
-    for (AxListItem const* item = first; item != nullptr; item = item->next(), ++name)
+    Step const* const next = nextStep(rest);
+    std::vector<Element> const meant = next != nullptr ? meantBy(*next, elements) : std::vector<Element>();
+    auto nextMeant = meant.begin();
+    for (Element const& element : elements)
     {
-        AxReaderWriter& element = *AxRwList::element(item);
-        SourceStep const step = occurrences.next(*name, element);
-        bool const isMeant = byOwnName ? ownName(element) == only.view() : only.isNull() || only == *name;
-        if (isMeant && (!onlyReferences || element.isVariableReference()))
+        SourceStep const step = occurrences.next(element.head, *element.rw);
+        bool const isNext = nextMeant != meant.end() && nextMeant->rw == element.rw;
+        nextMeant += isNext;
+        if (!onlyReferences || element.rw->isVariableReference())
         {
-            child(step, element, nullptr, rest);
+            child(step, *element.rw, nullptr, rest, isNext);
         }
     }
 }
@@ -273,7 +295,8 @@ void RecordWalk::content(AxReaderWriterFile const& file, Steps rest, AxReaderWri
     }
     if (asMember != nullptr)
     {
-        child({keyword, asMember}, *asMember, nullptr, rest);
+        SourceStep const step{keyword, asMember};
+        child(step, *asMember, nullptr, rest, isMeant(rest, step, asMember));
     }
     else
     {
@@ -326,33 +349,26 @@ void RecordWalk::words(AxReaderWriter& rw, AxlObj const& items, Steps rest)
         SourceStep const step = occurrences.next(word, rw);
         if (!isRow(rw) || !item.cdr()->car()->isReference())
         {
-            child(step, rw, &item, rest);
+            child(step, rw, &item, rest, isMeant(rest, step, nullptr));
         }
     }
 }
 
-void RecordWalk::child(SourceStep const& step, AxReaderWriter& rw, AxlObj const* item, Steps rest)
+void RecordWalk::child(SourceStep const& step, AxReaderWriter& rw, AxlObj const* item, Steps rest, bool isNext)
 {
+    bool const isAnyDepth = rest.front().kind == Step::Kind::AnyDepth;
+    bool const isEverything = isAnyDepth && rest.size() == 1;
     mySteps.push_back(step);
-    if (rest.front().kind != Step::Kind::AnyDepth)
+    if (isEverything)
     {
-        bool const isNarrowed = rest.front().occurrence != SourceStep::theLast || !rest.front().identity.empty();
-        if (!isNarrowed || matches(rest.front(), step))
-        {
-            arrive(rw, item, rest.subspan(1));
-        }
+        visit(rw, item);
     }
-    else
+    else if (isNext)
     {
-        Steps const tail = rest.subspan(1);
-        if (tail.empty())
-        {
-            visit(rw, item);
-        }
-        else if (matches(tail.front(), step))
-        {
-            arrive(rw, item, tail.subspan(1));
-        }
+        arrive(rw, item, rest.subspan(isAnyDepth ? 2 : 1));
+    }
+    if (isAnyDepth)
+    {
         item != nullptr ? words(rw, *item->cdr(), rest) : below(rw, rest);
     }
     mySteps.pop_back();

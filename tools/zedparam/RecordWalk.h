@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "AxlObj.h"
+#include "PathText.h"
 #include "Source.h"
 
 class AxReaderWriter;
@@ -16,8 +17,8 @@ class AxZedObjectParameters;
 
 /// Keywords from a record inwards, as users write them: "systems/main-gun/reload-time". A list has its elements by
 /// name, a file member what it read; of several of one name "position[2]" is the second, and "real-resource["fuel"]"
-/// the one that calls itself so. What is called by no keyword is looked for among what elements call themselves, though
-/// not right behind "**". A step of "*" is any keyword; "**", once in a path, any number of steps, also none.
+/// the one that calls itself so. What is called by no keyword is looked for among what elements call themselves. A step
+/// of "*" is any keyword; "**", once in a path, any number of steps, also none.
 class KeywordPath
 {
 public:
@@ -30,9 +31,8 @@ public:
             AnyDepth
         };
         Kind kind;
-        AxSymbolString keyword{};
-        int occurrence = SourceStep::theLast; ///< from 0; that or any, where none is given
-        std::string identity{};               ///< what the element calls itself; empty for any
+        AxSymbolString keyword{}; ///< null for any
+        KeywordStep text{};
     };
 
     /// False, and `fault` tells why, for a text that is no path.
@@ -98,7 +98,7 @@ private:
     void content(AxReaderWriterFile const& file, Steps rest, AxReaderWriter* asMember, AxSymbolString keyword);
     void ownWords(AxReaderWriter& rw, Steps rest);
     void words(AxReaderWriter& rw, AxlObj const& items, Steps rest);
-    void child(SourceStep const& step, AxReaderWriter& rw, AxlObj const* item, Steps rest);
+    void child(SourceStep const& step, AxReaderWriter& rw, AxlObj const* item, Steps rest, bool isNext);
     void arrive(AxReaderWriter& rw, AxlObj const* item, Steps rest);
     void visit(AxReaderWriter& rw, AxlObj const* item);
 

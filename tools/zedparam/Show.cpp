@@ -3,15 +3,15 @@
 #include <cstdio>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "Answer.h"
-#include "AxNearest.h"
 #include "AxZedObjectParameters.h"
+#include "AxlPrint.h"
 #include "Collection.h"
 #include "CommandLine.h"
+#include "EditedValue.h"
 #include "Findings.h"
 #include "Json.h"
 #include "NamedElement.h"
@@ -36,49 +36,54 @@ struct ShowOptions
 /// Tells that the record has nothing of that path, and what may be meant.
 void tellMissing(RecordWalk& walk, KeywordPath const& path)
 {
-    // The longest beginning of the path that there is, and what stands below that.
-    std::string const& text = path.text();
     std::vector<KeywordStep> steps;
-    readPath(text, steps);
-    std::string parent = walk.record().name().string().string();
-    std::string missing = steps.front().name;
-    std::vector<std::string> names;
-    auto const visit = [&](std::string const& pattern, RecordWalk::Visit const& visitor)
-    {
-        KeywordPath below;
-        std::string fault;
-        KeywordPath::parse(pattern, below, fault);
-        walk.run(below, visitor);
-    };
+    readPath(path.text(), steps);
+    std::vector<std::string> heads;
+    std::vector<std::string> ownNames;
     auto const collect = [&](RecordWalk const& at)
     {
-        names.push_back(at.keyword().string().string());
-        if (std::string const own = at.ownItem() == nullptr ? ownName(at.rw()) : std::string(); !own.empty())
-        {
-            names.push_back(own);
-        }
+        heads.push_back(at.keyword().string().string());
+        ownNames.push_back(at.ownItem() == nullptr ? ownName(at.rw()) : std::string());
     };
-    for (std::size_t count = steps.size() - 1; count > 0; --count)
+    auto const visit = [&](std::string const& pattern)
     {
-        std::string const prefix = text.substr(0, steps[count].begin - 1);
-        bool isThere = false;
-        visit(prefix, [&](RecordWalk const&) { isThere = true; });
-        if (isThere)
-        {
-            parent = steps[count - 1].name;
-            missing = steps[count].name;
-            visit(prefix + "/*", collect);
-            break;
-        }
-    }
-    if (names.empty())
+        heads.clear();
+        ownNames.clear();
+        KeywordPath all;
+        std::string fault;
+        KeywordPath::parse(pattern, all, fault);
+        walk.run(all, collect);
+        return !heads.empty();
+    };
+    // The longest beginning of the path that there is.
+    std::size_t known = steps.size() - 1;
+    while (known > 0 && !visit(path.text().substr(0, steps[known].begin - 1)))
     {
-        visit("*", collect);
+        --known;
     }
-    std::vector<std::string_view> const known(names.begin(), names.end());
-    std::string_view const nearest = axNearest(missing, known);
-    std::fprintf(stderr, "zedparam: \"%s\" has no \"%s\"", parent.c_str(), missing.c_str());
-    std::fprintf(stderr, nearest.empty() ? "\n" : "; did you mean \"%s\"?\n", std::string(nearest).c_str());
+    bool const isAnyDepth = known > 0 && path.steps()[known - 1].kind == KeywordPath::Step::Kind::AnyDepth;
+    std::string const beginning = path.text().substr(0, steps[known].begin);
+    std::size_t const parent = known - (isAnyDepth ? 1 : 0);
+    std::string const owner = parent > 0 ? steps[parent - 1].name : walk.record().name().string().string();
+    KeywordStep const& missing = steps[known];
+    bool const isNarrowed = missing.position != 0 || !missing.identity.empty();
+    std::string text;
+    std::string hint;
+    if (isNarrowed && !isAnyDepth && visit(beginning + stepOf(missing.name)))
+    {
+        bool const isByOwn = !missing.identity.empty();
+        text = isByOwn ? "there is no " + stepOf(missing.name, missing.identity)
+                       : absent(missing.name, missing.position, heads.size());
+        hint = isByOwn ? nearestHint(missing.identity, ownNames) : std::string();
+    }
+    else
+    {
+        visit(beginning + "*");
+        heads.insert(heads.end(), ownNames.begin(), ownNames.end());
+        text = "\"" + owner + "\" has no \"" + missing.name + "\"" + (isAnyDepth ? " at any depth" : "");
+        hint = nearestHint(missing.name, heads);
+    }
+    std::fprintf(stderr, "zedparam: %s%s%s\n", text.c_str(), hint.empty() ? "" : "; ", hint.c_str());
 }
 
 /// False, after a line, when one is no path or the record has nothing there.
@@ -110,7 +115,9 @@ void printText(RecordWalk const& at, bool all)
 {
     if (at.ownItem() != nullptr)
     {
-        std::printf("(%s %s)\n", at.keyword().c_str(), valueText(at).c_str());
+        std::string item;
+        axAppendCell(item, at.ownItem());
+        std::printf("%s\n", item.c_str());
         return;
     }
     AxReaderWriter& rw = at.rw();

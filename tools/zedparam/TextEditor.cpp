@@ -270,9 +270,7 @@ std::vector<std::string> TextEditor::stepsBehind(std::string const& path, bool o
     for (TextItem item = place.lists.back().firstValue(); item; item = item.next())
     {
         bool const leadsOn = holdsNamedItems(item);
-        std::string const own = ownName(item);
-        std::string const name = own.empty() && leadsOn ? typeOf(item) : own;
-        steps.add(item.isList() ? item.head() : std::string(), name, memberOf(place.rw, item.head()), leadsOn);
+        steps.add(item.isList() ? item.head() : std::string(), ownName(item), memberOf(place.rw, item.head()), leadsOn);
     }
     return steps.all(onlyThere ? nullptr : place.rw);
 }

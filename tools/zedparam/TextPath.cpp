@@ -5,81 +5,32 @@
 #include <set>
 #include <utility>
 
-#include "AxObjectType.h"
 #include "AxReaderWriterFile.h"
 #include "EditedValue.h"
 #include "NamedElement.h"
-#include "PathText.h"
 
 namespace
 {
-void appendFields(TextItem item, std::string& text)
-{
-    for (TextItem field = item.isList() ? item.firstChild() : item; field;
-         field = item.isList() ? field.next() : TextItem())
-    {
-        text.append(text.empty() ? "" : ":").append(field.value());
-    }
-}
-
-} // namespace
-
-std::string typeOf(TextItem entry)
-{
-    for (std::string_view const keyword : {"object-type", "entity-type"})
-    {
-        std::string text;
-        for (TextItem value = entry.find(keyword).firstValue(); value; value = value.next())
-        {
-            appendFields(value, text);
-        }
-        if (!text.empty())
-        {
-            return text;
-        }
-    }
-    return {};
-}
-
-namespace
-{
-/// Whether the entry is for that type.
-bool isFor(TextItem entry, AxObjectType const& type)
-{
-    AxObjectType its;
-    return AxObjectType::fromString(typeOf(entry), its) && its == type;
-}
-
 /// The items of `list` that the step may mean.
-std::vector<TextItem> itemsMeant(KeywordStep const& step, TextItem list, AxReaderWriter const* member)
+std::vector<TextItem> itemsMeant(KeywordStep const& step, TextItem list, AxReaderWriter const* rw)
 {
-    std::vector<TextItem> headed;
-    std::vector<TextItem> named;
-    AxObjectType type;
-    bool const isType = AxObjectType::fromString(step.name, type) && step.name.find(':') != std::string::npos;
+    std::vector<TextItem> items;
     for (TextItem item = list.firstValue(); item; item = item.next())
     {
-        if (!item.isList())
+        if (item.isList())
         {
-            continue;
-        }
-        std::string const head = item.head();
-        bool const isMember =
-            member != nullptr && (member->name() == AxString(head) || member->hasAlias(AxSymbolString::find(head)));
-        if ((!head.empty() && (head == step.name || isMember)) || (isType && isFor(item, type)))
-        {
-            headed.push_back(item);
-        }
-        else if (step.identity.empty() && ownName(item) == step.name)
-        {
-            named.push_back(item);
+            items.push_back(item);
         }
     }
-    if (!step.identity.empty())
+    AxReaderWriter const* const member = memberOf(rw, step.name);
+    auto const isHeaded = [&](TextItem item)
     {
-        std::erase_if(headed, [&step](TextItem item) { return ownName(item) != step.identity; });
-    }
-    return headed.empty() ? named : headed;
+        std::string const head = item.head();
+        return !head.empty() && (head == step.name || (member != nullptr && memberOf(rw, head) == member));
+    };
+    auto const own = [rw](TextItem item)
+    { return memberOf(rw, item.head()) == nullptr ? ownName(item) : std::string(); };
+    return elementsMeant(step, items, isHeaded, own);
 }
 } // namespace
 
@@ -100,7 +51,7 @@ TextPath TextPath::follow(std::string_view path, TextTree const& tree, TextReadi
     for (KeywordStep const& step : steps)
     {
         AxReaderWriter const* const member = memberOf(result.rw, step.name);
-        std::vector<TextItem> const items = itemsMeant(step, result.lists.back(), member);
+        std::vector<TextItem> const items = itemsMeant(step, result.lists.back(), result.rw);
         if (items.empty())
         {
             auto [text, hint] = elsewhere(result.rw, step.name, path.substr(step.begin));

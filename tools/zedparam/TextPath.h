@@ -28,9 +28,6 @@ struct TextPath
     static TextPath follow(std::string_view path, TextTree const& tree, TextReading& reading);
 };
 
-/// The object type of an entry, its fields joined by ":"; empty when it has none.
-std::string typeOf(TextItem entry);
-
 /// The members that can stand in a list which `rw` reads; null when there are none.
 AxReaderWriterRegistry const* membersIn(AxReaderWriter const* rw);
 

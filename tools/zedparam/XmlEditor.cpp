@@ -86,34 +86,42 @@ std::vector<AxEnvObjectPtr> childrenOf(AxEnvObject const& parent, std::string_vi
 
 /// The elements that the step may mean, as TextPath finds them in parameter text.
 std::vector<AxEnvObjectPtr> elementsMeant(AxEnvObject const& parent, std::string_view tag, KeywordStep const& step,
-                                          AxReaderWriter const* member)
+                                          AxReaderWriter const* rw)
 {
-    std::vector<AxEnvObjectPtr> found = childrenOf(parent, tag, step.name, member);
-    if (!step.identity.empty())
+    AxReaderWriter const* const member = tag.empty() ? memberOf(rw, step.name) : nullptr;
+    auto const isHeaded = [&](AxEnvObjectPtr const& child) { return isMeant(elementName(*child), step.name, member); };
+    auto const own = [&](AxEnvObjectPtr const& child)
     {
-        std::erase_if(found, [&step](AxEnvObjectPtr const& child) { return ownName(*child) != step.identity; });
-    }
-    else if (found.empty() && tag.empty())
-    {
-        found = childrenOf(parent, tag, {});
-        std::erase_if(found, [&step](AxEnvObjectPtr const& child) { return ownName(*child) != step.name; });
-    }
-    return found;
+        bool const isElement = tag.empty() && memberOf(rw, elementName(*child).string()) == nullptr;
+        return isElement ? ownName(*child) : std::string();
+    };
+    return elementsMeant(step, childrenOf(parent, tag, {}), isHeaded, own);
 }
 
-/// The member of that name, or the one of the elements of that name or of none that is at `position`.
-AxReaderWriter* partOf(AxReaderWriter* rw, std::string const& name, std::size_t position = 1)
+std::vector<std::string> ownNamesIn(AxEnvObject const& parent)
 {
-    AxReaderWriter* found = memberOf(rw, name);
-    auto const* const list = dynamic_cast<AxRwList const*>(rw);
-    AxListItem const* item = list != nullptr ? list->first() : nullptr;
-    for (; item != nullptr && found == nullptr; item = item->next())
+    std::vector<std::string> names;
+    for (AxEnvObjectPtr const& child : childrenOf(parent, {}, {}))
     {
-        AxReaderWriter* const element = AxRwList::element(item);
-        bool const isNamed = element->name().isNull() || element->name() == AxString(name) || ownName(*element) == name;
-        found = isNamed && --position == 0 ? element : nullptr;
+        names.push_back(ownName(*child));
     }
-    return found;
+    std::erase(names, std::string());
+    return names;
+}
+
+/// The member of that name, or the element that the step means.
+AxReaderWriter* partOf(AxReaderWriter* rw, KeywordStep const& step)
+{
+    AxReaderWriter* const member = memberOf(rw, step.name);
+    auto const* const list = dynamic_cast<AxRwList const*>(rw);
+    std::vector<AxReaderWriter*> elements;
+    for (AxListItem const* item = list != nullptr ? list->first() : nullptr; item != nullptr; item = item->next())
+    {
+        elements.push_back(AxRwList::element(item));
+    }
+    elements = member != nullptr ? std::vector{member} : elementsMeant(step, elements);
+    std::size_t const position = member != nullptr ? 1 : std::max<std::size_t>(step.position, 1);
+    return position <= elements.size() ? elements[position - 1] : nullptr;
 }
 
 /// The line end and indentation in front of a byte; empty when more than blanks stands on its line before it.
@@ -226,7 +234,7 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
     if (first == "systems" && target.names.size() > 1)
     {
         target.owner = document.element;
-        target.rw = partOf(target.rw, first);
+        target.rw = partOf(target.rw, target.steps.front());
         target.found = 1;
         tag = "componentSystem";
     }
@@ -246,7 +254,7 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
         KeywordStep const& step = target.steps[target.found];
         bool const isAttribute = its != attributes.end() && step.identity.empty();
         AxEnvValuePtr const attribute = isAttribute ? its->value : nullptr;
-        std::vector<AxEnvObjectPtr> elements = elementsMeant(*target.owner, tag, step, member);
+        std::vector<AxEnvObjectPtr> elements = elementsMeant(*target.owner, tag, step, target.rw);
         bool const isInSystem = target.owner->type() == AxString("componentSystem");
         if (isInSystem && elements.empty() && attribute == nullptr)
         {
@@ -271,12 +279,13 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
         if (attribute == nullptr && elements.empty())
         {
             bool const isAbsent = !step.identity.empty();
-            return isAbsent ? refuseAt(*target.owner, "no-path", "there is no " + stepOf(name, step.identity))
+            return isAbsent ? refuseAt(*target.owner, "no-path", "there is no " + stepOf(name, step.identity),
+                                       nearestHint(step.identity, ownNamesIn(*target.owner)))
                             : leadsOn(target);
         }
         tag.clear();
         target.outer = target.rw;
-        target.rw = partOf(target.rw, name, std::max<std::size_t>(position, 1));
+        target.rw = partOf(target.rw, step);
         target.isFree = target.isFree || (target.outer != nullptr && target.outer->isValue()) || isLeadingItem(name);
         target.isElement = attribute == nullptr;
         target.owner = attribute != nullptr ? target.owner : elements[std::max<std::size_t>(position, 1) - 1];
@@ -389,7 +398,7 @@ bool XmlEditor::insert(Document& document, Target const& target, std::string con
     for (std::size_t i = target.found; i < target.names.size(); ++i)
     {
         map = i + 1 == target.names.size() && holdsNamedValues(member) ? member : nullptr;
-        AxReaderWriter* const found = partOf(member, target.names[i]);
+        AxReaderWriter* const found = partOf(member, target.steps[i]);
         if (found == nullptr && map == nullptr && !isVariable && (!isLast || !force()))
         {
             return refuseUnknown(target, i, i == target.found ? target.rw : member);
@@ -627,11 +636,7 @@ bool XmlEditor::refuseUnknown(Target const& target, std::size_t place, AxReaderW
     std::string const& name = target.names[place];
     std::string const owner = rw != nullptr ? rw->name().string().string() : target.owner->type().string();
     std::vector<std::string> known = namesIn({}, rw);
-    for (AxEnvObjectPtr const& child : childrenOf(*target.owner, {}, {}))
-    {
-        known.push_back(ownName(*child));
-    }
-    std::erase(known, std::string());
+    std::ranges::copy(ownNamesIn(*target.owner), std::back_inserter(known));
     return refuseAt(*target.owner, "unknown-keyword",
                     "\"" + owner + "\" " + (isThere ? "knows" : "has") + " no \"" + name + "\"",
                     nearestHint(name, known));
