@@ -12,7 +12,9 @@
 #include "Catalogue.h"
 #include "Collection.h"
 #include "Manual.h"
+#include "NamedElement.h"
 #include "OpenEditor.h"
+#include "PathSteps.h"
 #include "PathText.h"
 #include "RecordValue.h"
 #include "RecordWalk.h"
@@ -134,15 +136,21 @@ Words recordPaths(Line const& line)
         return paths;
     }
     RecordWalk walk = Collection::walkThrough(*database, *entry, *record);
+    std::map<std::string, PathSteps> stepsByParent;
     walk.run(path,
              [&](RecordWalk const& at)
              {
-                 SourceStep const& step = at.steps().back();
-                 std::string const position =
-                     step.isOneOfSeveral ? "[" + std::to_string(step.occurrence + 1) + "]" : std::string();
-                 bool const leadsOn = at.ownItem() == nullptr && !isLeaf(at.rw());
-                 paths.push_back(begin + stepOf(step.keyword.view()) + position + (leadsOn ? "/" : ""));
+                 bool const isWord = at.ownItem() != nullptr;
+                 bool const isMember = at.steps().back().occurrence == SourceStep::theLast;
+                 stepsByParent[beginOf(at.path())].add(at.keyword().string().string(),
+                                                       isWord ? std::string() : ownName(at.rw()),
+                                                       isMember ? &at.rw() : nullptr, !isWord && !isLeaf(at.rw()));
              });
+    for (auto const& [parent, steps] : stepsByParent)
+    {
+        std::ranges::transform(steps.all(nullptr), std::back_inserter(paths),
+                               [&begin](std::string const& step) { return begin + step; });
+    }
     return paths;
 }
 

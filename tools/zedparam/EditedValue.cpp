@@ -57,12 +57,14 @@ bool holdsNamedValues(AxReaderWriter const* rw)
            dynamic_cast<AxRwProperties const*>(rw) != nullptr;
 }
 
+bool isClassWord(std::string_view name)
+{
+    return name == "parameter-type" || name == "component-descriptor-type" || name == "comm-model-descriptor-type";
+}
+
 bool isLeadingItem(std::string_view name)
 {
-    constexpr std::string_view theWords[] = {
-        "parameter-type", "component-descriptor-type", "comm-model-descriptor-type", "object-type", "match-type",
-        "record-name"};
-    return std::ranges::find(theWords, name) != std::end(theWords);
+    return isClassWord(name) || name == "object-type" || name == "match-type" || name == "record-name";
 }
 
 bool toOwnUnit(std::string& value, AxReaderWriter const* rw, std::string const& name, std::string& fault)

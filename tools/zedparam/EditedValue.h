@@ -17,6 +17,9 @@ bool isText(AxReaderWriter const* rw);
 /// Whether a member holds values under any names, such as signatures or properties.
 bool holdsNamedValues(AxReaderWriter const* rw);
 
+/// Words that tell of which class a record or component is, and so what reads the rest of it.
+bool isClassWord(std::string_view name);
+
 /// Words that tell what a record or element is; they are read before there are members.
 bool isLeadingItem(std::string_view name);
 

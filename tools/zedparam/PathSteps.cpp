@@ -8,24 +8,22 @@
 #include "PathText.h"
 #include "TextPath.h"
 
-void PathSteps::add(std::string const& head, std::string const& own, AxReaderWriter const* member, bool leadsOn)
-{
-    if (head.empty() && own.empty())
-    {
-        return;
-    }
-    bool const isMember = member != nullptr;
-    bool const isGroup = isMember && !isText(member) && (holdsItems(*member) || holdsNamedValues(member));
-    myItems.push_back({head, isMember ? std::string() : own, isMember, leadsOn || isGroup});
-    if (!isMember)
-    {
-        ++myHeads[head];
-        ++myOwnNames[own];
-    }
-}
-
 namespace
 {
+/// Whether a path may go on behind the member.
+bool isGroup(AxReaderWriter const& member)
+{
+    return !isText(&member) && (holdsItems(member) || holdsNamedValues(&member));
+}
+
+/// Whether there is nothing to set: an extension of the host's that has no members, as there is no host.
+bool isVoid(AxReaderWriter& member)
+{
+    std::string text;
+    member.putSelf(text, 0, true, AxFilename::nullFilename());
+    return !TextTree(text).root().firstValue() && !isText(&member);
+}
+
 /// For one type there may be several, called by their heads.
 bool isObjectType(std::string const& name)
 {
@@ -33,6 +31,21 @@ bool isObjectType(std::string const& name)
     return name.find(':') != std::string::npos && AxObjectType::fromString(name, type);
 }
 } // namespace
+
+void PathSteps::add(std::string const& head, std::string const& own, AxReaderWriter const* member, bool leadsOn)
+{
+    if (head.empty() && own.empty())
+    {
+        return;
+    }
+    bool const isMember = member != nullptr;
+    myItems.push_back({head, isMember ? std::string() : own, isMember, leadsOn || (isMember && isGroup(*member))});
+    if (!isMember)
+    {
+        ++myHeads[head];
+        ++myOwnNames[own];
+    }
+}
 
 std::vector<std::string> PathSteps::all(AxReaderWriter const* rw) const
 {
@@ -61,10 +74,11 @@ std::vector<std::string> PathSteps::all(AxReaderWriter const* rw) const
     }
     for (std::string const& name : namesIn({}, rw))
     {
-        if (!there.contains(name))
+        AxReaderWriter* const member = there.contains(name) ? nullptr : memberOf(rw, name);
+        bool const leadsOn = member != nullptr && isGroup(*member);
+        if (member != nullptr && (leadsOn || !isVoid(*member)))
         {
-            AxReaderWriter const* const member = memberOf(rw, name);
-            add(name, member != nullptr && !isText(member) && (holdsItems(*member) || holdsNamedValues(member)));
+            add(name, leadsOn);
         }
     }
     return steps;

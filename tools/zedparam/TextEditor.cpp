@@ -270,7 +270,11 @@ std::vector<std::string> TextEditor::stepsBehind(std::string const& path, bool o
     for (TextItem item = place.lists.back().firstValue(); item; item = item.next())
     {
         bool const leadsOn = holdsNamedItems(item);
-        steps.add(item.isList() ? item.head() : std::string(), ownName(item), memberOf(place.rw, item.head()), leadsOn);
+        std::string const head = item.isList() ? item.head() : std::string();
+        if (!onlyThere || !isClassWord(head))
+        {
+            steps.add(head, ownName(item), memberOf(place.rw, head), leadsOn);
+        }
     }
     return steps.all(onlyThere ? nullptr : place.rw);
 }

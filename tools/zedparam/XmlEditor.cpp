@@ -586,18 +586,39 @@ std::vector<std::string> XmlEditor::stepsBehind(std::string const& path, bool on
         return {};
     }
     PathSteps steps;
+    auto const add = [&](AxEnvObject const& child, std::string const& name)
+    {
+        AxReaderWriter const* const member = memberOf(target.rw, name);
+        steps.add(name, ownName(child), member, child.attribute("value") == nullptr);
+    };
     for (AxEnvObject::Attribute const& attribute : target.owner->attributes())
     {
-        if (AxReaderWriter const* const member = memberOf(target.rw, attribute.name.string()))
+        std::string const& name = attribute.name.string();
+        AxReaderWriter const* const member = memberOf(target.rw, name);
+        if (member != nullptr || (!onlyThere && isClassWord(name)))
         {
-            steps.add(attribute.name.string(), {}, member, false);
+            steps.add(name, {}, member, false);
         }
     }
+    bool const isSystem = target.owner->type() == AxString("componentSystem");
     for (AxEnvObjectPtr const& child : childrenOf(*target.owner, areSystems ? "componentSystem" : "", {}))
     {
-        AxReaderWriter const* const member = memberOf(target.rw, elementName(*child).string());
-        bool const leadsOn = child->attribute("value") == nullptr;
-        steps.add(elementName(*child).string(), ownName(*child), member, leadsOn);
+        bool const areParameters = isSystem && child->type() == AxString("variableBindings");
+        bool const isDefinition = isSystem && child->type() == AxString("systemName");
+        for (AxEnvObjectPtr const& each : areParameters ? childrenOf(*child, {}, {}) : std::vector{child})
+        {
+            add(*each, isDefinition ? "system-definition" : elementName(*each).string());
+        }
+    }
+    // What stands beside the platform.
+    for (AxEnvObjectPtr const& child :
+         path.empty() ? childrenOf(*document->element, {}, {}) : std::vector<AxEnvObjectPtr>())
+    {
+        std::string const& tag = child->type().string();
+        if (tag == "objectType" || tag == "matchType" || tag == "variableBindings" || tag == "componentSystem")
+        {
+            add(*child, tag == "variableBindings" ? theVariables : tag == "componentSystem" ? "systems" : tag);
+        }
     }
     return steps.all(onlyThere ? nullptr : target.rw);
 }
