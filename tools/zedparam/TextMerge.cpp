@@ -153,23 +153,38 @@ private:
         MergeEdits::Mark const mark = myEdits.mark();
         addTheirs(lists, elements, layouts);
         bool const isMerged = mergeStretch(layouts, &Layout::closing);
-        if (!layouts[Ours]->endTag.empty() && myEdits.haveAny(mark, layouts[Ours]->body))
+        if (hasNoContent(*layouts[Ours]) && myEdits.haveAny(mark, layouts[Ours]->body))
         {
-            giveContent(*layouts[Ours]);
+            giveContent(*layouts[Ours], source(Theirs, layouts[Theirs]->closing));
         }
         return isMerged;
     }
 
-    /// Makes an element without content one with what was added behind its tag.
-    void giveContent(Layout const& element)
+    static bool hasNoContent(Layout const& layout)
     {
-        std::size_t const begin = element.head.begin;
-        std::string_view const text = mySources[Ours]->text();
-        std::size_t const line = text.find_last_not_of(" \t", begin - 1);
-        bool const beginsLine = line != std::string_view::npos && text[line] == '\n';
-        std::string const indent(beginsLine ? text.substr(line, begin - line) : std::string_view());
-        myEdits.replace(element.emptyMark, ">");
-        myEdits.replace({element.body, element.body}, indent + element.endTag);
+        bool const hasItems =
+            std::ranges::any_of(layout.units, [](auto const& unit) { return !unit.second.isAttribute; });
+        return !layout.endTag.empty() || (!hasItems && layout.closing.begin == layout.closing.end);
+    }
+
+    /// Ends what was added to a list without content as theirs ends it, in front of its end tag too when it had none.
+    /// A comment there was merged with the blanks around it.
+    void giveContent(Layout const& list, std::string_view closing)
+    {
+        bool const isBlank = closing.find_first_not_of(" \t\r\n") == std::string_view::npos;
+        std::size_t const line = isBlank ? closing.rfind('\n') : std::string_view::npos;
+        std::string end(isBlank ? closing.substr(0, line) : std::string_view());
+        if (line != std::string_view::npos)
+        {
+            std::string_view const text = mySources[Ours]->text();
+            std::size_t const begin = text.rfind('\n', list.head.begin) + 1;
+            end.append("\n").append(text.substr(begin, text.find_first_not_of(" \t", begin) - begin));
+        }
+        if (!list.endTag.empty())
+        {
+            myEdits.replace(list.emptyMark, ">");
+        }
+        myEdits.replace({list.body, list.body}, end + list.endTag);
     }
 
     /// Of something that has no parts: theirs when ours is as it was.
@@ -300,6 +315,7 @@ private:
                                       : unit.isAttribute ? layouts[Ours]->head.end
                                                          : layouts[Ours]->body;
             std::string text = inserted(unit, *layouts[Ours]);
+            bool const isFirst = !unit.isAttribute && place == layouts[Ours]->body && hasNoContent(*layouts[Ours]);
             myPath.push_back(element.label);
             if (found[Base] == nullptr)
             {
@@ -310,7 +326,9 @@ private:
                 }
                 else
                 {
-                    myEdits.replace({place, place}, text);
+                    // Begins a list as it does there, even without a blank.
+                    bool const isGlued = isFirst && source(Theirs, unit.lead).empty() && text.starts_with(" <");
+                    myEdits.replace({place, place}, text.substr(isGlued ? 1 : 0));
                 }
             }
             else if (Unit const& base = layouts[Base]->units.at(found[Base]->item);
