@@ -258,11 +258,7 @@ private:
     Operand number(Operand& operand)
     {
         std::string const text = myToken.text;
-        std::size_t end = text.size();
-        while (end > 0 && !axIsNumber(std::string_view(text).substr(0, end)))
-        {
-            --end;
-        }
+        std::size_t const end = numberEnd(text);
         double value = 0.0;
         if (!axParseReal(std::string_view(text).substr(0, end), value))
         {

@@ -79,6 +79,7 @@ std::string joined(std::vector<std::string> const& parts, char const* separator)
     }
     return text;
 }
+
 /// Puts the words up to the cursor together again, which bash divides at ":" and "=" as well, and takes their quotes.
 constexpr std::string_view theBashWords = R"sh(_zedparam_words()
 {
@@ -130,7 +131,7 @@ complete -o default -F _zedparam zedparam
 constexpr std::string_view theZshQuestion = R"sh(_zedparam_values()
 {
     local -a found open closed
-    found=(${(f)"$(zedparam complete -- ${(Q)words[1,CURRENT-1]} "${(Q)PREFIX}" 2>/dev/null)"})
+    found=(${(f)"$("$program" complete -- ${(Q)words[1,CURRENT-1]} "${(Q)PREFIX}" 2>/dev/null)"})
     if ((! $#found)); then
         _files
         return
@@ -243,7 +244,8 @@ std::string zshCompletion(CLI::App const& app)
            "        _describe command commands\n"
            "        return\n"
            "    fi\n"
-           "    local command=$words[2]\n"
+           "    local program=${(Q)words[1]} command=$words[2]\n"
+           "    [[ $program == '~/'* ]] && program=$HOME/${program#??}\n"
            "    shift words\n"
            "    ((CURRENT--))\n"
            "    case $command in\n" +

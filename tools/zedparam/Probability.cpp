@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <memory>
-#include <numbers>
 #include <string>
 
 #include "AxNumberText.h"
@@ -31,34 +30,21 @@ struct ProbabilityOptions
     bool json = false;
 };
 
-struct Measure
+/// Reads a number with a unit behind it, or without for one in `usual`; false after a line.
+bool readQuantity(char const* option, std::string const& text, char const* usual, double& out)
 {
-    std::string_view name;
-    double size;
-};
-
-/// Reads a number with a unit behind it or without, which is the first of `units`; false after a line.
-template <std::size_t count>
-bool readQuantity(char const* option, std::string const& text, Measure const (&units)[count], double& out)
-{
+    std::size_t const end = numberEnd(text);
+    Unit const& own = *unitNamed(usual);
+    Unit const* const unit = unitNamed(end != text.size() ? std::string_view(text).substr(end) : usual);
     double number = 0.0;
-    std::size_t const end = std::min(text.find_first_not_of("0123456789.eE+-"), text.size());
-    std::string_view const digits(text.data(), end);
-    std::string_view const name = std::string_view(text).substr(end);
-    for (Measure const& unit : units)
+    bool const isNumber = axParseReal(std::string_view(text).substr(0, end), number) && number >= 0.0;
+    if (isNumber && unit != nullptr && std::string_view(unit->base) == own.base)
     {
-        if ((name == unit.name || (name.empty() && &unit == units)) && axParseReal(digits, number) && number >= 0.0)
-        {
-            out = number * unit.size;
-            return true;
-        }
+        out = unit == &own ? number : inFileUnit(number, *unit) / own.factor;
+        return true;
     }
-    std::fprintf(stderr, "zedparam: %s \"%s\": expected a number, 0 or more, in", option, text.c_str());
-    for (Measure const& unit : units)
-    {
-        std::fprintf(stderr, "%s%s", &unit == units ? " " : " or ", std::string(unit.name).c_str());
-    }
-    std::fprintf(stderr, ", such as 1.5%s\n", std::string(units[count - 1].name).c_str());
+    std::fprintf(stderr, "zedparam: %s \"%s\": expected a number, 0 or more, in %s, such as 1.5%s\n", option,
+                 text.c_str(), unitsOf(own.base).c_str(), usual);
     return false;
 }
 
@@ -82,8 +68,6 @@ bool readMunition(std::string const& text, AxSimMunition& munition)
 /// False after a line.
 bool readQuestion(ProbabilityOptions const& options, TableQuestion& question)
 {
-    constexpr Measure theLengths[] = {{"m", 1.0}, {"km", 1000.0}};
-    constexpr Measure theAngles[] = {{"deg", 1.0}, {"rad", 180.0 / std::numbers::pi}};
     TypeArgument type;
     if (!options.type.empty())
     {
@@ -102,8 +86,8 @@ bool readQuestion(ProbabilityOptions const& options, TableQuestion& question)
         question.surface = options.surface;
     }
     question.isCollateral = options.isCollateral;
-    return (options.angle.empty() || readQuantity("--angle", options.angle, theAngles, question.angle.emplace())) &&
-           (options.range.empty() || readQuantity("--range", options.range, theLengths, question.range.emplace()));
+    return (options.angle.empty() || readQuantity("--angle", options.angle, "deg", question.angle.emplace())) &&
+           (options.range.empty() || readQuantity("--range", options.range, "m", question.range.emplace()));
 }
 
 void printText(TableAnswer const& answer)

@@ -82,11 +82,7 @@ std::vector<std::string> wordsOf(std::string const& value)
 void splitLast(std::vector<std::string>& words, std::string_view base)
 {
     std::string const last = words.back();
-    std::size_t end = last.size();
-    while (end > 0 && !axIsNumber(std::string_view(last).substr(0, end)))
-    {
-        --end;
-    }
+    std::size_t const end = numberEnd(last);
     std::string const unit = last.substr(end);
     if (end != 0 && (unitNamed(unit) != nullptr || (!unit.empty() && unit == base)))
     {
@@ -95,6 +91,16 @@ void splitLast(std::vector<std::string>& words, std::string_view base)
     }
 }
 } // namespace
+
+std::size_t numberEnd(std::string_view text)
+{
+    std::size_t end = text.size();
+    while (end > 0 && !axIsNumber(text.substr(0, end)))
+    {
+        --end;
+    }
+    return end;
+}
 
 std::string tidied(double value)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,9 @@ struct Unit
     char const* base; ///< in which values stand in files
     double factor;
 };
+
+/// Behind the number that the text begins with, as long as it can be: before the unit of "45deg"; 0 without a number.
+std::size_t numberEnd(std::string_view text);
 
 /// Null when there is none of that name.
 Unit const* unitNamed(std::string_view name);
