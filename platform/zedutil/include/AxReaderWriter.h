@@ -369,7 +369,7 @@ private:
     static std::uint32_t ourStamp;
     static bool ourHasTimeSource;
     static bool ourHadTimeSource; // whose times may be later than any stamp
-    static Rest** ourRests; // those that stand apart, by their numbers
+    static Rest** ourRests;       // those that stand apart, by their numbers
 
     std::uint16_t myPlace = 0; // in its owner, in units of eight bytes; 0 when not bound as a data member
     std::uint16_t myFlags = 0;
