@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -165,6 +166,28 @@ bool CommandLine::hasCommand(std::string const& word) const
     return false;
 }
 
+void CommandLine::tellUnexpected() const
+{
+    std::string const word = myApp->remaining(true).front();
+    std::vector<CLI::App*> const commands = myApp->get_subcommands();
+    CLI::App const& command = commands.empty() ? *myApp : *commands.front();
+    std::vector<std::string> names;
+    for (CLI::Option const* option : command.get_options())
+    {
+        std::ranges::transform(option->get_lnames(), std::back_inserter(names),
+                               [](std::string const& name) { return "--" + name; });
+    }
+    std::vector<std::string_view> const known(names.begin(), names.end());
+    std::string_view const nearest = word.starts_with('-') ? axNearest(word, known) : std::string_view();
+    std::fprintf(stderr, "zedparam: %s takes no \"%s\"", command.get_name().c_str(), word.c_str());
+    if (!nearest.empty())
+    {
+        std::fprintf(stderr, "; did you mean \"%s\"?", std::string(nearest).c_str());
+    }
+    std::fprintf(stderr, "\nzedparam %s--help tells what it takes\n",
+                 commands.empty() ? "" : (command.get_name() + " ").c_str());
+}
+
 int CommandLine::run(int argc, char** argv)
 {
     if (argc > 1 && !hasCommand(argv[1]))
@@ -175,6 +198,11 @@ int CommandLine::run(int argc, char** argv)
     try
     {
         myApp->parse(argc, argv);
+    }
+    catch (CLI::ExtrasError const&)
+    {
+        tellUnexpected();
+        return CouldNotRun;
     }
     catch (CLI::ParseError const& error)
     {

@@ -73,6 +73,7 @@ public:
 
 private:
     bool hasCommand(std::string const& word) const;
+    void tellUnexpected() const;
 
     std::unique_ptr<CLI::App> myApp;
     std::vector<std::unique_ptr<Command>> myCommands;

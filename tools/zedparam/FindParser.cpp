@@ -267,8 +267,12 @@ private:
         std::string unit = text.substr(end);
         std::size_t const column = myToken.column + end;
         advance();
-        if (unit.empty() && myToken.kind == Token::Kind::Word && unitNamed(myToken.text) != nullptr)
+        if (unit.empty() && myToken.kind == Token::Kind::Word && !isReserved(myToken.text))
         {
+            if (unitNamed(myToken.text) == nullptr)
+            {
+                fail("expected a unit such as km/h, \"and\", \"or\" or the end, found " + shown());
+            }
             unit = myToken.text;
             advance();
         }

@@ -22,9 +22,10 @@ OpenEditor::OpenEditor(std::string const& file, std::string const& text, std::st
         return;
     }
     TextTree const tree(text);
-    if (!tree.isReadable())
+    if (!tree.isReadable() || !tree.root())
     {
-        AxDiagnostic fault = tree.faults().front().diagnostic();
+        AxDiagnostic fault{.code = "empty-file", .line = 1, .column = 1, .text = "the file holds nothing to change"};
+        fault = tree.isReadable() ? fault : tree.faults().front().diagnostic();
         fault.file = file;
         std::fprintf(stderr, "%s\n", fault.format().c_str());
         return;

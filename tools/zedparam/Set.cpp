@@ -1,17 +1,16 @@
 #include "Commands.h"
 
 #include <cstdio>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "AxReadWholeFile.h"
 #include "CommandLine.h"
 #include "Findings.h"
 #include "Json.h"
 #include "OpenEditor.h"
 #include "PathText.h"
+#include "ReadFile.h"
 #include "WriteFile.h"
 
 namespace
@@ -56,10 +55,8 @@ void printJson(SetOptions const& options, std::vector<FileEditor::Change> const&
 int edit(SetOptions const& options, bool (*apply)(FileEditor& editor, std::string const& edit))
 {
     std::string text;
-    int error = 0;
-    if (!axReadWholeFile(AxFilename(options.file), text, error))
+    if (!readFile(options.file, text))
     {
-        std::fprintf(stderr, "zedparam: cannot read \"%s\": %s\n", options.file.c_str(), std::strerror(error));
         return CouldNotRun;
     }
     OpenEditor const opened(options.file, text, options.database, options.object, options.force);

@@ -55,8 +55,7 @@ AxlObj const* firstOf(AxlObj const& cell, Accept const& accept)
 Source::Source(std::string const& file)
 {
     std::string text;
-    int error = 0;
-    myIsRead = axReadWholeFile(AxFilename(file), text, error);
+    myIsRead = axReadWholeFile(AxFilename(file), text, myError);
     parse(std::move(text));
 }
 

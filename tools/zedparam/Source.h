@@ -38,6 +38,8 @@ public:
 
     /// False when searches find nothing because the file could not be read.
     bool isRead() const { return myIsRead; }
+    /// What kept the file from being read, of those of errno.
+    int error() const { return myError; }
 
     /// Nil when there is none.
     AxlObj const& expression() const { return *myExpression; }
@@ -67,4 +69,5 @@ private:
     mutable std::optional<ListsByWords> myByHead;  // and second word
     mutable std::optional<ListsByWords> myByWords; // the second and the third
     bool myIsRead = true;
+    int myError = 0;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <optional>
 
@@ -160,6 +161,16 @@ char const* nameOf(TableKind kind)
 std::unique_ptr<TableFile> TableFile::open(std::string const& file, std::string const& name)
 {
     std::unique_ptr<TableFile> result(new TableFile(file));
+    if (!result->mySource.isRead())
+    {
+        AxDiagnostics::report(
+            {.code = "cannot-open",
+             .file = file,
+             .line = 1,
+             .column = 1,
+             .text = std::string("cannot open the file: ") + std::strerror(result->mySource.error())});
+        return nullptr;
+    }
     AxlObj const& text = result->mySource.expression();
     std::optional<TableKind> const whole = text.isPair() && kindOf(text) ? kindOf(text) : kindByName(file);
     if (whole || !text.isPair())
@@ -169,12 +180,7 @@ std::unique_ptr<TableFile> TableFile::open(std::string const& file, std::string 
         result->myTable = makeTable(result->myKind);
         result->myText = &text;
         result->myName = headOf(text);
-        bool const isLoaded = loadTable(file, *result->myTable);
-        if (isLoaded && !result->mySource.isRead())
-        {
-            AxDiagnostics::report({.code = "cannot-open", .file = file, .text = "cannot read the file"});
-        }
-        return isLoaded && result->mySource.isRead() ? std::move(result) : nullptr;
+        return loadTable(file, *result->myTable) ? std::move(result) : nullptr;
     }
     std::vector<FoundTable> tables;
     findTables(text, std::string(headOf(text)), tables);
