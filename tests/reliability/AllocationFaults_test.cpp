@@ -303,7 +303,7 @@ TEST_F(AllocationFaults, EntriesComeGoAndAreFoundWithoutMemory)
     for (Reach const reach : {Reach::One, Reach::AllFromThere})
     {
         bool isHit = true;
-        for (std::size_t n = 1; isHit; n += theStep)
+        for (std::size_t n = 1; isHit; n += theStep * theStep)
         {
             ComingAndGoing all;
             WalkedDatabase database;

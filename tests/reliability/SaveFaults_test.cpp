@@ -131,7 +131,9 @@ protected:
              {SystemFault{Kind::Fail, 0, EIO}, SystemFault{Kind::FailOnwards, 0, ENOSPC}, SystemFault{Kind::ShortWrite},
               SystemFault{Kind::Kill}, SystemFault{Kind::KillInWrite}})
         {
-            for (fault.n = 1; fault.n <= calls; ++fault.n)
+            // Another one in so many of each kind.
+            for (fault.n = 1 + static_cast<int>(fault.kind) % ZEDOBJPARAM_SHARE; fault.n <= calls;
+                 fault.n += ZEDOBJPARAM_SHARE)
             {
                 SCOPED_TRACE("kind " + std::to_string(static_cast<int>(fault.kind)) + ", call " +
                              std::to_string(fault.n) + " of " + std::to_string(calls));
