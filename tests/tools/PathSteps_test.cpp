@@ -12,7 +12,7 @@
 
 namespace
 {
-std::string const theForce = ZEDOBJPARAM_SOURCE_DIR "/examples/force/";
+std::string const theExampleFolder = ZEDOBJPARAM_SOURCE_DIR "/examples/force/";
 
 /// Every path that the editor offers to a user who takes one step after the other.
 std::vector<std::string> offered(FileEditor& editor, bool onlyThere, std::string const& begin = {})
@@ -81,12 +81,12 @@ TEST(PathSteps, WhatIsOfferedIsTaken)
     {
         std::string text;
         int error = 0;
-        ASSERT_TRUE(axReadWholeFile(AxFilename(theForce + file), text, error)) << file;
-        std::unique_ptr<Database> const opened = Database::open(theForce + database);
-        AxSxpParameterDbEntry* const entry = opened->entriesOf(theForce + file).front();
-        RecordWalk walk(theForce + file, *opened->getParameters(entry));
+        ASSERT_TRUE(axReadWholeFile(AxFilename(theExampleFolder + file), text, error)) << file;
+        std::unique_ptr<Database> const opened = Database::open(theExampleFolder + database);
+        AxSxpParameterDbEntry* const entry = opened->entriesOf(theExampleFolder + file).front();
+        RecordWalk walk(theExampleFolder + file, *opened->getParameters(entry));
 
-        OpenEditor const toSet(theForce + file, text, {}, {}, false);
+        OpenEditor const toSet(theExampleFolder + file, text, {}, {}, false);
         std::vector<std::string> const toBeSet = offered(*toSet.editor(), false);
         EXPECT_GT(toBeSet.size(), 100U) << file;
         for (std::string const& path : toBeSet)
@@ -97,7 +97,7 @@ TEST(PathSteps, WhatIsOfferedIsTaken)
                 << file << " " << path << ": " << toSet.editor()->fault().text;
         }
 
-        OpenEditor const toUnset(theForce + file, text, {}, {}, false);
+        OpenEditor const toUnset(theExampleFolder + file, text, {}, {}, false);
         std::vector<std::string> const toBeUnset = offered(*toUnset.editor(), true);
         EXPECT_GT(toBeUnset.size(), 20U) << file;
         for (auto path = toBeUnset.rbegin(); path != toBeUnset.rend(); ++path)
