@@ -59,6 +59,10 @@ TextPath TextPath::follow(std::string_view path, TextTree const& tree, TextReadi
             result.fault = isAbsent ? "there is no " + stepOf(step.name, step.identity) : std::move(text);
             result.hint =
                 isAbsent ? nearestHint(step.identity, namesIn(result.lists.back(), nullptr)) : std::move(hint);
+            if (result.fault.empty() && step.position > 1)
+            {
+                result.fault = absent(step.name, step.position, member != nullptr ? 1 : 0);
+            }
             return result;
         }
         if (items.size() > 1 && step.position == 0 && member == nullptr)

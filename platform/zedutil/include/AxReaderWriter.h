@@ -338,8 +338,6 @@ private:
     Rest& makeRest();
     /// Deletes the `Rest` that stands apart.
     void dropRest();
-    /// Not before `recordUpdateTime`, and before every later change.
-    double changeMark() const { return ourHadTimeSource ? recordUpdateTime() : ourStamp; }
     std::uint32_t lastStamp() const { return (myFlags & RestApart) != 0 ? restOrNull()->stamp : myStampOrNumber; }
     void leaveOtherwise();
     /// Leaves the registry that this was entered in by pointer; there must be a `Rest`.
@@ -368,8 +366,7 @@ private:
 
     static std::uint32_t ourStamp;
     static bool ourHasTimeSource;
-    static bool ourHadTimeSource; // whose times may be later than any stamp
-    static Rest** ourRests;       // those that stand apart, by their numbers
+    static Rest** ourRests; // those that stand apart, by their numbers
 
     std::uint16_t myPlace = 0; // in its owner, in units of eight bytes; 0 when not bound as a data member
     std::uint16_t myFlags = 0;

@@ -422,7 +422,6 @@ bool AxReaderWriter::initialValue(void* bytes, std::size_t size) const
 
 std::uint32_t AxReaderWriter::ourStamp = 0;
 bool AxReaderWriter::ourHasTimeSource = false;
-bool AxReaderWriter::ourHadTimeSource = false;
 
 void AxReaderWriter::stampOtherwise()
 {
@@ -438,7 +437,6 @@ void AxReaderWriter::setTimeSource(std::function<double()> source)
 {
     timeSource() = std::move(source);
     ourHasTimeSource = static_cast<bool>(timeSource());
-    ourHadTimeSource = ourHadTimeSource || ourHasTimeSource;
 }
 
 double AxReaderWriter::recordUpdateTime() const

@@ -9,7 +9,7 @@ struct AxReaderWriterFile::Content
 {
     void takeMark()
     {
-        mark = object->changeMark();
+        mark = object->recordUpdateTime();
         isChangedForSure = false;
         hasDigest = false;
     }

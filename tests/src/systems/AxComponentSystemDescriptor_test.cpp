@@ -96,6 +96,26 @@ TEST(AxComponentSystemDescriptor, BindsReferencesInTheDefinitionToItsParameters)
     EXPECT_TRUE(heavy.unboundVariables().empty());
 }
 
+TEST(AxComponentSystemDescriptor, TheNearestParameterOfANameCounts)
+{
+    Folder const folder;
+    std::string const own = "(meta-data (system-name \"$(label)\") (system-description \"$(outer) $(inner)\") "
+                            "(parameter-data-list (string-parameter-data (parameter-name \"label\")) "
+                            "(string-parameter-data (parameter-name \"";
+    AxComponentSystemDescriptor turret("turret", nullptr);
+    read(turret,
+         "(turret (label \"a\") (outer \"o\") (system-definition (systems (mount (label \"b\") (inner \"i\") "
+         "(system-definition " +
+             own + "inner\"))))))) " + own + "outer\"))))))",
+         folder);
+    AxComponentSystemDescriptor* const mount =
+        turret.systemDefinition()->systemDescriptorList().lookupComponentSystemDescriptor("mount");
+    ASSERT_NE(mount, nullptr);
+    EXPECT_EQ(turret.systemDefinition()->metaData().systemName(), "a");
+    EXPECT_EQ(mount->systemDefinition()->metaData().systemName(), "b");
+    EXPECT_EQ(mount->systemDefinition()->metaData().systemDescription(), "o i");
+}
+
 TEST(AxComponentSystemDescriptor, KeepsParametersOfAMissingDefinition)
 {
     Folder const folder;
