@@ -12,6 +12,14 @@
 #include "Commands.h"
 #include "ShownPath.h"
 
+namespace
+{
+bool isOption(std::string const& word)
+{
+    return word.starts_with('-');
+}
+} // namespace
+
 Command::Command(CLI::App& app, std::function<int()> run, int& exitCode) : myArguments(&app)
 {
     app.callback(
@@ -153,7 +161,7 @@ bool CommandLine::hasCommand(std::string const& word) const
     {
         known.push_back(command->get_name());
     }
-    if (word.starts_with('-') || std::ranges::find(known, word) != known.end())
+    if (isOption(word) || std::ranges::find(known, word) != known.end())
     {
         return true;
     }
@@ -168,7 +176,9 @@ bool CommandLine::hasCommand(std::string const& word) const
 
 void CommandLine::tellUnexpected() const
 {
-    std::string const word = myApp->remaining(true).front();
+    std::vector<std::string> const words = myApp->remaining(true);
+    auto const misspelt = std::ranges::find_if(words, isOption);
+    std::string const& word = misspelt != words.end() ? *misspelt : words.front();
     std::vector<CLI::App*> const commands = myApp->get_subcommands();
     CLI::App const& command = commands.empty() ? *myApp : *commands.front();
     std::vector<std::string> names;
@@ -178,14 +188,14 @@ void CommandLine::tellUnexpected() const
                                [](std::string const& name) { return "--" + name; });
     }
     std::vector<std::string_view> const known(names.begin(), names.end());
-    std::string_view const nearest = word.starts_with('-') ? axNearest(word, known) : std::string_view();
-    std::fprintf(stderr, "zedparam: %s takes no \"%s\"", command.get_name().c_str(), word.c_str());
+    std::string_view const nearest = isOption(word) ? axNearest(word, known) : std::string_view();
+    std::string const name = commands.empty() ? std::string() : command.get_name() + " ";
+    std::fprintf(stderr, "zedparam: %stakes no \"%s\"", name.c_str(), word.c_str());
     if (!nearest.empty())
     {
         std::fprintf(stderr, "; did you mean \"%s\"?", std::string(nearest).c_str());
     }
-    std::fprintf(stderr, "\nzedparam %s--help tells what it takes\n",
-                 commands.empty() ? "" : (command.get_name() + " ").c_str());
+    std::fprintf(stderr, "\nzedparam %s--help tells what it takes\n", name.c_str());
 }
 
 int CommandLine::run(int argc, char** argv)
@@ -199,6 +209,10 @@ int CommandLine::run(int argc, char** argv)
     {
         myApp->parse(argc, argv);
     }
+    catch (CLI::Success const& help)
+    {
+        return myApp->exit(help);
+    }
     catch (CLI::ExtrasError const&)
     {
         tellUnexpected();
@@ -206,7 +220,9 @@ int CommandLine::run(int argc, char** argv)
     }
     catch (CLI::ParseError const& error)
     {
-        return myApp->exit(error) == 0 ? Fine : CouldNotRun;
+        // An argument is missing as well where an option is misspelt and its value, or a command, was taken for it.
+        std::ranges::any_of(myApp->remaining(true), isOption) ? tellUnexpected() : void(myApp->exit(error));
+        return CouldNotRun;
     }
     return myExitCode;
 }

@@ -60,7 +60,9 @@ void reportUnknown(std::vector<FindExpression::Path> const& paths, char const* w
         }
         std::vector<std::string_view> const candidates(known.begin(), known.end());
         std::string_view const nearest = axNearest(path.keywords.last(), candidates);
-        bool const isMisspelt = !nearest.empty() && nearest != path.keywords.last();
+        KeywordStep const& last = path.keywords.steps().back().text;
+        bool const isNarrowed = last.position != 0 || !last.identity.empty(); // the keyword may well be right
+        bool const isMisspelt = !isNarrowed && !nearest.empty() && nearest != path.keywords.last();
         std::fprintf(stderr,
                      isMisspelt ? "zedparam: no %s has \"%s\"; did you mean \"%s\"?\n" : "zedparam: no %s has \"%s\"\n",
                      who, path.keywords.text().c_str(), std::string(nearest).c_str());

@@ -69,18 +69,20 @@ void tellMissing(RecordWalk& walk, KeywordPath const& path)
     bool const isNarrowed = missing.position != 0 || !missing.identity.empty();
     std::string text;
     std::string hint;
-    if (isNarrowed && !isAnyDepth && visit(beginning + stepOf(missing.name)))
+    std::string const anywhere = isAnyDepth ? " at any depth" : "";
+    if (isNarrowed && visit(beginning + (missing.isQuoted ? stepOf(missing.name) : missing.name)))
     {
         bool const isByOwn = !missing.identity.empty();
-        text = isByOwn ? "there is no " + stepOf(missing.name, missing.identity)
-                       : absent(missing.name, missing.position, heads.size());
+        text = (isByOwn ? "there is no " + stepOf(missing.name, missing.identity)
+                        : absent(missing.name, missing.position, isAnyDepth ? 0 : heads.size())) +
+               anywhere;
         hint = isByOwn ? nearestHint(missing.identity, ownNames) : std::string();
     }
     else
     {
         visit(beginning + "*");
         heads.insert(heads.end(), ownNames.begin(), ownNames.end());
-        text = "\"" + owner + "\" has no \"" + missing.name + "\"" + (isAnyDepth ? " at any depth" : "");
+        text = "\"" + owner + "\" has no \"" + missing.name + "\"" + anywhere;
         hint = nearestHint(missing.name, heads);
     }
     std::fprintf(stderr, "zedparam: %s%s%s\n", text.c_str(), hint.empty() ? "" : "; ", hint.c_str());

@@ -265,7 +265,22 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
                                       : childrenOf(*sets.front(), "variable", name);
         }
         std::size_t const position = step.position;
-        if (position > elements.size() || (position == 0 && elements.size() > 1))
+        if (attribute == nullptr && elements.empty())
+        {
+            if (!leadsOn(target))
+            {
+                return false;
+            }
+            if (!step.identity.empty())
+            {
+                return refuseAt(*target.owner, "no-path", "there is no " + stepOf(name, step.identity),
+                                nearestHint(step.identity, ownNamesIn(*target.owner)));
+            }
+            return position <= 1 ||
+                   refuseAt(*target.owner, "no-path", absent(name, position, member != nullptr ? 1 : 0));
+        }
+        std::size_t const count = std::max<std::size_t>(elements.size(), 1);
+        if (position > count || (position == 0 && count > 1))
         {
             std::vector<NamedElement> choices;
             std::ranges::transform(elements, std::back_inserter(choices),
@@ -273,15 +288,7 @@ bool XmlEditor::follow(Document& document, std::string const& path, Target& targ
                                        return NamedElement{elementName(*element).string(), ownName(*element)};
                                    });
             return refuseAt(*target.owner, "no-path",
-                            position > elements.size() ? absent(name, position, elements.size())
-                                                       : ambiguous(name, choices));
-        }
-        if (attribute == nullptr && elements.empty())
-        {
-            bool const isAbsent = !step.identity.empty();
-            return isAbsent ? refuseAt(*target.owner, "no-path", "there is no " + stepOf(name, step.identity),
-                                       nearestHint(step.identity, ownNamesIn(*target.owner)))
-                            : leadsOn(target);
+                            position > count ? absent(name, position, count) : ambiguous(name, choices));
         }
         tag.clear();
         target.outer = target.rw;
