@@ -1,10 +1,12 @@
 #include "TextLayout.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
 #include "AxlSyntaxError.h"
+#include "TextPath.h"
 
 namespace
 {
@@ -137,10 +139,27 @@ private:
         myEndsLine = false;
     }
 
+    /// How many lists each member reads; null for those that are elements, or not known.
+    using Readers = std::unordered_map<AxReaderWriter const*, std::size_t>;
+
+    static Readers readersOf(TextItem list, AxReaderWriter const* rw)
+    {
+        Readers readers;
+        for (TextItem item = rw != nullptr ? list.firstValue() : TextItem(); item; item = item.next())
+        {
+            if (item.isList())
+            {
+                ++readers[memberOf(rw, item.head())];
+            }
+        }
+        return readers;
+    }
+
     void takeList(TextItem list, AxReaderWriter* rw, int level, Shape shape)
     {
         bool isLead = true;
         bool const hasVariables = rw == nullptr && list.head() == "variable-bindings";
+        Readers const readers = shape == Shape::ItemPerLine ? readersOf(list, rw) : Readers();
         myOut += '(';
         ++myNext;
         myLineEnds = 0;
@@ -162,7 +181,8 @@ private:
                 myOut += ' ';
             }
             bool const isAsked = rw != nullptr && shape == Shape::ItemPerLine && hasLists(item);
-            takeItem(item, isAsked ? myReading.part(*rw, item) : nullptr, level + 1,
+            bool const isRead = isAsked && readers.at(memberOf(rw, item.head())) == 1;
+            takeItem(item, isAsked ? myReading.part(*rw, item, isRead) : nullptr, level + 1,
                      hasVariables ? Shape::OneLine : shape);
             myMayBeEmptyLine = item != list.firstChild();
         }

@@ -170,7 +170,7 @@ bool TextReading::readInto(AxReaderWriter& member, std::string const& list)
     return isRead && findings.empty();
 }
 
-AxReaderWriter* TextReading::part(AxReaderWriter& parent, TextItem list)
+AxReaderWriter* TextReading::part(AxReaderWriter& parent, TextItem list, bool isRead)
 {
     AxReaderWriter* reader = &parent;
     if (auto const* file = dynamic_cast<AxReaderWriterFile const*>(reader))
@@ -186,13 +186,20 @@ AxReaderWriter* TextReading::part(AxReaderWriter& parent, TextItem list)
     AxReaderWriter* const member = registry != nullptr && !keyword.isNull() ? registry->find(keyword) : nullptr;
     if (member != nullptr)
     {
-        readInto(*member, std::string(list.source()));
+        if (!isRead)
+        {
+            readInto(*member, std::string(list.source()));
+        }
         return member;
     }
     auto* const elements = dynamic_cast<AxRwList*>(reader);
     if (elements == nullptr)
     {
         return nullptr;
+    }
+    if (isRead && elements->count() == 1)
+    {
+        return elements->firstElement();
     }
     // What leads the list, such as the range of a row, is read before its elements.
     std::string text = "(list";

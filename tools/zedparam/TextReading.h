@@ -33,8 +33,9 @@ public:
     std::vector<AxDiagnostic> const& findingsOfFile() const { return myFindingsOfFile; }
 
     /// The member, element or content of `parent` that reads `list`, having read it anew; what was read into that
-    /// member, or into other elements, before is gone. Null when the library would only keep the list.
-    AxReaderWriter* part(AxReaderWriter& parent, TextItem list);
+    /// member, or into other elements, before is gone. It need not where the parent read `list` last, and nothing else
+    /// into that member: `isRead`. Null when the library would only keep the list.
+    AxReaderWriter* part(AxReaderWriter& parent, TextItem list, bool isRead = false);
     /// Lets a member read a list in place of what it has read; false, with findings, when it does not take all of it.
     bool readInto(AxReaderWriter& member, std::string const& list);
 
