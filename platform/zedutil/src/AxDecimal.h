@@ -11,8 +11,10 @@
 /// and nothing taken, for any other and for one that is not certain to be a number. The text must end in another byte.
 inline char const* axTakeDecimal(char const* const begin, double& value)
 {
-    static constexpr double powers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                        1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    static constexpr double powers[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
+                                        1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19};
+    constexpr std::ptrdiff_t mostDigits = 19;                   // that 64 bits hold
+    constexpr std::uint64_t mostExact = std::uint64_t{1} << 53; // no double leaves out a whole number up to here
     char const* at = begin;
     bool const isNegative = *at == '-';
     at += isNegative ? 1 : 0;
@@ -38,8 +40,8 @@ inline char const* axTakeDecimal(char const* const begin, double& value)
     {
         return nullptr;
     }
-    // Up to 15 digits the quotient of two exact numbers is the nearest double.
-    if (count <= 15)
+    // The quotient of two exact numbers is the nearest double.
+    if (count <= mostDigits && digits <= mostExact)
     {
         double const magnitude = static_cast<double>(digits) / powers[decimals];
         value = isNegative ? -magnitude : magnitude;

@@ -10,6 +10,7 @@
 #include "AxSinkScope.h"
 #include "AxStreams.h"
 #include "AxlSyntaxError.h"
+#include "Decimals.h"
 #include "platform/sxp/Cells.h"
 
 namespace
@@ -80,15 +81,9 @@ TEST(AxcRead, TellsNumbersFromSymbols)
 TEST(AxcRead, ReadsEveryDecimalToTheNearestDouble)
 {
     std::mt19937 engine(3);
-    auto pick = [&](unsigned count) { return static_cast<unsigned>(engine() % count); };
     for (int round = 0; round < 20000; ++round)
     {
-        std::string text = pick(3) == 0 ? "-" : "";
-        for (unsigned digits = 1 + pick(20), point = pick(20); digits != 0; --digits)
-        {
-            text += static_cast<char>('0' + pick(10));
-            text += digits == point ? "." : "";
-        }
+        std::string const text = anyDecimal(engine);
         double slowly = 0.0;
         ASSERT_TRUE(axParseReal(text, slowly));
         AxlObjPtr cell = cellsOf(text);

@@ -13,9 +13,13 @@
 #include "AxRwVector.h"
 #include "AxSinkScope.h"
 #include "AxlFunctions.h"
+#include "Decimals.h"
 #include "platform/zedutil/Reading.h"
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -89,6 +93,20 @@ TEST(AxReaderWriter, ReadsWhatItWrites)
     EXPECT_EQ(copy.writtenText(), std::string(text).replace(1, 10, "copy"));
     copy.spares.lookup("left")->cylinders = 3;
     EXPECT_FALSE(copy == tank);
+}
+
+TEST(AxReaderWriter, ReadsEveryDecimalToTheNearestDouble)
+{
+    std::mt19937 engine(5);
+    Vehicle vehicle;
+    for (int round = 0; round < 20000; ++round)
+    {
+        std::string const text = anyDecimal(engine);
+        ASSERT_TRUE(readFrom(vehicle, "(v (mass " + text + "))")) << text;
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(vehicle.mass.value()),
+                  std::bit_cast<std::uint64_t>(std::strtod(text.c_str(), nullptr)))
+            << text;
+    }
 }
 
 TEST(AxReaderWriter, ReportsEachFaultAtItsPlaceAndReadsItsNeighbours)
