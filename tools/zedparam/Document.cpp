@@ -5,9 +5,9 @@
 
 #include "AxDiagnostic.h"
 #include "AxEnvXMLReader.h"
+#include "AxReaderWriterFile.h"
+#include "AxRwList.h"
 #include "Database.h"
-#include "ElementSource.h"
-#include "Member.h"
 #include "ReadFile.h"
 #include "RecordFile.h"
 #include "TextReading.h"
@@ -56,22 +56,32 @@ std::vector<Document> textDocuments(std::string const& file, TextTree const& tre
              .owner = reading}};
 }
 
-/// The last list of the step's head in `parent` where there is one in all, else that at the step's index.
-Item const* stepInto(Item const& parent, PathStep const& step, int side, AxReaderWriter const* member)
+/// What reads the items below a member: where a file stands in between, its content.
+AxReaderWriter* readerOf(AxReaderWriter* member)
 {
-    Item const* found = nullptr;
-    std::size_t index = 0;
-    for (Item const& item : parent.items)
+    auto const* file = dynamic_cast<AxReaderWriterFile const*>(member);
+    return file != nullptr && file->content() != nullptr ? readerOf(file->content()) : member;
+}
+
+/// Calls `visit(name, member)` for each member and element.
+template <class Visit>
+void forEachMember(AxReaderWriter& parent, Visit const& visit)
+{
+    AxReaderWriterRegistry const* const registry = parent.registryIfAny();
+    for (std::size_t i = 0; registry != nullptr && i < registry->size(); ++i)
     {
-        bool const isMeant =
-            item.isList() && (item.text == step.head ||
-                              (member != nullptr && member->hasAlias(AxSymbolString(std::string_view(item.text)))));
-        if (isMeant && (step.isOnly || index++ <= step.index[side]))
+        AxRegistryEntry const entry = registry->entry(i);
+        if (!entry.content && !entry.keyword.isNull())
         {
-            found = &item;
+            visit(entry.keyword.view(), entry.member);
         }
     }
-    return found;
+    auto const* list = dynamic_cast<AxRwList const*>(&parent);
+    for (AxListItem const* item = list != nullptr ? list->first() : nullptr; item != nullptr; item = item->next())
+    {
+        AxReaderWriter* const element = AxRwList::element(item);
+        visit(element->name().view(), element);
+    }
 }
 
 TextTree::Place valuePlace(Item const& item)
@@ -160,19 +170,74 @@ TextTree::Place DocumentPlaces::placeOf(Difference const& difference, int side)
     return myDocument.element ? inElement(difference.path, side) : inText(difference.path, side);
 }
 
-AxReaderWriter* DocumentPlaces::objectAt(ItemPath const& path, int side) const
+AxReaderWriter* DocumentPlaces::objectAt(std::span<PathStep const> path, int side) const
 {
     AxReaderWriter* object = myDocument.object;
     for (PathStep const& step : path)
     {
-        object = object == nullptr || step.index[side] == PathStep::theNone
-                     ? nullptr
-                     : memberOf(*object, step.head, step.isOnly ? 0 : step.index[side]);
+        bool const isThere = object != nullptr && step.index[side] != PathStep::theNone;
+        object = isThere ? memberAt(*readerOf(object), step, side) : nullptr;
     }
     return object;
 }
 
-TextTree::Place DocumentPlaces::inText(ItemPath const& path, int side)
+AxReaderWriter* DocumentPlaces::memberAt(AxReaderWriter& parent, PathStep const& step, int side) const
+{
+    std::size_t left = step.isOnly ? 0 : step.index[side];
+    auto const* list = dynamic_cast<AxRwList const*>(&parent);
+    if (list != nullptr && list->count() >= static_cast<int>(myMembers.theShortest))
+    {
+        std::vector<AxReaderWriter*> const& named =
+            myMembers.find(&parent, step.head, [&parent](auto const& add) { forEachMember(parent, add); });
+        return left < named.size() ? named[left] : nullptr;
+    }
+    AxReaderWriter* found = nullptr;
+    forEachMember(parent,
+                  [&](std::string_view name, AxReaderWriter* member)
+                  {
+                      if (found == nullptr && name == step.head && left-- == 0)
+                      {
+                          found = member;
+                      }
+                  });
+    return found;
+}
+
+/// The last list of the step's head in `parent` where there is one in all, else that at the step's index.
+Item const* DocumentPlaces::itemAt(Item const& parent, PathStep const& step, int side, AxReaderWriter const* member)
+{
+    if (parent.items.size() >= myItems.theShortest && (member == nullptr || member->aliases().empty()))
+    {
+        auto const addAll = [&parent](auto const& add)
+        {
+            for (Item const& item : parent.items)
+            {
+                if (item.isList())
+                {
+                    add(item.text, &item);
+                }
+            }
+        };
+        std::vector<Item const*> const& named = myItems.find(&parent, step.head, addAll);
+        bool const isLast = step.isOnly || step.index[side] >= named.size();
+        return named.empty() ? nullptr : isLast ? named.back() : named[step.index[side]];
+    }
+    Item const* found = nullptr;
+    std::size_t index = 0;
+    for (Item const& item : parent.items)
+    {
+        bool const isMeant =
+            item.isList() && (item.text == step.head ||
+                              (member != nullptr && member->hasAlias(AxSymbolString(std::string_view(item.text)))));
+        if (isMeant && (step.isOnly || index++ <= step.index[side]))
+        {
+            found = &item;
+        }
+    }
+    return found;
+}
+
+TextTree::Place DocumentPlaces::inText(std::span<PathStep const> path, int side)
 {
     if (myText == nullptr)
     {
@@ -184,10 +249,8 @@ TextTree::Place DocumentPlaces::inText(ItemPath const& path, int side)
     Item const* here = &mySource;
     for (std::size_t i = 0; i < path.size(); ++i)
     {
-        AxReaderWriter const* const member =
-            objectAt(ItemPath(path.begin(), path.begin() + static_cast<std::ptrdiff_t>(i) + 1), side);
-        Item const* const next =
-            path[i].index[side] != PathStep::theNone ? stepInto(*here, path[i], side, member) : nullptr;
+        bool const isThere = path[i].index[side] != PathStep::theNone;
+        Item const* const next = isThere ? itemAt(*here, path[i], side, objectAt(path.first(i + 1), side)) : nullptr;
         if (next == nullptr)
         {
             return here->place;
@@ -197,17 +260,20 @@ TextTree::Place DocumentPlaces::inText(ItemPath const& path, int side)
     return path.empty() ? here->place : valuePlace(*here);
 }
 
-TextTree::Place DocumentPlaces::inElement(ItemPath const& path, int side) const
+TextTree::Place DocumentPlaces::inElement(std::span<PathStep const> path, int side)
 {
     static AxReaderWriter const unknown(AxSymbolString(), nullptr);
+    if (!myElement)
+    {
+        myElement.emplace(myDocument.element);
+    }
     std::vector<SourceStep> steps;
     AxEnvValue const* found = myDocument.element.get();
     for (std::size_t i = 0; i < path.size() && path[i].index[side] != PathStep::theNone; ++i)
     {
-        AxReaderWriter const* const member =
-            objectAt(ItemPath(path.begin(), path.begin() + static_cast<std::ptrdiff_t>(i) + 1), side);
+        AxReaderWriter const* const member = objectAt(path.first(i + 1), side);
         steps.push_back({AxSymbolString(std::string_view(path[i].head)), member != nullptr ? member : &unknown});
-        AxEnvValue const* const next = ElementSource(myDocument.element).value(steps);
+        AxEnvValue const* const next = myElement->value(steps);
         found = next != nullptr ? next : found;
     }
     return {found->line(), found->column()};

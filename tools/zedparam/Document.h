@@ -1,12 +1,16 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "AxEnvironment.h"
 #include "AxReaderWriter.h"
 #include "Differences.h"
+#include "ElementSource.h"
+#include "NameIndex.h"
 
 /// One object of a file, or all of it, to be held against its like in whatever notation.
 struct Document
@@ -56,13 +60,18 @@ public:
     /// The place of an item's value; of what is not there, that of what it would stand in.
     TextTree::Place placeOf(Difference const& difference, int side);
     /// What is read at the path; null when nothing is known of it.
-    AxReaderWriter* objectAt(ItemPath const& path, int side) const;
+    AxReaderWriter* objectAt(std::span<PathStep const> path, int side) const;
 
 private:
-    TextTree::Place inText(ItemPath const& path, int side);
-    TextTree::Place inElement(ItemPath const& path, int side) const;
+    AxReaderWriter* memberAt(AxReaderWriter& parent, PathStep const& step, int side) const;
+    Item const* itemAt(Item const& parent, PathStep const& step, int side, AxReaderWriter const* member);
+    TextTree::Place inText(std::span<PathStep const> path, int side);
+    TextTree::Place inElement(std::span<PathStep const> path, int side);
 
     Document const& myDocument;
+    mutable NameIndex<AxReaderWriter> myMembers;
+    std::optional<ElementSource> myElement;
     std::unique_ptr<TextTree> myText;
     Item mySource;
+    NameIndex<Item const> myItems;
 };

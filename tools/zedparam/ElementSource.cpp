@@ -24,41 +24,16 @@ AxEnvObject const* objectIn(AxEnvValuePtr const& node)
     return node->isObject() ? static_cast<AxEnvObject const*>(node.get()) : nullptr;
 }
 
-AxEnvValue const* valueBelow(AxEnvObject const& object, std::span<SourceStep const> path)
+constexpr char const* theVariableSet = "variableBindings";
+
+bool isVariableSet(AxEnvObject const& element)
 {
-    if (path.size() == 1)
-    {
-        for (AxEnvObject::Attribute const& attribute : object.attributes())
-        {
-            if (matches(path.front(), attribute.name))
-            {
-                return attribute.value.get();
-            }
-        }
-    }
-    int occurrence = 0;
-    for (AxEnvValuePtr const& node : object.children())
-    {
-        AxEnvObject const* const child = objectIn(node);
-        AxEnvValue const* found = nullptr;
-        if (child != nullptr && matches(path.front(), elementName(*child)))
-        {
-            if (path.front().occurrence != SourceStep::theLast && occurrence++ != path.front().occurrence)
-            {
-                continue;
-            }
-            found = path.size() == 1 ? child : valueBelow(*child, path.subspan(1));
-        }
-        else if (child != nullptr && child->type() == "variableBindings")
-        {
-            found = valueBelow(*child, path);
-        }
-        if (found != nullptr)
-        {
-            return found;
-        }
-    }
-    return nullptr;
+    return element.type() == theVariableSet;
+}
+
+bool isLong(AxEnvObject const& element)
+{
+    return element.children().size() >= NameIndex<AxEnvObject const>::theShortest;
 }
 
 /// What names the definition of a system.
@@ -210,8 +185,17 @@ AxEnvValue const* ElementSource::variable(std::string_view name) const
     for (AxEnvValuePtr const& node : myElement->children())
     {
         AxEnvObject const* const set = objectIn(node);
-        if (set == nullptr || set->type() != "variableBindings")
+        if (set == nullptr || !isVariableSet(*set))
         {
+            continue;
+        }
+        if (isLong(*set))
+        {
+            std::vector<AxEnvObject const*> const& named = children(*set, name);
+            if (!named.empty())
+            {
+                return named.front();
+            }
             continue;
         }
         for (AxEnvValuePtr const& variable : set->children())
@@ -272,6 +256,79 @@ void ElementSource::forEachRepeatedName(std::function<void(AxEnvObject const& el
             }
         }
     }
+}
+
+std::vector<AxEnvObject const*> const& ElementSource::children(AxEnvObject const& object, std::string_view name) const
+{
+    auto const addAll = [&object](auto const& add)
+    {
+        for (AxEnvValuePtr const& node : object.children())
+        {
+            if (AxEnvObject const* const child = objectIn(node))
+            {
+                add(elementName(*child).string(), child);
+                if (isVariableSet(*child))
+                {
+                    add(theVariableSet, child);
+                }
+            }
+        }
+    };
+    return myByName.find(&object, name, addAll);
+}
+
+AxEnvValue const* ElementSource::valueBelow(AxEnvObject const& object, std::span<SourceStep const> path) const
+{
+    SourceStep const& step = path.front();
+    if (path.size() == 1)
+    {
+        for (AxEnvObject::Attribute const& attribute : object.attributes())
+        {
+            if (matches(step, attribute.name))
+            {
+                return attribute.value.get();
+            }
+        }
+    }
+    auto const valueIn = [&](AxEnvObject const& child) -> AxEnvValue const*
+    { return path.size() == 1 ? &child : valueBelow(child, path.subspan(1)); };
+    // Values of systems may stand in the sets of variables among their children.
+    bool const isOfOneName = !step.keyword.isNull() && step.rw->aliases().empty();
+    if (isOfOneName && isLong(object) && children(object, theVariableSet).empty())
+    {
+        std::vector<AxEnvObject const*> const& named = children(object, step.keyword.view());
+        if (step.occurrence != SourceStep::theLast)
+        {
+            auto const wanted = static_cast<std::size_t>(step.occurrence);
+            return wanted < named.size() ? valueIn(*named[wanted]) : nullptr;
+        }
+        AxEnvValue const* found = nullptr;
+        for (auto child = named.begin(); found == nullptr && child != named.end(); ++child)
+        {
+            found = valueIn(**child);
+        }
+        return found;
+    }
+    int occurrence = 0;
+    for (AxEnvValuePtr const& node : object.children())
+    {
+        AxEnvObject const* const child = objectIn(node);
+        AxEnvValue const* found = nullptr;
+        if (child != nullptr && matches(step, elementName(*child)))
+        {
+            bool const isWanted = step.occurrence == SourceStep::theLast || occurrence++ == step.occurrence;
+            found = isWanted ? valueIn(*child) : nullptr;
+        }
+        else if (child != nullptr && isVariableSet(*child))
+        {
+            found = valueBelow(*child, path);
+        }
+        if (found != nullptr)
+        {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 Source ElementSource::text() const

@@ -3,8 +3,10 @@
 #include <functional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "AxEnvironment.h"
+#include "NameIndex.h"
 #include "Source.h"
 
 /// What an element is called where it is read: its name, else its type, else its tag.
@@ -15,7 +17,11 @@ AxString const& elementName(AxEnvObject const& element);
 class ElementSource
 {
 public:
-    explicit ElementSource(AxEnvValuePtr const& element) : myElement(element->castToObject()) {}
+    /// Of nothing at all when it is null.
+    explicit ElementSource(AxEnvValuePtr const& element)
+        : myElement(element != nullptr ? element->castToObject() : AxEnvObjectPtr())
+    {
+    }
 
     AxEnvValue const* value(std::span<SourceStep const> path) const;
     /// What binds the variable for all of the record.
@@ -30,5 +36,9 @@ public:
     Source text() const;
 
 private:
+    std::vector<AxEnvObject const*> const& children(AxEnvObject const& object, std::string_view name) const;
+    AxEnvValue const* valueBelow(AxEnvObject const& object, std::span<SourceStep const> path) const;
+
     AxEnvObjectPtr myElement;
+    mutable NameIndex<AxEnvObject const> myByName; // the children of long elements
 };

@@ -129,7 +129,7 @@ private:
     /// Where the first value stands that is shown, else where the record begins.
     Place placeOf(RecordWalk& walk)
     {
-        Places places;
+        myPlaces.goTo(walk.files().front());
         Place place;
         for (FindExpression::Path& path : myShown)
         {
@@ -139,10 +139,10 @@ private:
                      {
                          path.wasFound = true;
                          bool const isGiven = at.ownItem() != nullptr || at.rw().isDue();
-                         place = place.line == 0 && isGiven && at.isInRecordsOwnFile() ? places.of(at) : place;
+                         place = place.line == 0 && isGiven && at.isInRecordsOwnFile() ? myPlaces.of(at) : place;
                      });
         }
-        return place.line != 0 ? place : places.ofRecord(walk);
+        return place.line != 0 ? place : myPlaces.ofRecord(walk);
     }
 
     void printFound(AxSxpParameterDbEntry const& entry, RecordWalk& walk)
@@ -203,6 +203,7 @@ private:
     std::vector<FindExpression::Path> myShown;
     ExpressionFault myFault;
     JsonWriter myJson;
+    Places myPlaces;
     bool myHasFound = false;
 };
 

@@ -39,8 +39,8 @@ AxlObj const* bindingIn(Source const& source, std::string_view variable)
     return found;
 }
 
-FindingPlaces::FindingPlaces(std::string file, AxEnvValuePtr element, CheckedFiles& files)
-    : myFiles{std::move(file)}, myElement(std::move(element)), myCheckedFiles(files)
+FindingPlaces::FindingPlaces(std::string file, AxEnvValuePtr const& element, CheckedFiles& files)
+    : myFiles{std::move(file)}, myHasElement(element != nullptr), myElement(element), myCheckedFiles(files)
 {
 }
 
@@ -54,7 +54,7 @@ AxEnvValue const* FindingPlaces::attribute(std::string_view name, std::string_vi
 {
     if (myAttributes.empty())
     {
-        ElementSource(myElement).forEachAttribute(
+        myElement.forEachAttribute(
             [this](std::string_view key, AxEnvValue const& attribute) {
                 myAttributes.try_emplace({key, std::string_view(attribute.value().string())}, &attribute);
             });
@@ -82,7 +82,7 @@ AxDiagnostic FindingPlaces::atValue(char const* code, std::size_t file, std::vec
                                     std::string text) const
 {
     AxDiagnostic finding = warning(code, file, std::move(text));
-    return isElement(file) ? at(std::move(finding), ElementSource(myElement).value(path))
+    return isElement(file) ? at(std::move(finding), myElement.value(path))
                            : at(std::move(finding), source(file).value(path));
 }
 
@@ -117,9 +117,9 @@ AxDiagnostic FindingPlaces::atList(char const* code, std::size_t file, std::stri
 AxDiagnostic FindingPlaces::atReference(char const* code, std::string const& variable, std::string text) const
 {
     AxDiagnostic finding = warning(code, 0, std::move(text));
-    if (myElement)
+    if (myHasElement)
     {
-        finding = at(std::move(finding), ElementSource(myElement).reference(variable));
+        finding = at(std::move(finding), myElement.reference(variable));
     }
     for (std::size_t file = 0; finding.line == 0 && file < myFiles.size(); ++file)
     {
@@ -135,6 +135,6 @@ AxDiagnostic FindingPlaces::atReference(char const* code, std::string const& var
 AxDiagnostic FindingPlaces::atBinding(char const* code, std::string const& variable, std::string text) const
 {
     AxDiagnostic finding = warning(code, 0, std::move(text));
-    return myElement ? at(std::move(finding), ElementSource(myElement).variable(variable))
-                     : at(std::move(finding), bindingIn(source(0), variable));
+    return myHasElement ? at(std::move(finding), myElement.variable(variable))
+                        : at(std::move(finding), bindingIn(source(0), variable));
 }

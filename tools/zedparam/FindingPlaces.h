@@ -18,14 +18,14 @@ class CheckedFiles;
 class FindingPlaces
 {
 public:
-    FindingPlaces(std::string file, AxEnvValuePtr element, CheckedFiles& files);
+    FindingPlaces(std::string file, AxEnvValuePtr const& element, CheckedFiles& files);
 
     /// A file that the record names; answers its number.
     std::size_t add(std::string file);
     std::string const& file(std::size_t number) const { return myFiles[number]; }
     std::vector<std::string> const& files() const { return myFiles; }
-    bool isElement(std::size_t file) const { return file == 0 && myElement; }
-    ElementSource element() const { return ElementSource(myElement); }
+    bool isElement(std::size_t file) const { return file == 0 && myHasElement; }
+    ElementSource const& element() const { return myElement; }
 
     /// A warning without a place in the file.
     AxDiagnostic warning(char const* code, std::size_t file, std::string text) const;
@@ -49,7 +49,8 @@ private:
     AxEnvValue const* attribute(std::string_view name, std::string_view value) const;
 
     std::vector<std::string> myFiles;
-    AxEnvValuePtr myElement;
+    bool myHasElement;
+    ElementSource myElement;
     CheckedFiles& myCheckedFiles;
     mutable std::map<std::pair<std::string_view, std::string_view>, AxEnvValue const*> myAttributes; // once asked for
 };

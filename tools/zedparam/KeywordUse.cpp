@@ -46,7 +46,7 @@ public:
     void take(AxSxpParameterDbEntry& entry, RecordWalk& walk)
     {
         std::size_t ordinal = 0;
-        myPlaces = Places(); // of this record
+        myPlaces.goTo(walk.files().front());
         walk.run(myPath, [&](RecordWalk const& at) { take({0.0, &entry, ordinal++}, at); });
     }
 

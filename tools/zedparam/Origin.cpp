@@ -6,7 +6,6 @@
 #include "AxSystemParameterData.h"
 #include "AxZedObjectParameters.h"
 #include "Collection.h"
-#include "ElementSource.h"
 #include "Json.h"
 #include "PathText.h"
 #include "ShownPath.h"
@@ -170,18 +169,32 @@ Origin Origins::ofDefault(RecordWalk const& at)
     {
         return origin;
     }
+    noteDeclared(at.steps().first(system));
+    auto const declared = myDeclared.find({at.steps()[system - 1].rw, at.keyword().string().string()});
+    origin.place = declared != myDeclared.end() ? declared->second : Place();
+    return origin;
+}
+
+/// Notes what the definitions of a system and of those beside it declare.
+void Origins::noteDeclared(std::span<SourceStep const> toSystem)
+{
+    std::span<SourceStep const> const toList = toSystem.first(toSystem.size() - 1);
+    if (!myListsOfSystems.insert(toList.empty() ? nullptr : toList.back().rw).second)
+    {
+        return;
+    }
     RecordWalk walk = Collection::walkThrough(myDatabase, myEntry, myRecord);
-    walk.run(pathOf(at.steps().first(system), "system-definition/meta-data/parameter-data-list/*/default-value"),
+    walk.run(pathOf(toList, "*/system-definition/meta-data/parameter-data-list/*/default-value"),
              [&](RecordWalk const& declared)
              {
-                 auto const* data =
-                     dynamic_cast<AxSystemParameterData const*>(declared.steps()[declared.steps().size() - 2].rw);
-                 if (data != nullptr && at.keyword() == data->parameterName())
+                 std::span<SourceStep const> const steps = declared.steps();
+                 auto const* data = dynamic_cast<AxSystemParameterData const*>(steps[steps.size() - 2].rw);
+                 if (data != nullptr)
                  {
-                     origin.place = myPlaces.of(declared);
+                     AxReaderWriter const* const system = steps[toList.size()].rw;
+                     myDeclared[{system, data->parameterName().string()}] = myPlaces.of(declared);
                  }
              });
-    return origin;
 }
 
 AxlObj const* Origins::cellOf(std::string const& variable, Place& place)
@@ -190,7 +203,7 @@ AxlObj const* Origins::cellOf(std::string const& variable, Place& place)
                                 {AxSymbolString(std::string_view(variable)), &myRecord}};
     if (AxEnvValuePtr const& element = myRecord.objectNode())
     {
-        if (AxEnvValue const* const node = ElementSource(element).variable(variable))
+        if (AxEnvValue const* const node = myPlaces.element(element).variable(variable))
         {
             place = {Database::fileOf(myEntry), node->line(), node->column()};
             return AxlObj::nilCell();

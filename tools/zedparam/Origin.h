@@ -1,6 +1,10 @@
 #pragma once
 
+#include <map>
+#include <set>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Places.h"
@@ -49,6 +53,7 @@ public:
 
 private:
     Origin ofDefault(RecordWalk const& at);
+    void noteDeclared(std::span<SourceStep const> toSystem);
     Origin ofInherited(RecordWalk const& at);
     void bind(std::string variable, RecordWalk const& at, Origin& origin);
     AxlObj const* cellOf(std::string const& variable, Place& place);
@@ -58,4 +63,6 @@ private:
     AxSxpParameterDbEntry const& myEntry;
     AxZedObjectParameters& myRecord;
     Places myPlaces;
+    std::map<std::pair<AxReaderWriter const*, std::string>, Place> myDeclared; ///< parameters of systems by their names
+    std::set<AxReaderWriter const*> myListsOfSystems;                          ///< whose parameters those are
 };

@@ -1,7 +1,6 @@
 #include "Places.h"
 
 #include "AxZedObjectParameters.h"
-#include "ElementSource.h"
 #include "Json.h"
 #include "RecordWalk.h"
 #include "ShownPath.h"
@@ -25,12 +24,17 @@ void Place::write(JsonWriter& json) const
     }
 }
 
+void Places::goTo(std::string const& recordFile)
+{
+    std::erase_if(mySources, [&](auto const& source) { return source.first != recordFile; });
+}
+
 Place Places::of(RecordWalk const& at)
 {
     AxEnvValuePtr const& element = at.record().objectNode();
     if (at.isInRecordsOwnFile() && element)
     {
-        AxEnvValue const* const node = ElementSource(element).value(at.stepsInFile());
+        AxEnvValue const* const node = Places::element(element).value(at.stepsInFile());
         return {shownPath(at.file()), node != nullptr ? node->line() : 0, node != nullptr ? node->column() : 0};
     }
     return Places::at(at.file(), valueIn(at.file(), at.stepsInFile()));
@@ -63,6 +67,16 @@ Place Places::at(std::string const& file, AxlObj const* cell)
 bool Places::hasRead(RecordWalk const& at)
 {
     return (at.isInRecordsOwnFile() && at.record().objectNode()) || source(at.file()).isRead();
+}
+
+ElementSource const& Places::element(AxEnvValuePtr const& element)
+{
+    if (element != myElement)
+    {
+        myElement = element;
+        myElementSource = ElementSource(element);
+    }
+    return myElementSource;
 }
 
 Source const& Places::source(std::string const& file)

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "AxEnvironment.h"
+#include "ElementSource.h"
 #include "Source.h"
 
 class JsonWriter;
@@ -23,10 +24,12 @@ struct Place
     void write(JsonWriter& json) const;
 };
 
-/// Tells where the values of records stand. Keeps the files it has read for as long as it lives.
+/// Tells where the values of records stand. Keeps the files it has read.
 class Places
 {
 public:
+    /// For a record of that file: keeps that file alone, so that what is kept does not grow from record to record.
+    void goTo(std::string const& recordFile);
     /// The value at which the walk stands; the file alone when it does not stand there.
     Place of(RecordWalk const& at);
     /// What follows the keywords in a file of parameter text.
@@ -38,9 +41,13 @@ public:
     /// The same of a file of parameter text.
     bool hasRead(std::string const& file) { return source(file).isRead(); }
     static Place at(std::string const& file, AxlObj const* cell);
+    /// Of a record that was read from it; until another is asked for.
+    ElementSource const& element(AxEnvValuePtr const& element);
 
 private:
     Source const& source(std::string const& file);
 
     std::map<std::string, Source> mySources;
+    AxEnvValuePtr myElement;
+    ElementSource myElementSource{myElement};
 };

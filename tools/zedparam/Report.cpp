@@ -277,7 +277,12 @@ private:
         }
         std::string out = "<h2 id=\"connections\">Connections</h2>\n";
         std::string svg;
-        if (myHasDot && drawDot(graphDot(graph), svg))
+        constexpr std::size_t theMostDrawn = 500; // more takes minutes to lay out, and nobody can read it
+        if (graph.size() > theMostDrawn)
+        {
+            out += "<p>" + std::to_string(graph.size()) + " parts and connections are too many for a picture.</p>\n";
+        }
+        else if (myHasDot && drawDot(graphDot(graph), svg))
         {
             out += "<figure class=\"graph scroll\" tabindex=\"0\" role=\"region\" aria-label=\"Picture of the "
                    "connections\">\n" +

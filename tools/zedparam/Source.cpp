@@ -19,24 +19,15 @@ bool matches(SourceStep const& step, AxlObj const& item)
            (step.keyword.isNull() || head.text() == step.keyword.view() || step.rw->hasAlias(head.symbol()));
 }
 
-AxlObj const* valueBelow(AxlObj const* items, std::span<SourceStep const> path)
+bool isLong(AxlObj const* items)
 {
-    AxlObj const* found = nullptr;
-    int occurrence = 0;
-    for (; items->isPair(); items = items->cdr())
+    std::size_t count = 0;
+    while (items->isPair() && count < NameIndex<AxlObj const>::theShortest)
     {
-        AxlObj const& item = *items->car();
-        int const wanted = path.front().occurrence;
-        if (!matches(path.front(), item) || (wanted != SourceStep::theLast && occurrence++ != wanted))
-        {
-            continue;
-        }
-        AxlObj const* const value = path.size() > 1        ? valueBelow(item.cdr(), path.subspan(1))
-                                    : item.cdr()->isPair() ? item.cdr()->car()
-                                                           : &item;
-        found = value != nullptr ? value : found;
+        items = items->cdr();
+        ++count;
     }
-    return found;
+    return count == NameIndex<AxlObj const>::theShortest;
 }
 
 /// The first cell, each before what is in it, for which `accept` answers a cell: that cell.
@@ -84,6 +75,52 @@ void Source::parse(std::string text)
 AxlObj const* Source::value(std::span<SourceStep const> path) const
 {
     return path.empty() ? nullptr : valueBelow(myExpression->cdr(), path);
+}
+
+AxlObj const* Source::valueBelow(AxlObj const* items, std::span<SourceStep const> path) const
+{
+    SourceStep const& step = path.front();
+    auto const valueIn = [&](AxlObj const& item)
+    {
+        return path.size() > 1        ? valueBelow(item.cdr(), path.subspan(1))
+               : item.cdr()->isPair() ? item.cdr()->car()
+                                      : &item;
+    };
+    bool const isOfOneName = !step.keyword.isNull() && step.rw->aliases().empty();
+    if (isOfOneName && isLong(items))
+    {
+        auto const addAll = [&](auto const& add)
+        {
+            for (AxlObj const* rest = items; rest->isPair(); rest = rest->cdr())
+            {
+                add(rest->car()->car()->text(), rest->car());
+            }
+        };
+        std::vector<AxlObj const*> const& named = myByName.find(items, step.keyword.view(), addAll);
+        if (step.occurrence != SourceStep::theLast)
+        {
+            auto const wanted = static_cast<std::size_t>(step.occurrence);
+            return wanted < named.size() ? valueIn(*named[wanted]) : nullptr;
+        }
+        AxlObj const* value = nullptr;
+        for (auto item = named.rbegin(); value == nullptr && item != named.rend(); ++item)
+        {
+            value = valueIn(**item);
+        }
+        return value;
+    }
+    AxlObj const* found = nullptr;
+    int occurrence = 0;
+    for (; items->isPair(); items = items->cdr())
+    {
+        AxlObj const& item = *items->car();
+        if (matches(step, item) && (step.occurrence == SourceStep::theLast || occurrence++ == step.occurrence))
+        {
+            AxlObj const* const value = valueIn(item);
+            found = value != nullptr ? value : found;
+        }
+    }
+    return found;
 }
 
 AxlObj const* Source::reference(std::string_view variable) const

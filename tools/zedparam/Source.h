@@ -10,6 +10,7 @@
 
 #include "AxSymbolString.h"
 #include "AxlObj.h"
+#include "NameIndex.h"
 
 class AxReaderWriter;
 struct AxDiagnostic;
@@ -64,8 +65,10 @@ private:
     using ListsByWords = std::map<WordPair, AxlObj const*>;
 
     void parse(std::string text);
+    AxlObj const* valueBelow(AxlObj const* items, std::span<SourceStep const> path) const;
 
     AxlObjPtr myExpression;
+    mutable NameIndex<AxlObj const> myByName;      // the items of long lists
     mutable std::optional<ListsByWords> myByHead;  // and second word
     mutable std::optional<ListsByWords> myByWords; // the second and the third
     bool myIsRead = true;

@@ -99,6 +99,16 @@ std::vector<std::string> SystemGraph::ports() const
     return names;
 }
 
+std::size_t SystemGraph::size() const
+{
+    std::size_t count = components.size() + wires.size();
+    for (SystemGraph const& system : systems)
+    {
+        count += 1 + system.size();
+    }
+    return count;
+}
+
 SystemGraph graphOf(AxZedObjectParameters& record)
 {
     SystemGraph graph;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,8 @@ struct SystemGraph
 
     /// Ports on its boundary: those that its own wires use.
     std::vector<std::string> ports() const;
+    /// How many components, systems and wires there are in all.
+    std::size_t size() const;
     bool empty() const { return components.empty() && systems.empty() && wires.empty(); }
 };
 
