@@ -2,6 +2,7 @@
 
 #include "AxFaultAt.h"
 #include "AxNumberText.h"
+#include "AxReadFrame.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxlFunctions.h"
@@ -9,6 +10,7 @@
 #include "axTryNew.h"
 
 #include <cmath>
+#include <memory>
 #include <unordered_map>
 
 static AxTypeEntry<AxPrbRangeList> const prbRangeListEntry;
@@ -38,6 +40,41 @@ static void reportReplacedRows(AxlObj const* rows)
                                             text + " is replaced by a later one of the same range"));
         }
     }
+}
+
+/// While the list is being read, once it is long: how its rows stand, if that is known.
+static AxReadFrame::Order* orderOf(AxPrbRangeList const& list)
+{
+    AxReadFrame const* const frame = AxReadFrame::innermost;
+    bool const isRead = frame && &frame->record == &list && frame->ordered;
+    return isRead && frame->ordered->changeCount == list.changeCount() ? frame->ordered.get() : nullptr;
+}
+
+/// The first row whose range is not below, of a list that has such a row.
+static AxListItem* firstFrom(AxPrbRangeList const& list, double range)
+{
+    constexpr int theLongestSearched = 64;
+    AxReadFrame* const frame = AxReadFrame::innermost;
+    if (frame && &frame->record == &list && list.count() > theLongestSearched)
+    {
+        if (!orderOf(list))
+        {
+            auto order = std::make_unique<AxReadFrame::Order>();
+            for (AxListItem* item = list.first(); item; item = item->next())
+            {
+                order->items.emplace_hint(order->items.end(), AxPrbRangeList::row(item)->range(), item);
+            }
+            order->changeCount = list.changeCount();
+            frame->ordered = std::move(order);
+        }
+        return frame->ordered->items.lower_bound(range)->second;
+    }
+    AxListItem* item = list.first();
+    while (AxPrbRangeList::row(item)->range() < range)
+    {
+        item = item->next();
+    }
+    return item;
 }
 
 AxPrbRangeList::AxPrbRangeList(AxPrbRangeList const& other) : AxRwList(other)
@@ -129,30 +166,29 @@ void AxPrbRangeList::addTableEntry(AxPrbRangeTableEntry* added)
         AxWarn("Memory allocation failed in AxPrbRangeList::addTableEntry()\n");
         return;
     }
+    std::unique_ptr<AxPrbRangeTableEntry> owned(added);
     double const range = added->range();
     if (std::isnan(range))
     {
         AxDiagnostics::report(axFaultAt(AxSeverity::Error, "wrong-kind", AxlObj::nilCell(),
                                         "a row whose range is no number cannot be added"));
-        delete added;
         return;
     }
-    if (isEmpty() || range > row(last())->range())
-    {
-        addToEnd(added);
-        return;
-    }
-    AxListItem* item = first();
-    while (row(item)->range() < range)
-    {
-        item = item->next();
-    }
+    AxListItem* const item = isEmpty() || range > row(last())->range() ? nullptr : firstFrom(*this, range);
+    AxPrbRangeTableEntry* const replaced = item && row(item)->range() == range ? row(item) : nullptr;
+    AxReadFrame::Order* const order = orderOf(*this);
     addBefore(added, item);
-    AxPrbRangeTableEntry* const next = row(item);
-    if (next->range() == range)
+    owned.release();
+    AxListItem* const place = item ? item->previous() : last();
+    if (replaced)
     {
-        remove(next, item);
-        delete next;
+        remove(replaced, item);
+        delete replaced;
+    }
+    if (order)
+    {
+        order->items.insert_or_assign(range, place);
+        order->changeCount = changeCount();
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -49,6 +50,12 @@ struct AxReadFrame
         std::unordered_map<std::string, AxListItem*> items{};
         std::uint32_t changeCount = 0;
     };
+    /// The same of a list that stands in the order of a number.
+    struct Order
+    {
+        std::map<double, AxListItem*> items{};
+        std::uint32_t changeCount = 0;
+    };
 
     AxReaderWriter& record;
     AxReadFrame* outer;
@@ -57,6 +64,7 @@ struct AxReadFrame
     std::array<std::uint64_t, 4> few{};
     std::vector<std::uint64_t> many{};
     std::unique_ptr<Index> keyed{};
+    std::unique_ptr<Order> ordered{};
 
     static AxReadFrame* innermost;
 
