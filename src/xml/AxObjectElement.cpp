@@ -30,7 +30,7 @@ AxObjectType typeOf(AxEnvObjectPtr const& element, bool reports)
     if (!isEmpty && !AxObjectType::fromString(text.string(), type) && reports)
     {
         AxElement::report(*element, AxSeverity::Error, "wrong-kind",
-                          "expected 7 or 8 numbers for an object type, found \"" + text.string() + '"');
+                          "expected 7 or 8 whole numbers for an object type, found \"" + text.string() + '"');
     }
     return type;
 }

@@ -48,7 +48,7 @@ struct ZEDOBJPARAM_API AxRwElement<AxObjectType>
     static bool read(AxlObj const*& items, AxObjectType& value, AxEmbeddedReferences& references);
     static void write(std::string& out, AxObjectType const& value);
     static bool same(AxObjectType const& a, AxObjectType const& b) { return a == b; }
-    static char const* expected() { return "object types of 7 or 8 numbers, each in parentheses"; }
+    static char const* expected() { return "object types of 7 or 8 whole numbers, each in parentheses"; }
     static char const* xmlType() { return "objectTypes"; }
     static constexpr bool isSet = false;
 };

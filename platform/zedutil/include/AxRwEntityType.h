@@ -23,6 +23,6 @@ public:
     static bool readValue(AxlObj const*& items, AxEntityType& value);
     static void writeValue(std::string& out, AxEntityType const& value);
     static char const* typeName() { return "AxRwEntityType"; }
-    static char const* expected() { return "7 numbers for an entity type"; }
+    static char const* expected() { return "7 whole numbers for an entity type"; }
     static bool same(AxEntityType const& a, AxEntityType const& b) { return a == b; }
 };

@@ -38,6 +38,6 @@ public:
     static bool readValue(AxlObj const*& items, AxObjectType& value);
     static void writeValue(std::string& out, AxObjectType const& value);
     static char const* typeName() { return "AxRwObjectType"; }
-    static char const* expected() { return "7 or 8 numbers for an object type"; }
+    static char const* expected() { return "7 or 8 whole numbers for an object type"; }
     static bool same(AxObjectType const& a, AxObjectType const& b) { return a == b; }
 };

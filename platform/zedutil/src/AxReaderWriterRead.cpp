@@ -66,15 +66,15 @@ std::string found(AxlObj const* cell)
     return text;
 }
 
-/// How many items there are when all are numbers, else 0.
-std::size_t numberOfNumbers(AxlObj const* items)
+/// How many numbers the items begin with; `rest` is what follows these.
+std::size_t numberOfNumbers(AxlObj const* items, AxlObj const*& rest)
 {
     std::size_t count = 0;
-    for (; items->isPair() && items->car()->isNumber(); items = items->cdr())
+    for (rest = items; rest->isPair() && rest->car()->isNumber(); rest = rest->cdr())
     {
         ++count;
     }
-    return items->isPair() ? 0 : count;
+    return count;
 }
 
 AxDiagnostic diagnostic(AxSeverity severity, char const* code, AxlObj const* place, std::string text)
@@ -371,7 +371,12 @@ void AxReaderWriter::reportUnknown(AxlObj const* head, std::string_view word)
 void AxReaderWriter::reject(AxlObj const* items, std::string const& expected)
 {
     setFlag(Rejected, true);
-    AxlObj const* const cell = items->tag() == AxlObj::Tag::Pair ? items->car() : items;
+    bool const isSeveral = !expected.starts_with("a ");
+    AxlObj const* rest = items;
+    std::size_t const numbers = numberOfNumbers(items, rest);
+    bool const isCutShort = isSeveral && numbers > 0 && rest->isPair(); // by what is no number
+    AxlObj const* const at = isCutShort ? rest : items;
+    AxlObj const* const cell = at->isPair() ? at->car() : at;
     std::string now;
     putData(now, 0);
     bool const isTooLarge = cell->isSymbol() && axIsNumber(cell->text());
@@ -382,9 +387,9 @@ void AxReaderWriter::reject(AxlObj const* items, std::string const& expected)
     bool const isNamed = !name().isNull() || !AxReadFrame::innermost;
     AxSymbolString const owner = isNamed ? name() : AxReadFrame::innermost->record.AxReaderWriter::name();
     std::string text = '"' + owner.string().string() + "\" expects " + expected + ", found ";
-    if (std::size_t const count = numberOfNumbers(items); count > 1 && !expected.starts_with("a "))
+    if (isSeveral && numbers > 1 && !isCutShort)
     {
-        text += std::to_string(count) + " numbers";
+        text += std::to_string(numbers) + " numbers";
     }
     else
     {

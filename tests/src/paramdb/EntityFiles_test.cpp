@@ -206,7 +206,7 @@ TEST_F(EntityFiles, AFaultGivesOneLineAndTheRestLoads)
         {"<f>\n<simObject/></f>", "bad.entity:2:1: warning: the element has no object type and no match type, so that "
                                   "nothing finds it [no-object-type]"},
         {"<f>\n<simObject><objectType value=\"1:x\"/></simObject></f>",
-         "bad.entity:2:12: error: expected 7 or 8 numbers for an object type, found \"1:x\" [wrong-kind]"},
+         "bad.entity:2:12: error: expected 7 or 8 whole numbers for an object type, found \"1:x\" [wrong-kind]"},
         {"<f>" + object(exact("1:1:1:225:1:1:4:0"), "") + "\n" + object(exact("1:1:1:225:1:1:4:0"), "") + "</f>",
          "bad.entity:2:1: warning: the type 1:1:1:225:1:1:4:0 stands in the file before; the later element answers "
          "[repeated-type]"},
