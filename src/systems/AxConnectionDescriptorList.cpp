@@ -1,6 +1,7 @@
 #include "AxConnectionDescriptorList.h"
 
 #include "AxFaultAt.h"
+#include "AxIsForeign.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxlObj.h"
@@ -162,6 +163,7 @@ AxlObjPtr AxConnectionDescriptorList::getData(AxlObjPtr const& item, AxFilenameL
         keepElement(item.get());
         return item;
     }
+    axReportMisspelt(item.get(), AxConnectionDescriptor::elementWord());
     std::unique_ptr<AxConnectionDescriptor> connection(axTryNew<AxConnectionDescriptor>(AxSymbolString(), nullptr));
     if (!connection)
     {

@@ -3,6 +3,7 @@
 #include "AxDeterminantWord.h"
 #include "AxDmgAngleOfIncidenceRangeCalcTable.h"
 #include "AxDmgAngleOfIncidenceRangeLookupTable.h"
+#include "AxIsForeign.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 
@@ -115,6 +116,7 @@ AxlObjPtr AxDmgSurfaceEntry::getData(AxlObjPtr const& item, AxFilenameList const
         keepElement(item.get());
         return item;
     }
+    axReportMisspelt(item.get(), AxDmgAngleOfIncidenceTable::elementWord());
     made->getSelf(item, files, bindings);
     addAngleOfIncidenceTable(made.release());
     return item;

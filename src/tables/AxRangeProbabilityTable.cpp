@@ -4,6 +4,7 @@
 #include "AxDetectionPrbRangeLookupEntry.h"
 #include "AxDeterminantWord.h"
 #include "AxGuarded.h"
+#include "AxIsForeign.h"
 #include "AxReaderWriterFactory.h"
 #include "AxStreams.h"
 #include "AxTypeLookup.h"
@@ -104,6 +105,7 @@ AxlObjPtr AxRangeProbabilityTable::getData(AxlObjPtr const& item, AxFilenameList
         keepElement(item.get());
         return item;
     }
+    axReportMisspelt(item.get(), AxRangeProbEntry::elementWord());
     made->getSelf(item, files, bindings);
     addDetectionProbabilityEntry(made);
     return item;
