@@ -60,6 +60,7 @@ private:
         int superType;
     };
     ElementType const* elementType(AxSymbolString head) const;
+    void reportUnknown(AxlObj const* head) const;
     AxSymbolString headFor(AxObjectType const& type) const;
     void writeRecord(AxZedObjectParameters& record, std::string& out, int indent, bool all,
                      AxFilename const& file) const;
@@ -68,6 +69,7 @@ private:
 
     std::vector<ElementType> myElementTypes;
     AxString myCurrentElementType;
+    AxlObj const* myElement = nullptr; // while it is read
     std::unique_ptr<AxTypeIndex> myIndex;
     bool myTypesAreKnown = false; // while the list is read, nobody else has its records
 };

@@ -1,5 +1,6 @@
 #include "AxZedObjectParametersList.h"
 
+#include "AxNearest.h"
 #include "AxParameterDbFiles.h"
 #include "AxReaderWriterFactory.h"
 #include "AxRwObjectType.h"
@@ -24,6 +25,19 @@ AxObjectType const* typeOfData(void const* data)
 {
     auto const* const rw = static_cast<AxReaderWriter const*>(data);
     return &static_cast<AxZedObjectParameters const*>(rw)->objectType();
+}
+
+bool saysItsType(AxlObj const* element)
+{
+    for (AxlObj const* items = element->cdr(); items->isPair(); items = items->cdr())
+    {
+        std::string_view const head = items->car()->car()->text();
+        if (head == "object-type" || head == "match-type")
+        {
+            return true;
+        }
+    }
+    return false;
 }
 } // namespace
 
@@ -132,7 +146,18 @@ AxZedObjectParameters* AxZedObjectParametersList::lookupParameters(AxObjectType 
 
 void AxZedObjectParametersList::removeParameters(AxObjectType const& type)
 {
-    AxWarn << "Removing entry for type " << type.string() << AxEndl;
+    if (myElement)
+    {
+        std::string const text = type.string().string();
+        AxDiagnostics::reportStated(axFaultAt("repeated-type", myElement->line(), myElement->column(),
+                                              "the type " + text + " has an element already; this one answers instead",
+                                              AxSeverity::Warning),
+                                    "Removing entry for type " + text + '\n');
+    }
+    else
+    {
+        AxWarn << "Removing entry for type " << type.string() << AxEndl;
+    }
     AxListItem* const item = lookupParameters(type);
     if (item && recordOf(item)->objectType() == type)
     {
@@ -195,9 +220,7 @@ AxlObjPtr AxZedObjectParametersList::getData(AxlObjPtr const& item, AxFilenameLi
     ElementType const* const known = elementType(AxSymbolString(myCurrentElementType));
     if (!known && !myElementTypes.empty())
     {
-        AxDiagnostics::report(axFaultAt("unknown-element", head->line(), head->column(),
-                                        "unknown element \"" + myCurrentElementType.string() + '"',
-                                        AxSeverity::Warning));
+        reportUnknown(head);
         keepElement(item.get());
         return item;
     }
@@ -208,14 +231,41 @@ AxlObjPtr AxZedObjectParametersList::getData(AxlObjPtr const& item, AxFilenameLi
         keepElement(item.get());
         return item;
     }
+    if (!saysItsType(item.get()))
+    {
+        AxDiagnostics::report(axFaultAt("no-object-type", item->line(), item->column(),
+                                        "expected (object-type ...) in the element, which no type finds",
+                                        AxSeverity::Warning));
+    }
     AxObjectType type = record->objectType();
     if (type.superType() == 0 && known)
     {
         type.setSuperType(known->superType);
         record->setObjectType(type);
     }
+    struct Reading
+    {
+        AxlObj const*& element;
+        ~Reading() { element = nullptr; }
+    } const reading{myElement = item.get()};
     addParameters(record);
     return item;
+}
+
+void AxZedObjectParametersList::reportUnknown(AxlObj const* head) const
+{
+    std::vector<std::string_view> heads;
+    for (ElementType const& known : myElementTypes)
+    {
+        heads.push_back(known.head.view());
+    }
+    AxDiagnostic unknown = axFaultAt("unknown-element", head->line(), head->column(),
+                                     "unknown element \"" + head->pname().string() + '"', AxSeverity::Warning);
+    if (std::string_view const nearest = axNearest(head->pname().string(), heads); !nearest.empty())
+    {
+        unknown.hint = "did you mean \"" + std::string(nearest) + "\"?";
+    }
+    AxDiagnostics::report(std::move(unknown));
 }
 
 AxSymbolString AxZedObjectParametersList::headFor(AxObjectType const& type) const
