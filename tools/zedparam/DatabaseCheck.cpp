@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <filesystem>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -86,7 +87,7 @@ public:
         }
         std::vector<std::filesystem::path> const tables = tableFiles(myDatabase);
         checked.tables = checkTables(tables, myFiles, myFindings);
-        checkUnusedFiles(myFile, myDatabase, tables, myFiles, myFindings);
+        checkUnusedFiles(myFile, myDatabase, tables, myUnopened, myFiles, myFindings);
         myFiles.forEachNamed(
             [this](std::string const& named)
             {
@@ -114,6 +115,10 @@ private:
         {
             myFiles.enter(file);
         }
+        else
+        {
+            myUnopened.push_back(std::filesystem::path(myFile).parent_path() / entry.filename().native());
+        }
         if (record != nullptr)
         {
             checkRecord(file, *record, Variables::AllKnown, myFiles, myFindings);
@@ -128,6 +133,7 @@ private:
     std::string myFile;
     Database& myDatabase;
     Findings& myFindings;
+    std::vector<std::filesystem::path> myUnopened; // files of entries
     CheckedFiles myFiles;
     DatabaseVariables myVariables;
 };

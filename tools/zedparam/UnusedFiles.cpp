@@ -98,6 +98,15 @@ public:
         }
     }
 
+    /// Files that are named and cannot be opened.
+    void drop(std::vector<fs::path> const& unopened)
+    {
+        for (fs::path const& file : unopened)
+        {
+            myUnused.erase(wholePath(fs::absolute(file).parent_path()) / file.filename());
+        }
+    }
+
     bool hasOtherDatabases(fs::path const& databaseFile) const
     {
         std::error_code ignored;
@@ -141,7 +150,7 @@ private:
 } // namespace
 
 void checkUnusedFiles(std::string const& databaseFile, Database const& database, std::vector<fs::path> const& tables,
-                      CheckedFiles const& files, Findings& findings)
+                      std::vector<fs::path> const& unopened, CheckedFiles const& files, Findings& findings)
 {
     UnusedFiles unused(databaseFile, files);
     if (!database.entries().empty() && !unused.hasOtherDatabases(databaseFile))
@@ -149,6 +158,7 @@ void checkUnusedFiles(std::string const& databaseFile, Database const& database,
         unused.addTables(tables);
         unused.addNeighbours();
     }
+    unused.drop(unopened);
     for (fs::path const& file : unused.found())
     {
         AxDiagnostic finding;
