@@ -159,19 +159,21 @@ struct ExplainOptions
 int explain(ExplainOptions const& options)
 {
     std::vector<Meaning> const meanings = meaningsOf(options.keyword);
-    if (meanings.empty())
-    {
-        tellUnknown(options.keyword);
-        return HasFindings;
-    }
     if (options.json)
     {
         JsonWriter json;
         writeMeanings(json, meanings);
         json.print();
-        return Fine;
     }
-    printMeanings(meanings);
+    else
+    {
+        printMeanings(meanings);
+    }
+    if (meanings.empty())
+    {
+        tellUnknown(options.keyword);
+        return HasFindings;
+    }
     return Fine;
 }
 
@@ -181,7 +183,8 @@ int explainUse(ExplainOptions const& options)
     bool const isPath = options.keyword.find('/') != std::string::npos;
     KeywordPath path;
     std::string fault;
-    if (!KeywordPath::parse(isPath ? options.keyword : "**/" + options.keyword, path, fault))
+    if (!KeywordPath::parse(options.keyword, path, fault) ||
+        (!isPath && !KeywordPath::parse("**/" + options.keyword, path, fault)))
     {
         std::fprintf(stderr, "zedparam: %s\n", fault.c_str());
         return CouldNotRun;

@@ -149,6 +149,10 @@ int printFound(AxModelSet const& models, ModelsOptions const& options, TypeArgum
         std::fprintf(stderr, "zedparam: no model of %s %s %s\n", options.path.c_str(),
                      options.label.empty() ? "fits" : "is called",
                      (options.label.empty() ? options.type : options.label).c_str());
+        if (options.json)
+        {
+            JsonWriter().null().print();
+        }
         return HasFindings;
     }
     if (auto* group = dynamic_cast<Group*>(found); group != nullptr && group->simulationObjects().empty())

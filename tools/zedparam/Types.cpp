@@ -129,6 +129,10 @@ int listTypes(TypesOptions const& options)
     }
     else if (TypeInfo const* const type = typeNamed(options.name); type == nullptr)
     {
+        if (options.json)
+        {
+            json.null().print();
+        }
         return HasFindings;
     }
     else if (options.json)
