@@ -136,7 +136,7 @@ int convertRecords(ConvertOptions const& options)
     {
         std::fputs(text.c_str(), stdout);
     }
-    else if (!writeFile(options.output, text))
+    else if (!writeMade(options.output, text, {&options.file, 1}))
     {
         return CouldNotRun;
     }

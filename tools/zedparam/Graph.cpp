@@ -102,7 +102,7 @@ int drawGraph(GraphOptions const& options)
                              "graphviz has it\n");
         return CouldNotRun;
     }
-    if (!writeFile(options.output, drawn))
+    if (!writeMade(options.output, drawn, {&options.file, 1}))
     {
         return CouldNotRun;
     }

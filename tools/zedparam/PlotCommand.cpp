@@ -82,7 +82,7 @@ int plot(PlotOptions const& options)
     }
     if (!options.output.empty())
     {
-        if (!writeFile(options.output, plotSvg(drawing, true)))
+        if (!writeMade(options.output, plotSvg(drawing, true), options.files))
         {
             return CouldNotRun;
         }

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
 #include "AxFilename.h"
 #include "AxReplaceFile.h"
@@ -15,4 +17,19 @@ bool writeFile(std::string const& file, std::string_view text)
         return false;
     }
     return true;
+}
+
+bool writeMade(std::string const& file, std::string_view text, std::span<std::string const> sources)
+{
+    for (std::string const& source : sources)
+    {
+        std::error_code ignored;
+        if (std::filesystem::equivalent(file, source, ignored))
+        {
+            std::fprintf(stderr, "zedparam: \"%s\" is the file that is read; expected another one to write\n",
+                         file.c_str());
+            return false;
+        }
+    }
+    return writeFile(file, text);
 }
