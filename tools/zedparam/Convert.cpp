@@ -16,6 +16,7 @@
 #include "Json.h"
 #include "RecordFile.h"
 #include "RecordJson.h"
+#include "RecordText.h"
 #include "WriteFile.h"
 
 namespace
@@ -47,7 +48,7 @@ std::string asSameEntities(Records const& records)
 std::string asText(AxZedObjectParameters& record)
 {
     AxZedXmlUtils::keepOthers(record, false);
-    return record.writtenText();
+    return recordText(record);
 }
 
 /// The type of an object is told by the database that lists its parameter file.
@@ -73,7 +74,7 @@ std::string asJson(Records const& records)
     for (auto const& record : records)
     {
         json.beginObject();
-        json.member("name", record->AxReaderWriter::name().view()).member("kind", record->type().string());
+        json.member("name", record->AxReaderWriter::name().view()).member("kind", record->parameterType().string());
         if (!record->objectType().isNull())
         {
             json.member("object-type", record->objectType().string().string());

@@ -15,6 +15,7 @@
 #include "AxZedObjectParameters.h"
 #include "AxZedXmlUtils.h"
 #include "Database.h"
+#include "RecordText.h"
 
 namespace
 {
@@ -84,7 +85,7 @@ bool replaceElement(AxZedObjectParameters const& record)
 
 bool TextWriter::writeParameterFile(AxFilename const& file, AxZedObjectParameters* record) const
 {
-    return writeText(file, record->writtenText());
+    return writeText(file, recordText(*record));
 }
 
 EntityWriter::EntityWriter(Database const& database, fs::path const& target)

@@ -14,6 +14,7 @@
 #include "Database.h"
 #include "Progress.h"
 #include "ReadFile.h"
+#include "RecordText.h"
 #include "Tables.h"
 
 namespace
@@ -209,7 +210,7 @@ private:
         {
             addFilesOf(*mySides[side], *records[side].get(), mySeen[side]);
         }
-        if (records[0].get()->writtenText() != records[1].get()->writtenText())
+        if (recordText(*records[0].get()) != recordText(*records[1].get()))
         {
             compareDocuments(a.objectType().string().string(), records[0].document(), records[1].document(), myOptions,
                              myReport);

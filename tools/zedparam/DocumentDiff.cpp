@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "RecordText.h"
+
 namespace
 {
 /// What a record or a text of no known kind is called; the head of other files is free.
@@ -31,8 +33,7 @@ void compareDocuments(std::string const& subject, Document const& a, Document co
         return;
     }
     bool const areEntities = a.hasParts && b.hasParts;
-    if (!areEntities && a.object != nullptr && b.object != nullptr &&
-        a.object->writtenText() == b.object->writtenText())
+    if (!areEntities && a.object != nullptr && b.object != nullptr && recordText(*a.object) == recordText(*b.object))
     {
         return;
     }

@@ -11,6 +11,7 @@
 #include "AxRwUnsigned.h"
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
+#include "RecordText.h"
 #include "RecordWalk.h"
 
 namespace
@@ -82,6 +83,7 @@ AxlObjPtr ownItems(AxReaderWriter& rw)
 {
     std::string text = "(";
     rw.putData(text, 0);
+    tellType(rw, text);
     AxlInputStream stream(text + ")");
     return AxcRead(stream);
 }

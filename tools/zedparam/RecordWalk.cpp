@@ -18,6 +18,7 @@
 #include "AxlFunctions.h"
 #include "NamedElement.h"
 #include "PathText.h"
+#include "RecordText.h"
 #include "RecordValue.h"
 
 namespace
@@ -313,12 +314,12 @@ void RecordWalk::ownWords(AxReaderWriter& rw, Steps rest)
     myOwnText.assign("(");
     if (isType)
     {
-        // What the record was made as; its class may write another.
         myOwnText.append("(parameter-type \"").append(myRecord->parameterType().string()).append("\")");
     }
     else
     {
         rw.putData(myOwnText, 0);
+        tellType(rw, myOwnText);
     }
     if (myOwnText.find('(', 1) == std::string::npos || myOwnText.find(neededText(rest)) == std::string::npos)
     {

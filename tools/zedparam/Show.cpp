@@ -18,6 +18,7 @@
 #include "Origin.h"
 #include "PathText.h"
 #include "RecordJson.h"
+#include "RecordText.h"
 #include "RecordValue.h"
 #include "RecordWalk.h"
 
@@ -128,7 +129,7 @@ void printText(RecordWalk const& at, bool all)
     AxKeyword const* description = rw.description();
     if (description != nullptr && text.find('\n') == std::string::npos)
     {
-        text.append("  ; ").append(rw.valueSpecified() ? "" : "default, ");
+        text.append("  ; ").append(rw.valueSpecified() ? "" : rw.inherited() ? "inherited, " : "default, ");
         text.append(description->unit).append(*description->unit != '\0' ? ", " : "").append(description->help);
     }
     std::printf("%s\n", text.c_str());
@@ -249,7 +250,7 @@ int show(ShowOptions const& options)
     }
     else if (paths.empty())
     {
-        std::printf("%s", answer.record->writtenText(options.all).c_str());
+        std::printf("%s", recordText(*answer.record, options.all).c_str());
     }
     for (KeywordPath const& path : paths)
     {
