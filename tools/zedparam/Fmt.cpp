@@ -86,6 +86,14 @@ bool layOut(std::string const& file, std::string const& text, std::string& out, 
         std::fprintf(stderr, "%s:1:1: error: the file holds nothing to lay out [empty-file]\n", file.c_str());
         return false;
     }
+    if (!tree.root().isList())
+    {
+        auto const [line, column] = tree.root().place();
+        AxDiagnostic fault{.code = "not-a-list", .file = file, .line = line, .column = column};
+        fault.text = "expected a list (name item...), found " + std::string(tree.root().source().substr(0, 40));
+        std::fprintf(stderr, "%s\n", fault.format().c_str());
+        return false;
+    }
     TextReading reading(file);
     out = laidOut(tree, reading);
     errors = Findings::errorsAmong(reading.findingsOfFile());
