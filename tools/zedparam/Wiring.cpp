@@ -88,9 +88,9 @@ private:
             return;
         }
         auto const system = mySystems.find(part);
-        if (system != mySystems.end() && isDefined(*system->second) && colon != end.size())
+        if (system != mySystems.end() && isDefined(*system->second))
         {
-            checkPort(wire, *system->second, end.substr(colon + 1), isSource);
+            checkPort(wire, *system->second, end.substr(std::min(colon + 1, end.size())), isSource);
         }
     }
 
@@ -105,9 +105,12 @@ private:
         }
         if (!ports.contains(port))
         {
+            std::string const name = '"' + system.AxReaderWriter::name().string().string() + '"';
+            std::string const kind = isSource ? "output" : "input";
             myReport(WireFault{"unknown-port",
-                               "the system \"" + system.AxReaderWriter::name().string().string() + "\" has no " +
-                                   (isSource ? "output" : "input") + " \"" + std::string(port) + '"',
+                               port.empty()
+                                   ? "no " + kind + " of the system " + name + " is named"
+                                   : "the system " + name + " has no " + kind + " \"" + std::string(port) + '"',
                                hintFor(port, {ports.begin(), ports.end()}), wire});
         }
     }
