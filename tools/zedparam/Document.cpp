@@ -10,6 +10,7 @@
 #include "Database.h"
 #include "ReadFile.h"
 #include "RecordFile.h"
+#include "RecordText.h"
 #include "TextReading.h"
 
 namespace
@@ -133,7 +134,7 @@ DocumentTree::DocumentTree(Document const& document, bool all)
     std::string text;
     if (document.object != nullptr)
     {
-        text = document.object->writtenText(all);
+        text = recordText(*document.object, all);
     }
     else
     {

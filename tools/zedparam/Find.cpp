@@ -42,7 +42,8 @@ void reportFault(std::string const& expression, ExpressionFault const& fault)
 }
 
 /// Tells of the keywords that nothing had, but for those in `told`; often they are misspelt. `who` was asked for them.
-void reportUnknown(std::vector<FindExpression::Path> const& paths, char const* who, std::set<std::string>& told)
+void reportUnknown(std::vector<FindExpression::Path> const& paths, char const* who, bool isOfTheExpression,
+                   std::set<std::string>& told)
 {
     for (FindExpression::Path const& path : paths)
     {
@@ -62,10 +63,15 @@ void reportUnknown(std::vector<FindExpression::Path> const& paths, char const* w
         std::string_view const nearest = axNearest(path.keywords.last(), candidates);
         KeywordStep const& last = path.keywords.steps().back().text;
         bool const isNarrowed = last.position != 0 || !last.identity.empty(); // the keyword may well be right
-        bool const isMisspelt = !isNarrowed && !nearest.empty() && nearest != path.keywords.last();
-        std::fprintf(stderr,
-                     isMisspelt ? "zedparam: no %s has \"%s\"; did you mean \"%s\"?\n" : "zedparam: no %s has \"%s\"\n",
-                     who, path.keywords.text().c_str(), std::string(nearest).c_str());
+        bool const isKnown = nearest == path.keywords.last();
+        bool const isOneStep = path.keywords.steps().size() == 1 && !isNarrowed;
+        std::string const asked = path.keywords.text();
+        std::string const hint = isKnown && isOneStep             ? "; \"**/" + asked + "\" is it at any depth"
+                                 : isKnown || isNarrowed          ? ""
+                                 : !nearest.empty()               ? "; did you mean \"" + std::string(nearest) + "\"?"
+                                 : isOneStep && isOfTheExpression ? "; texts stand in quotes"
+                                                                  : "";
+        std::fprintf(stderr, "zedparam: no %s has \"%s\"%s\n", who, asked.c_str(), hint.c_str());
     }
 }
 
@@ -104,10 +110,10 @@ private:
     void tellWhatIsOdd() const
     {
         std::set<std::string> told;
-        reportUnknown(myExpression.paths(), "record", told);
+        reportUnknown(myExpression.paths(), "record", true, told);
         if (myHasFound && !myOptions.keywords.empty())
         {
-            reportUnknown(myShown, "record that was found", told);
+            reportUnknown(myShown, "record that was found", false, told);
         }
         for (std::string const& line : myExpression.futile())
         {
@@ -168,7 +174,8 @@ private:
         std::string unit;
         unitOf(at, unit);
         line.append(unit.empty() ? "" : " ").append(unit);
-        line.append(at.ownItem() != nullptr || at.rw().isDue() ? "" : " (default)");
+        bool const isGiven = at.ownItem() != nullptr || at.rw().isDue();
+        line.append(isGiven ? "" : at.rw().inherited() ? " (inherited)" : " (default)");
     }
 
     void writeFound(AxSxpParameterDbEntry const& entry, RecordWalk& walk)
@@ -194,7 +201,7 @@ private:
         {
             myJson.member("unit", unit);
         }
-        myJson.key("default").boolean(at.ownItem() == nullptr && !at.rw().isDue());
+        myJson.key("default").boolean(at.ownItem() == nullptr && !at.rw().isDue() && !at.rw().inherited());
         myJson.endObject();
     }
 

@@ -1,7 +1,9 @@
 #include "KeywordUse.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
+#include <iterator>
 #include <memory>
 #include <set>
 
@@ -239,7 +241,13 @@ void writeValue(JsonWriter& json, UsedValue const& value)
 
 double KeywordUse::median() const
 {
-    return quantile(numbers, 0.5);
+    // Halfway between two decimals, without what their binary form adds.
+    double const halfway = quantile(numbers, 0.5);
+    char text[32];
+    auto const written = std::to_chars(std::begin(text), std::end(text), halfway, std::chars_format::general, 15);
+    double rounded = halfway;
+    std::from_chars(std::begin(text), written.ptr, rounded);
+    return rounded;
 }
 
 KeywordUses usesOf(KeywordPath const& path, Database const& database, bool& isComplete)
