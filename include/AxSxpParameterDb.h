@@ -98,6 +98,15 @@ public:
     /// Registers a dependent pair for each entry whose record was not read and whose file would not be found from a
     /// database file in `directory`, so that a save to there takes the file along. Answers how many.
     int addUnloadedFilesToCopyPairs(AxFilename const& directory);
+    /// What became of the entries that loads found below data roots. Unless they are untouched, a data root in a saved
+    /// file would at the next load bring back what was edited, removed or replaced here.
+    enum class DataRoots
+    {
+        Untouched,
+        Read,   ///< records of some are held, and saved as parameter files
+        Changed ///< some were removed or replaced
+    };
+    DataRoots dataRoots() const;
     /// Items of loaded files that nothing understood, written back by a save. Null when there are none.
     AxSxpParameterDbFileData const* unreadItems() const { return myUnreadItems.get(); }
     /// Takes over what `data` could not read.
@@ -114,12 +123,14 @@ private:
     friend class AxSxpParameterDbReader;
 
     AxFilename fileTableName(AxFilename const& file) const;
+    void noteDataRoot(AxFilename const& databaseFile);
 
     std::unique_ptr<AxSxpParameterDbReader> myReader;
     std::unique_ptr<AxSxpParameterDbWriter> myWriter;
     int myVersionNumber;
     std::list<VariableBindingsPtr> myVariableBindings;
     CopyPairs myCopyPairs;
+    std::map<AxString, int> myNumsFromDataRoots; // by the database file that binds the data root
     std::vector<AxFilename> mySearchPaths;
     std::unique_ptr<AxRemoteConfigurationList> myRemoteConfigurationList;
     RemoteConfigurationListCreator myListCreator;

@@ -99,17 +99,9 @@ AxSavedVariables::AxSavedVariables(AxSxpParameterDb const& db, AxRwVariableBindi
     {
         all.set(name, *bound.find(name));
     }
-    for (AxListItem const* item = db.parameterList().first(); item && !isBound; item = item->next())
-    {
-        // The scan at the next load would put the entity file's record over the one that is written.
-        auto const* const entry =
-            dynamic_cast<AxSxpParameterDbEntry const*>(static_cast<AxZedParameterDbEntry const*>(item->data()));
-        if (entry && !entry->temporary() && entry->parameters() && entry->filename().extension() == "entity")
-        {
-            myIsDataRootLeftOut = all.remove(theDataRoot);
-            break;
-        }
-    }
+    // The scan at the next load would put the entity files' records over those that are written.
+    myIsDataRootLeftOut =
+        !isBound && db.dataRoots() != AxSxpParameterDb::DataRoots::Untouched && all.remove(theDataRoot);
     std::vector<AxSymbolString> settled;
     for (AxSxpParameterDb::VariableBindingsPtr const& set : db.variableBindings())
     {

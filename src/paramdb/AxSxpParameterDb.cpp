@@ -1,5 +1,6 @@
 #include "AxSxpParameterDb.h"
 
+#include "AxEntryOrigin.h"
 #include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
 #include "AxReadWholeFile.h"
@@ -59,6 +60,20 @@ bool copyTree(fs::path const& from, fs::path const& to)
         isComplete = copyFile(walk->path(), target) && isComplete && !error && !fault;
     }
     return isComplete && !error;
+}
+
+template <class Use>
+void forEachEntry(AxList const& list, Use const& use)
+{
+    for (AxListItem const* item = list.first(); item; item = item->next())
+    {
+        auto const* const entry =
+            dynamic_cast<AxSxpParameterDbEntry const*>(static_cast<AxZedParameterDbEntry const*>(item->data()));
+        if (entry)
+        {
+            use(*entry);
+        }
+    }
 }
 } // namespace
 
@@ -451,6 +466,37 @@ int AxSxpParameterDb::addUnloadedFilesToCopyPairs(AxFilename const& directory)
         }
     }
     return count;
+}
+
+void AxSxpParameterDb::noteDataRoot(AxFilename const& databaseFile)
+{
+    int& count = myNumsFromDataRoots[databaseFile.string()];
+    count = 0;
+    forEachEntry(parameterList(),
+                 [&](AxSxpParameterDbEntry const& entry)
+                 {
+                     bool const isOfFile = entry.isFromDataRoot() && *entry.origin()->databaseFile == databaseFile;
+                     count += isOfFile ? 1 : 0;
+                 });
+}
+
+AxSxpParameterDb::DataRoots AxSxpParameterDb::dataRoots() const
+{
+    bool isAnyRead = false;
+    int numMissing = 0;
+    for (auto const& [databaseFile, count] : myNumsFromDataRoots)
+    {
+        numMissing += count;
+    }
+    forEachEntry(parameterList(),
+                 [&](AxSxpParameterDbEntry const& entry)
+                 {
+                     bool const isOfRoot = entry.isFromDataRoot();
+                     bool const isWritten = entry.parameters() && !entry.temporary();
+                     numMissing -= isOfRoot ? 1 : 0;
+                     isAnyRead = isAnyRead || (isWritten && (isOfRoot || entry.filename().extension() == "entity"));
+                 });
+    return isAnyRead ? DataRoots::Read : numMissing != 0 ? DataRoots::Changed : DataRoots::Untouched;
 }
 
 void AxSxpParameterDb::keepUnreadItems(AxSxpParameterDbFileData const& data)

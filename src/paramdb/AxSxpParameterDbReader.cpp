@@ -355,6 +355,10 @@ bool AxSxpParameterDbReader::putFileDataInParameterDb(AxSxpParameterDbFileData c
         entryAddedFor(fileEntry, entry);
     }
     addPlainUpTo(count);
+    if (myDatabaseFile && data.variableBindings().find("data-root"))
+    {
+        db->noteDataRoot(*myDatabaseFile);
+    }
     db->keepUnreadItems(data);
     AxRemoteConfigurationList const* const read = data.remoteConfigurationList();
     if (read && db->remoteConfigurationList())

@@ -268,9 +268,12 @@ bool AxSxpParameterDbWriter::writeFiles(AxSxpParameterDb& db, AxFilename const& 
     }
     else if (variables.isDataRootLeftOut())
     {
-        AxDiagnostics::report(axFault(
-            "data-root-dropped", file,
-            "\"data-root\" is left out, records of entity files are written as parameter files", AxSeverity::Info));
+        bool const isAnyRead = db.dataRoots() == AxSxpParameterDb::DataRoots::Read;
+        AxDiagnostics::report(axFault("data-root-dropped", file,
+                                      std::string("\"data-root\" is left out, ") +
+                                          (isAnyRead ? "records of entity files are written as parameter files"
+                                                     : "its entity files hold what was removed or replaced"),
+                                      AxSeverity::Info));
     }
     return isWritten;
 }

@@ -268,6 +268,45 @@ TEST_F(EntityFiles, SavedRecordsBecomeParameterFilesAndTheDataRootGoes)
     EXPECT_EQ(warned(), "");
 }
 
+TEST_F(EntityFiles, WhatWasChangedIsNotUndoneByTheDataRootOfASavedDatabase)
+{
+    AxObjectType const trucks = typeOf(theTrucks);
+    put("data/a.entity", object(exact(theTank), "max-speed=\"2\""));
+    put("data/b.entity", object(exact(theTrucks), "max-speed=\"3\""));
+    ASSERT_TRUE(load(putDatabase()));
+    AxFilename const file(path("d.opd"));
+    auto const expect = [&](char const* change, double speed)
+    {
+        SCOPED_TRACE(change);
+        ASSERT_TRUE(db.save(file));
+        ASSERT_TRUE(db.save(file)) << "once more";
+        AxSxpParameterDb saved;
+        saved.init();
+        ASSERT_TRUE(saved.load(file));
+        EXPECT_EQ(typesOf(saved), typesOf(db));
+        EXPECT_EQ(speedOf(saved, tank), speed);
+        EXPECT_EQ(speedOf(saved, trucks), 3.0);
+    };
+    db.remove(tank);
+    expect("removed", -1.0);
+
+    ASSERT_TRUE(load(putDatabase()));
+    RecordPtr other = made("moving-object-param");
+    static_cast<AxMovingObjectParameters&>(*other).setMaxSpeed(4.0);
+    db.add(tank, other.release());
+    expect("replaced", 4.0);
+
+    ASSERT_TRUE(load(putDatabase()));
+    static_cast<AxMovingObjectParameters*>(db.lookup(tank))->setMaxSpeed(5.0);
+    expect("edited", 5.0);
+    db.removeAll();
+    ASSERT_TRUE(db.save(file));
+    AxSxpParameterDb saved;
+    saved.init();
+    ASSERT_TRUE(saved.load(file));
+    EXPECT_EQ(saved.numParameterEntries(), 0);
+}
+
 TEST_F(EntityFiles, UnloadedEntriesStayWithTheDataRoot)
 {
     put("data/a.entity", object(exact(theTank), "max-speed=\"2\""));
