@@ -187,7 +187,8 @@ public:
     using PrePutSelfCallback = void (*)(AxReaderWriter* rw, std::string& out, void* context);
     /// Called for everything that is written, just before it is; one at a time, null removes it.
     static void setPrePutSelfCallback(PrePutSelfCallback callback, void* context);
-    /// Where time stamps come from; empty: a counter that grows by one with each reading or assignment.
+    /// Where time stamps come from; empty: a counter that grows by one with each reading or assignment. What was
+    /// stamped before keeps its stamp. Where the source throws, the counter serves.
     static void setTimeSource(std::function<double()> source);
 
     /// Reads the first expression of a text that stands alone, named `sourceName` in messages.
@@ -339,6 +340,7 @@ private:
     /// Deletes the `Rest` that stands apart.
     void dropRest();
     std::uint32_t lastStamp() const { return (myFlags & RestApart) != 0 ? restOrNull()->stamp : myStampOrNumber; }
+    std::uint32_t latestStamp() const;
     void leaveOtherwise();
     /// Leaves the registry that this was entered in by pointer; there must be a `Rest`.
     void leaveParent();

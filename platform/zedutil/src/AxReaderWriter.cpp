@@ -2,8 +2,10 @@
 
 #include "AxPlainValue.h"
 #include "AxReaderWriterFactory.h"
+#include "AxReaderWriterFile.h"
 #include "AxRegistryShape.h"
 #include "AxRwList.h"
+#include "AxRwProperty.h"
 
 #include <algorithm>
 #include <boost/filesystem/operations.hpp>
@@ -425,12 +427,22 @@ bool AxReaderWriter::ourHasTimeSource = false;
 
 void AxReaderWriter::stampOtherwise()
 {
-    if (ourHasTimeSource)
+    Rare* const mine = ourHasTimeSource ? &rare() : nullptr;
+    std::uint32_t& last = (myFlags & RestApart) != 0 ? restOrNull()->stamp : myStampOrNumber;
+    last = ++ourStamp; // with a clock as well, for its times may be equal or lie below what was stamped before
+    if (!mine)
     {
-        rare().stamp = timeSource()();
         return;
     }
-    restOrNull()->stamp = ++ourStamp;
+    try
+    {
+        mine->time = timeSource()();
+        mine->timed = last;
+    }
+    catch (...)
+    {
+        mine->timed = 0; // the host's clock may throw anything; the stamp has to do
+    }
 }
 
 void AxReaderWriter::setTimeSource(std::function<double()> source)
@@ -439,10 +451,43 @@ void AxReaderWriter::setTimeSource(std::function<double()> source)
     ourHasTimeSource = static_cast<bool>(timeSource());
 }
 
+/// Of this object, its members and elements, and of what they hold besides.
+std::uint32_t AxReaderWriter::latestStamp() const
+{
+    std::uint32_t latest = lastStamp();
+    auto const include = [&latest](AxReaderWriter const* below)
+    { latest = below ? std::max(latest, below->latestStamp()) : latest; };
+    if (AxReaderWriterRegistry const* const members = registryIfAny())
+    {
+        for (std::size_t i = 0; i < members->size(); ++i)
+        {
+            AxRegistryEntry const entry = members->entry(i);
+            include(entry.content ? nullptr : entry.member);
+        }
+    }
+    if (flag(List))
+    {
+        for (AxListItem const* item = static_cast<AxRwList const*>(this)->first(); item; item = item->next())
+        {
+            include(AxRwList::element(item));
+        }
+    }
+    if (AxRwProperty const* const held = property())
+    {
+        include(held->rwValue());
+    }
+    if (auto const* const file = dynamic_cast<AxReaderWriterFile const*>(this))
+    {
+        include(file->contentKind() == AxReaderWriterFile::ContentKind::Member ? nullptr : file->content());
+    }
+    return latest;
+}
+
 double AxReaderWriter::recordUpdateTime() const
 {
     Rare const* const mine = rareOrNull();
-    double latest = std::max(static_cast<double>(lastStamp()), mine ? mine->stamp : 0.0);
+    std::uint32_t const last = lastStamp();
+    double latest = mine && mine->timed != 0 && mine->timed == last ? mine->time : last;
     if (AxReaderWriterRegistry const* const members = registryIfAny())
     {
         for (std::size_t i = 0; i < members->size(); ++i)

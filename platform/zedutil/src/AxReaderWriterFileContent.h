@@ -9,13 +9,15 @@ struct AxReaderWriterFile::Content
 {
     void takeMark()
     {
-        mark = object->recordUpdateTime();
+        note();
         isChangedForSure = false;
         hasDigest = false;
     }
     bool isChanged()
     {
-        if (isChangedForSure || object->recordUpdateTime() <= mark)
+        // A class of the host's may tell a time of its own.
+        bool const isAsNoted = object->latestStamp() <= mark && object->recordUpdateTime() == time;
+        if (isChangedForSure || isAsNoted)
         {
             return isChangedForSure;
         }
@@ -23,8 +25,13 @@ struct AxReaderWriterFile::Content
         {
             return true;
         }
-        mark = object->recordUpdateTime();
+        note();
         return false;
+    }
+    void note()
+    {
+        mark = AxReaderWriter::ourStamp; // not before any stamp that was given, and before all others
+        time = object->recordUpdateTime();
     }
     /// The state of the member that this one is copied from. A content with a keyword of its own is copied apart from
     /// its file member, which cannot be told from an edit but by what is in it.
@@ -52,7 +59,8 @@ struct AxReaderWriterFile::Content
     bool isChangedForSure = false;
     bool hasDigest = false;
     std::size_t digest = 0;
-    double mark = 0.0;
+    std::uint32_t mark = 0;
+    double time = 0.0;
     AxFilename found;           ///< the file read last
     AxFilenameList searchPaths; ///< of a name that waits for its variables
 };

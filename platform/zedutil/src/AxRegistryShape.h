@@ -175,7 +175,8 @@ struct AxReaderWriter::Rare
     std::unique_ptr<AxReaderWriter> defaultValue;
     std::vector<AxKeptItem> kept;
     std::vector<unsigned char> initial;
-    double stamp = 0.0;
+    double time = 0.0; ///< by the host's clock, of the stamp `timed`
+    std::uint32_t timed = 0;
 };
 
 inline AxReaderWriter* AxReaderWriterRegistry::at(std::size_t distance) const

@@ -338,6 +338,24 @@ TEST(AxReaderWriterFile, TellsWhetherItsContentWasChanged)
     EXPECT_FALSE(copy.rowsFile.contentChanged());
 }
 
+TEST(AxReaderWriterFile, ItsContentIsSeenToChangeByAnyClock)
+{
+    Folder const folder;
+    folder.write("a.hit", "(table (r (value 1)))");
+    for (bool const isReadByTheClock : {false, true})
+    {
+        auto const setClock = [] { AxReaderWriter::setTimeSource([] { return 0.5; }); };
+        isReadByTheClock ? setClock() : void();
+        Weapon gun("gun", nullptr);
+        readFrom(gun, "(gun (table-file \"" + folder.file("a.hit") + "\"))");
+        setClock();
+        EXPECT_FALSE(gun.tableFile.contentChanged());
+        gun.table.lookup("r")->value = 2;
+        EXPECT_TRUE(gun.tableFile.contentChanged()) << "at " << gun.table.recordUpdateTime();
+        AxReaderWriter::setTimeSource({});
+    }
+}
+
 TEST(AxReaderWriterFile, BoundVariablesAreNoChangeOfItsContent)
 {
     Folder const folder;

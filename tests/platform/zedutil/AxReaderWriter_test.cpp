@@ -22,6 +22,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
+#include <stdexcept>
 
 namespace
 {
@@ -307,6 +308,28 @@ TEST(AxReaderWriter, StampsTellWhatWasUpdatedSince)
     vehicle.mass = 1.0;
     AxReaderWriter::setTimeSource({});
     EXPECT_EQ(vehicle.recordUpdateTime(), 1e9);
+}
+
+TEST(AxReaderWriter, StampsServeWhateverTheHostsClockTells)
+{
+    ReportedFindings findings;
+    Vehicle before;
+    readFrom(before, "(v (mass heavy))");
+    AxReaderWriter::setTimeSource([] { return 0.5; });
+    Vehicle since;
+    readFrom(since, "(v (mass heavy))");
+    for (Vehicle* const vehicle : {&before, &since})
+    {
+        EXPECT_EQ(vehicle->writtenText(), "(v\n  (mass heavy))\n");
+        vehicle->mass = 12.0;
+        vehicle->mass.setValueSpecified(true, false);
+        EXPECT_EQ(vehicle->writtenText(), "(v\n  (mass 12.0))\n") << "what is set replaces the unreadable item";
+    }
+    EXPECT_EQ(since.recordUpdateTime(), 0.5);
+    AxReaderWriter::setTimeSource([]() -> double { throw std::runtime_error("clock"); });
+    EXPECT_NO_THROW(since.mass = 13.0);
+    AxReaderWriter::setTimeSource({});
+    EXPECT_TRUE(since.wasUpdatedSince(0.5)) << "the counter serves instead";
 }
 
 TEST(AxReaderWriterRegistry, KeepsBindingOrderAndLetsALaterKeywordSupersede)
