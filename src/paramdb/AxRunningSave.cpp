@@ -16,7 +16,10 @@ AxRunningSave* theCurrent = nullptr;
 } // namespace
 
 AxRunningSave::AxRunningSave(AxSxpParameterDb& db, AxFilename const& file)
-    : myDb(db), myDirectory(axDirectoryOf(file)), myFilenames(db.dependentParameterFileToCopyPairs())
+    : myDb(db),
+      myFormerVersion(db.versionNumber()),
+      myDirectory(axDirectoryOf(file)),
+      myFilenames(db.dependentParameterFileToCopyPairs())
 {
     axBindDatabaseDirectory(myDatabaseVariables, myDirectory);
     theCurrent = this;
@@ -29,6 +32,7 @@ AxRunningSave::~AxRunningSave()
     {
         return;
     }
+    myDb.setVersionNumber(myFormerVersion);
     myFilenames.takeBack();
     for (AxListItem const* item = myDb.parameterList().first(); item != nullptr; item = item->next())
     {

@@ -21,7 +21,7 @@ public:
     AxRunningSave(AxSxpParameterDb& db, AxFilename const& file);
     AxRunningSave(AxRunningSave const&) = delete;
     AxRunningSave& operator=(AxRunningSave const&) = delete;
-    /// Unless it was finished, gives the entries their former file names back.
+    /// Unless it was finished, gives the entries their former file names back, and the database its version.
     ~AxRunningSave();
 
     /// Null when none runs.
@@ -58,6 +58,7 @@ public:
 
 private:
     AxSxpParameterDb& myDb;
+    int myFormerVersion; // by which records that were not read yet are read
     AxFilename myDirectory;
     AxRwVariableBindings myDatabaseVariables{"opd-variables"};
     std::optional<AxSavedVariables> myVariables;

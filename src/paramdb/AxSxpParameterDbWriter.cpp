@@ -204,9 +204,9 @@ bool AxSxpParameterDbWriter::write(AxSxpParameterDb* db, AxFilename const& file,
 
 bool AxSxpParameterDbWriter::writeFiles(AxSxpParameterDb& db, AxFilename const& file, AxFilename const& parameterDir)
 {
-    db.setVersionNumber(theSavedVersion);
     CallbackScope const callback(&prePutSelfCb, this);
     AxRunningSave save(db, file);
+    db.setVersionNumber(theSavedVersion);
     AxFilename const dir = getPath(file);
     save.startDirectory(generateOpeDirectory(dir, parameterDir));
     copyDependentFiles(db.dependentParameterFileToCopyPairs(), save.files());
