@@ -1,5 +1,6 @@
 #include "AxRunningSave.h"
 
+#include "AxGuarded.h"
 #include "AxParameterDbFiles.h"
 #include "AxStreams.h"
 #include "AxSxpParameterDb.h"
@@ -32,15 +33,25 @@ AxRunningSave::~AxRunningSave()
     {
         return;
     }
-    myDb.setVersionNumber(myFormerVersion);
     myFilenames.takeBack();
+    // What follows may be a host's, and may throw again.
+    auto const guarded = [](auto const& step)
+    {
+        axGuarded("save-failed", AxFilename::nullFilename(), false,
+                  [&step]
+                  {
+                      step();
+                      return true;
+                  });
+    };
+    guarded([this] { myDb.setVersionNumber(myFormerVersion); });
     for (AxListItem const* item = myDb.parameterList().first(); item != nullptr; item = item->next())
     {
         auto* const entry = dynamic_cast<AxSxpParameterDbEntry*>(static_cast<AxZedParameterDbEntry*>(item->data()));
         auto const former = myFormerNames.find(entry);
         if (former != myFormerNames.end())
         {
-            entry->setFilename(former->second);
+            guarded([&] { entry->setFilename(former->second); });
         }
     }
     if (!myMadeDirectory.isNull())

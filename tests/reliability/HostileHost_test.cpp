@@ -92,6 +92,44 @@ TEST_F(HostileHost, HooksThatThrowEndTheSaveAndLeaveTheFiles)
     EXPECT_TRUE(db.save(AxFilename(path("force.opd"))));
 }
 
+TEST_F(HostileHost, WhatASaveTakesBackMayThrowToo)
+{
+    struct Entry : AxSxpParameterDbEntry
+    {
+        void setFilename(AxFilename const& file) override
+        {
+            if (!filename().isNull())
+            {
+                throw NoStandardException();
+            }
+            AxSxpParameterDbEntry::setFilename(file);
+        }
+    };
+    struct Database : AxSxpParameterDb
+    {
+        void setVersionNumber(int version) override
+        {
+            if (throwsForVersions)
+            {
+                throw NoStandardException();
+            }
+            AxSxpParameterDb::setVersionNumber(version);
+        }
+        AxZedParameterDbEntry* createParameterEntry() const override { return new Entry; }
+        bool throwsForVersions = false;
+    };
+    Database throwing;
+    throwing.init();
+    ASSERT_TRUE(throwing.loadAll(AxFilename(path("force.opd"))));
+    std::string const before = files();
+    for (bool const isOfVersion : {false, true})
+    {
+        throwing.throwsForVersions = isOfVersion;
+        EXPECT_FALSE(throwing.save(AxFilename(path("new.opd"))));
+        EXPECT_EQ(files(), before);
+    }
+}
+
 TEST_F(HostileHost, NullsHaveADefinedResult)
 {
     AxReaderWriter::factory()->copyReaderWriter(nullptr, nullptr);
