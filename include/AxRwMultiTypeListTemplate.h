@@ -138,7 +138,7 @@ private:
         {
             return T::factory()->create(type, type);
         }
-        catch (std::exception const&)
+        catch (...)
         {
             return nullptr;
         }

@@ -30,9 +30,9 @@ AxCommModelDescriptor* create(AxString const& type, AxlObj const* place)
             return made;
         }
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        AxDiagnostics::reportStated(AxTypeItem::creationFailed(place, type.string(), error.what()), stated);
+        AxDiagnostics::reportStated(AxTypeItem::creationFailed(place, type.string(), axReason()), stated);
         return nullptr;
     }
     std::vector<std::string_view> known;

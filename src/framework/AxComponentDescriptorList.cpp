@@ -40,7 +40,7 @@ struct AxComponentDescriptorList::Entry : AxTypeEntry<AxComponentDescriptorList>
                 made->init();
             }
         }
-        catch (std::exception const&)
+        catch (...)
         {
             return false; // the way by cells tries again, and reports at the place of the type
         }

@@ -35,9 +35,9 @@ auto made(AxlObj const* cell, AxString const& type, Make const& make, Use const&
         }
         return object.release();
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        reportCreationFailed(cell, type.string(), error.what());
+        reportCreationFailed(cell, type.string(), axReason());
         return nullptr;
     }
 }

@@ -261,9 +261,9 @@ bool AxZedObjectParameters::createStateRepositoryUserExtension(AxlObjPtr const& 
         {
             made.reset(extensions->create(type));
         }
-        catch (std::exception const& error)
+        catch (...)
         {
-            reason = std::string(": ") + error.what();
+            reason = std::string(": ") + axReason();
         }
         if (!made)
         {

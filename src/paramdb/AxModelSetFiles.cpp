@@ -84,9 +84,9 @@ bool parse(AxReaderWriter& rw, std::string const& text, AxFilename const& file)
     {
         return failedToParse(error.diagnostic(), file);
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        return failedToParse(axFault("read-failed", file, axReason(error)), file);
+        return failedToParse(axFault("read-failed", file, axReason()), file);
     }
 }
 

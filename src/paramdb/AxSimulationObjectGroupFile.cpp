@@ -103,9 +103,9 @@ bool AxSimulationObjectGroupModelSetEntry::readContent(AxFilename const& file, C
         content.entry = root;
         return true;
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        AxDiagnostics::report(axFault("read-failed", file, error.what()));
+        AxDiagnostics::report(axFault("read-failed", file, axReason()));
     }
     return false;
 }
@@ -238,9 +238,9 @@ bool AxSimulationObjectGroupModelSetEntry::write(AxFilename const& file)
         }
         return AxEnvXMLWriter().writeFile(env, file);
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        AxDiagnostics::report(axFault("write-failed", file, error.what()));
+        AxDiagnostics::report(axFault("write-failed", file, axReason()));
     }
     return false;
 }

@@ -262,9 +262,9 @@ bool AxSxpParameterDbFileData::getVersion(AxFilename const& file, int& version)
     {
         AxDiagnostics::report(error.diagnostic());
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        AxDiagnostics::report(axFault("read-failed", file, axReason(error)));
+        AxDiagnostics::report(axFault("read-failed", file, axReason()));
     }
     return false;
 }

@@ -237,9 +237,9 @@ bool AxSxpParameterDbReader::readFileData(AxFilename const& file, AxSxpParameter
     {
         AxDiagnostics::report(error.diagnostic()); // what was read before counts, as in a text that is cut off
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        AxDiagnostics::report(axFault("read-failed", file, axReason(error)));
+        AxDiagnostics::report(axFault("read-failed", file, axReason()));
         return false;
     }
     bool isBound = false;
@@ -431,9 +431,9 @@ bool AxSxpParameterDbReader::load(AxFilename const& file, AxZedObjectParametersL
         AxDiagnostics::report(error.diagnostic());
         return false;
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        AxDiagnostics::report(axFault("read-failed", file, axReason(error)));
+        AxDiagnostics::report(axFault("read-failed", file, axReason()));
         return false;
     }
     list->inheritValuesFromAncestors();

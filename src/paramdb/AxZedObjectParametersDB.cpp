@@ -121,9 +121,9 @@ bool AxZedObjectParametersDB::readParameterFile(AxString const& file)
                 AxDiagnostics::reportStated(error.diagnostic(), axFormat("Error parsing %s\n", file.c_str()));
                 return false;
             }
-            catch (std::exception const& error)
+            catch (...)
             {
-                AxDiagnostics::reportStated(axFault("read-failed", name, axReason(error)),
+                AxDiagnostics::reportStated(axFault("read-failed", name, axReason()),
                                             axFormat("Error parsing %s\n", file.c_str()));
                 return false;
             }

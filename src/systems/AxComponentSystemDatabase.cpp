@@ -55,11 +55,11 @@ static void readDefinition(AxComponentSystemDefinition& definition, AxFilename c
     {
         axReportParseFailure(file.string().string(), error.diagnostic());
     }
-    catch (std::exception const& error)
+    catch (...)
     {
         AxDiagnostic fault;
         fault.code = "read-failed";
-        fault.text = error.what();
+        fault.text = axReason();
         axReportParseFailure(file.string().string(), std::move(fault));
     }
 }

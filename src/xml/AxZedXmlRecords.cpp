@@ -191,9 +191,9 @@ AxZedObjectParameters* readRecord(AxEnvironmentPtr const& env, AxEnvValuePtr con
         }
         return record.release();
     }
-    catch (std::exception const& error)
+    catch (...)
     {
-        AxElement::report(*platform, AxSeverity::Error, "read-failed", error.what());
+        AxElement::report(*platform, AxSeverity::Error, "read-failed", axReason());
         return nullptr;
     }
 }
@@ -211,12 +211,12 @@ AxEnvObjectPtr addElement(AxEnvironmentPtr const& env, AxEnvValuePtr const& pare
         }
         return element;
     }
-    catch (std::exception const& error)
+    catch (...)
     {
         AxDiagnostic failure;
         failure.code = "write-failed";
         failure.path = name.string();
-        failure.text = error.what();
+        failure.text = axReason();
         AxDiagnostics::report(std::move(failure));
         return {};
     }

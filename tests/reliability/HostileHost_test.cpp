@@ -1,6 +1,8 @@
+#include "AxComponentSystemDatabase.h"
 #include "AxModelSet.h"
 #include "AxRangeProbabilityTable.h"
 #include "AxZedObjectParametersDB.h"
+#include "AxZedStateRepositoryUserExtensionFactory.h"
 #include "AxZedXmlUtils.h"
 #include "src/paramdb/DatabaseFixture.h"
 
@@ -90,6 +92,55 @@ TEST_F(HostileHost, HooksThatThrowEndTheSaveAndLeaveTheFiles)
     EXPECT_EQ(files(), before);
     db.setWriter(new AxSxpParameterDbWriter);
     EXPECT_TRUE(db.save(AxFilename(path("force.opd"))));
+}
+
+TEST_F(HostileHost, NoEntryLetsOutWhatCreatorsAndHooksThrow)
+{
+    put("gun.sys", "(gun (sensors (radar-signature-sensor-descriptor (r (component-type "
+                   "\"radar-signature-sensor-descriptor\")))))");
+    put("m.rules", "(rules (all-tasks-exclusive true))");
+    auto const expectNothingOut = [this]
+    {
+        EXPECT_NO_THROW(made("zed-object-param"));
+        EXPECT_NO_THROW(created(record("(mass 1.0)")));
+        AxZedObjectParameters read("m1", nullptr);
+        std::string const rules = "(task-execution-rules \"" + path("m.rules") + "\")";
+        EXPECT_NO_THROW(readFrom(read, record("(sensors (radar-signature-sensor-descriptor (r))) " + rules)));
+        EXPECT_NO_THROW(readCellsInto(read, record("(sensors (radar-signature-sensor-descriptor (r)))")));
+        EXPECT_NO_THROW(read.fromXml("<platform name=\"m1\" mass=\"2\"/>"));
+        AxComponentSystemDatabase systems;
+        EXPECT_NO_THROW(systems.loadSystemDefinition(AxFilename(path("gun.sys")), {}));
+        EXPECT_NO_THROW(read.toXml());
+        EXPECT_NO_THROW(read.toXml(AxFilename(path("m1.xml"))));
+        AxModelSet models("model-set", nullptr);
+        EXPECT_NO_THROW(models.save(AxFilename(path("m.models"))));
+        AxZedObjectParametersDB all("parameters", nullptr);
+        all.init();
+        EXPECT_NO_THROW(all.writeParameterFile(AxString(path("all.params"))));
+        auto* const file = dynamic_cast<AxReaderWriterFile*>(read.registry()->lookup("task-execution-rules"));
+        ASSERT_NE(file, nullptr);
+        EXPECT_NO_THROW(file->load({}, {}));
+        EXPECT_NO_THROW(file->save());
+        EXPECT_TRUE(loadsAndSaves() || !findings.empty());
+    };
+    AxReaderWriter::setPrePutSelfCallback([](AxReaderWriter*, std::string&, void*) { throw NoStandardException(); },
+                                          nullptr);
+    expectNothingOut();
+    AxReaderWriter::setPrePutSelfCallback(nullptr, nullptr);
+    components.addCreatorFcn("radar-signature-sensor-descriptor",
+                             [](auto const&...) -> AxComponentDescriptor* { throw NoStandardException(); });
+    expectNothingOut();
+    factory.addCreatorFcn("zed-object-param",
+                          [](AxEnvironmentPtr, AxEnvValuePtr*) -> AxZedObjectParameters*
+                          { throw NoStandardException(); });
+    expectNothingOut();
+    AxZedStateRepositoryUserExtensionFactory extensions;
+    extensions.addCreator(AxZedStateRepositoryUserExtension::baseType(),
+                          [](auto const&...) -> AxZedStateRepositoryUserExtension* { throw NoStandardException(); });
+    auto* const former = AxZedStateRepositoryUserExtension::factory();
+    AxZedStateRepositoryUserExtension::setFactory(&extensions);
+    expectNothingOut();
+    AxZedStateRepositoryUserExtension::setFactory(former);
 }
 
 TEST_F(HostileHost, WhatASaveTakesBackMayThrowToo)

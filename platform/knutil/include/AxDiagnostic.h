@@ -56,3 +56,5 @@ public:
 
 /// What an exception says, in words for a finding where it has none of its own. Lives as long as the exception.
 ZEDOBJPARAM_API char const* axReason(std::exception const& error);
+/// The same of whatever is being handled, which hosts may throw; for handlers only.
+ZEDOBJPARAM_API char const* axReason();

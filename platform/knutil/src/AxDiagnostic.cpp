@@ -176,3 +176,19 @@ char const* axReason(std::exception const& error)
 {
     return dynamic_cast<std::bad_alloc const*>(&error) ? "out of memory" : error.what();
 }
+
+char const* axReason()
+{
+    try
+    {
+        throw;
+    }
+    catch (std::exception const& error)
+    {
+        return axReason(error);
+    }
+    catch (...)
+    {
+        return "an exception that is none of the standard library's";
+    }
+}

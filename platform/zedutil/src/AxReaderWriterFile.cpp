@@ -390,9 +390,13 @@ bool AxReaderWriterFile::save()
         }
         error = errno;
     }
-    catch (std::exception const&)
+    catch (std::bad_alloc const&)
     {
         error = ENOMEM;
+    }
+    catch (...)
+    {
+        error = ECANCELED; // by a hook
     }
     AxDiagnostic fault;
     fault.code = "cannot-write";

@@ -164,6 +164,10 @@ bool AxReaderWriterFile::loadFrom(AxlObj const* place, AxFilenameList const& fil
     {
         axReportException("read-failed", AxFilename(), &error);
     }
+    catch (...)
+    {
+        axReportException("read-failed", AxFilename(), nullptr);
+    }
     object.setFlag(Specified, false);
     updateBacking();
     myContent->takeMark();

@@ -457,13 +457,13 @@ bool AxReaderWriter::readText(std::string_view text, AxFilename const& sourceNam
         setFlag(Invalid, true);
         AxDiagnostics::report(error.diagnostic());
     }
-    catch (std::exception const& error)
+    catch (...)
     {
         setFlag(Invalid, true);
         AxDiagnostic failure;
         failure.code = "read-failed";
         failure.file = sourceName.string().string();
-        failure.text = axReason(error);
+        failure.text = axReason();
         AxDiagnostics::report(std::move(failure));
     }
     return false;

@@ -37,9 +37,9 @@ public:
             work();
             return true;
         }
-        catch (std::exception const& error)
+        catch (...)
         {
-            reportFailure(code, place, error.what());
+            reportFailure(code, place, axReason());
         }
         return false;
     }
