@@ -7,6 +7,7 @@
 #include "AxRwVariableBindings.h"
 #include "AxlFunctions.h"
 #include "AxlPrint.h"
+#include "AxlSyntaxError.h"
 
 namespace
 {
@@ -38,6 +39,28 @@ std::string_view wholeReference(AxlObj const* items)
     AxlObj const* const first = items->car();
     bool const hasDefault = first->isPair() && first->cdr()->isPair();
     return variableOf(hasDefault ? first->car() : first);
+}
+
+/// How a text refers to the variable: `$name`, and in quotes where that would not be read as one word.
+std::string referenceTo(AxSymbolString variable)
+{
+    std::string const word = '$' + variable.string().string();
+    try
+    {
+        AxlInputStream stream('(' + word + ')');
+        AxlObjPtr const items = AxcRead(stream);
+        if (items->cdr()->nil() && items->car()->isSymbol() && items->car()->text() == word)
+        {
+            return word;
+        }
+    }
+    catch (AxlSyntaxError const&)
+    {
+        // The word is none.
+    }
+    std::string written;
+    axAppendCell(written, AxcString("$(" + variable.string().string() + ')').get());
+    return written;
 }
 
 /// One variable whose value is being read. What stands in the value may name variables again, itself among them.
@@ -87,7 +110,7 @@ void AxReaderWriter::setIsVariableReference(bool isReference)
     Rare& mine = rare();
     if (mine.written.empty())
     {
-        mine.written = '$' + mine.variableName.string().string();
+        mine.written = referenceTo(mine.variableName);
     }
 }
 
@@ -126,7 +149,7 @@ void AxReaderWriter::setVariableName(AxSymbolString name)
     mine.variableName = name;
     if (flag(VariableReference))
     {
-        mine.written = '$' + name.string().string();
+        mine.written = referenceTo(name);
     }
 }
 

@@ -246,6 +246,24 @@ TEST(AxReaderWriter, KeepsReferencesAsWritten)
     EXPECT_FALSE(vehicle.mass.isVariableReference());
 }
 
+TEST(AxReaderWriter, RefersToVariablesOfAnyName)
+{
+    for (char const* const name : {"weight", "a b", "(", ";c", "a\"b", "a\\b", "5", "$x"})
+    {
+        Vehicle vehicle;
+        vehicle.mass.setVariableName(AxSymbolString(name));
+        vehicle.mass.setIsVariableReference(true);
+        std::string const text = vehicle.writtenText();
+        AxRwVariableBindings set;
+        set.set(AxSymbolString(name), AxcCons(AxcNumber(10.0), axcNil()));
+        Vehicle again;
+        EXPECT_TRUE(readFrom(again, text, {&set})) << text;
+        EXPECT_EQ(again.mass.value(), 10.0) << text;
+        EXPECT_EQ(again.mass.variableName(), AxSymbolString(name)) << text;
+        EXPECT_EQ(again.writtenText(), text);
+    }
+}
+
 TEST(AxReaderWriter, ResetGoesBackToTheInitialValues)
 {
     Vehicle vehicle;
