@@ -93,6 +93,8 @@ private:
     void release(AxZedParameterDbEntry& entry);
     void forgetNumber(AxZedParameterDbEntry const& entry);
     static void destroy(AxZedParameterDbEntry* entry);
+    /// Takes the entry out of its list and destroys it.
+    void discard(AxZedParameterDbEntry& entry);
     void typeChanges();
 
     struct Answer

@@ -43,6 +43,21 @@ public:
     bool typeIsMatchType() const { return myTypeIsMatchType; }
     void setTypeIsMatchType(bool isMatchType) { myTypeIsMatchType = isMatchType; }
 
+    /// Keeps an entry in memory while code of the host's runs that may remove it from its database.
+    class Use
+    {
+    public:
+        explicit Use(AxZedParameterDbEntry& entry) : myEntry(entry) { ++entry.myNumUses; }
+        Use(Use const&) = delete;
+        Use& operator=(Use const&) = delete;
+        ~Use();
+        /// Whether it was removed meanwhile, and ends with this use.
+        bool isGone() const { return myEntry.myIsGone; }
+
+    private:
+        AxZedParameterDbEntry& myEntry;
+    };
+
 private:
     friend class AxZedParameterDb;
 
@@ -51,7 +66,9 @@ private:
     AxZedParameterDb* myHolder = nullptr;
     AxListItem myItem;          // in a list of the holder's
     std::uint32_t myNumber = 0; // among the holder's entries, as they came
-    bool myIsOutside = false;   // of the list that answers
-    bool myTemporary = false;
-    bool myTypeIsMatchType = false;
+    std::uint16_t myNumUses = 0;
+    bool myIsGone : 1 = false;    // removed while it was used
+    bool myIsOutside : 1 = false; // of the list that answers
+    bool myTemporary : 1 = false;
+    bool myTypeIsMatchType : 1 = false;
 };

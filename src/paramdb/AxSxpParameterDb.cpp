@@ -213,9 +213,14 @@ AxZedObjectParameters* AxSxpParameterDb::getParameters(AxSxpParameterDbEntry* en
     {
         return held;
     }
+    AxZedParameterDbEntry::Use const use(*entry); // a sink may remove it
     AxZedObjectParameters* const none = nullptr;
     AxZedObjectParameters* const record =
         axGuarded("read-failed", entry->filename(), none, [&] { return entry->load(); });
+    if (use.isGone())
+    {
+        return nullptr;
+    }
     if (record)
     {
         record->setMatchType(entry->objectType());

@@ -267,13 +267,15 @@ AxZedObjectParameters* AxSxpParameterDbEntry::loadFromFile(AxFilename const& fil
         return nullptr;
     }
     AxZedObjectParameters* const none = nullptr;
+    Use const use(*this); // a sink may remove it
     return axGuarded("read-failed", file, none,
                      [&]
                      {
                          Reading reading(myReading);
                          AxZedObjectParameters* const record =
                              file.extension() == "entity" ? readEntityFile(file) : readTextFile(file);
-                         return record != nullptr ? hold(record) : nullptr;
+                         AxZedObjectParameters* const held = record != nullptr ? hold(record) : nullptr;
+                         return use.isGone() ? nullptr : held;
                      });
 }
 

@@ -225,6 +225,7 @@ bool AxSxpParameterDbWriter::writeFiles(AxSxpParameterDb& db, AxFilename const& 
         }
         else if (!entry->temporary())
         {
+            AxZedParameterDbEntry::Use const use(*entry); // a hook may remove it
             writeEntry(data.get(), entry, parameterDir, dir);
         }
         if (save.isHopeless(file))

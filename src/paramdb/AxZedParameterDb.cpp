@@ -77,7 +77,7 @@ void AxZedParameterDb::remove(AxObjectType const& type)
     AxZedParameterDbEntry* const entry = entryOf(lookupParameters(type));
     if (entry != nullptr && entry->objectType() == type)
     {
-        delete entry;
+        discard(*entry);
     }
 }
 
@@ -115,11 +115,22 @@ void AxZedParameterDb::removeAll()
 /// An entry that is in none of the lists.
 void AxZedParameterDb::destroy(AxZedParameterDbEntry* entry)
 {
-    if (entry != nullptr)
+    if (entry == nullptr)
     {
-        entry->myHolder = nullptr;
+        return;
+    }
+    entry->myHolder = nullptr;
+    entry->myIsGone = true;
+    if (entry->myNumUses == 0)
+    {
         delete entry;
     }
+}
+
+void AxZedParameterDb::discard(AxZedParameterDbEntry& entry)
+{
+    release(entry);
+    destroy(&entry);
 }
 
 AxList const& AxZedParameterDb::parameterList() const
@@ -268,7 +279,7 @@ void AxZedParameterDb::leaveOutside(AxZedParameterDbEntry& entry)
     myOutside.link(entry.myItem, before != nullptr ? before->next() : myOutside.first());
     if (before != nullptr && *typeOfEntry(before->data()) == entry.objectType())
     {
-        delete static_cast<AxZedParameterDbEntry*>(before->data());
+        discard(*static_cast<AxZedParameterDbEntry*>(before->data()));
     }
 }
 

@@ -13,6 +13,14 @@ AxZedParameterDbEntry::~AxZedParameterDbEntry()
     myParameters = nullptr;
 }
 
+AxZedParameterDbEntry::Use::~Use()
+{
+    if (--myEntry.myNumUses == 0 && myEntry.myIsGone)
+    {
+        delete &myEntry;
+    }
+}
+
 void AxZedParameterDbEntry::setObjectType(AxObjectType const& type)
 {
     if (myHolder != nullptr && !(myObjectType == type))

@@ -7,6 +7,7 @@
 #include "src/paramdb/DatabaseFixture.h"
 
 #include <stdexcept>
+#include <utility>
 
 // What a host may do wrong in its own code: nulls, callbacks that throw. Nothing of it comes back as an exception.
 namespace
@@ -141,6 +142,43 @@ TEST_F(HostileHost, NoEntryLetsOutWhatCreatorsAndHooksThrow)
     AxZedStateRepositoryUserExtension::setFactory(&extensions);
     expectNothingOut();
     AxZedStateRepositoryUserExtension::setFactory(former);
+}
+
+TEST_F(HostileHost, SinksMayRemoveTheEntryThatIsRead)
+{
+    for (int i = 0; i < 4; ++i)
+    {
+        ASSERT_TRUE(db.load(AxFilename(path("force.opd"))));
+        bool isRemoved = false;
+        auto const remove = [&]
+        {
+            std::exchange(isRemoved, true) ? void()
+            : i == 0                       ? db.remove(tank)
+            : i == 1                       ? db.removeAll()
+                                           : static_cast<void>(db.load(AxFilename(path("force.opd"))));
+        };
+        auto const sink = AxDiagnostics::setSink([&](AxDiagnostic const&) { remove(); });
+        EXPECT_EQ(i < 3 ? db.lookup(tank) : entryOf(db, tank)->load(), nullptr);
+        AxDiagnostics::setSink(sink);
+        EXPECT_TRUE(isRemoved);
+        EXPECT_EQ(db.numParameterEntries(), i == 0 ? 1 : i == 1 ? 0 : 2);
+    }
+}
+
+TEST_F(HostileHost, HooksMayRemoveTheEntryThatIsWritten)
+{
+    struct Removing : AxSxpParameterDbWriter
+    {
+        explicit Removing(AxSxpParameterDb& from) : forces(from) {}
+        void processPrePutSelfCb(AxReaderWriter*, std::string&) override { forces.AxZedParameterDb::removeAll(); }
+        AxSxpParameterDb& forces;
+    };
+    ASSERT_TRUE(db.loadAll(AxFilename(path("force.opd"))));
+    std::string const before = files();
+    db.setWriter(new Removing(db));
+    EXPECT_FALSE(db.save(AxFilename(path("force.opd"))));
+    EXPECT_EQ(files(), before);
+    EXPECT_EQ(db.numParameterEntries(), 0);
 }
 
 TEST_F(HostileHost, WhatASaveTakesBackMayThrowToo)
