@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AxDiagnostic.h"
 #include "AxReaderWriter.h"
 #include "AxRwList.h"
 
