@@ -104,6 +104,7 @@ public:
         writeFile(peers(), databaseText);
         jsonWriter.EndArray();
         writeFile(jsonPeers(), json.GetString());
+        settleFiles();
     }
 
     static Databases& get()

@@ -3,6 +3,7 @@
 #include <fstream>
 #include <stdexcept>
 #include <stdlib.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -38,4 +39,9 @@ std::string readFile(fs::path const& path)
     std::string text(static_cast<std::size_t>(fs::file_size(path)), '\0');
     stream.read(text.data(), static_cast<std::streamsize>(text.size()));
     return text;
+}
+
+void settleFiles()
+{
+    sync();
 }

@@ -21,3 +21,5 @@ private:
 /// Throws std::runtime_error.
 void writeFile(std::filesystem::path const& path, std::string const& text);
 std::string readFile(std::filesystem::path const& path);
+/// Waits until all that was written is on the disk: what is still on its way slows whatever is measured beside it.
+void settleFiles();

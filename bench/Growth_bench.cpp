@@ -69,6 +69,7 @@ public:
             }
             writeFile(file(count), all + "  )\n)\n");
         }
+        settleFiles();
     }
 
     static Growing& get()

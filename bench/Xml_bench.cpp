@@ -2,6 +2,7 @@
 #include "AxSxpParameterDb.h"
 #include "AxZedXmlUtils.h"
 #include "BenchRecord.h"
+#include "Files.h"
 #include "RecordTexts.h"
 
 #include <benchmark/benchmark.h>
@@ -125,6 +126,7 @@ public:
             AxZedXmlUtils::writeEnvironment(
                 env, AxFilename((myFolder / "data" / (std::to_string(number) + ".entity")).string()));
         }
+        settleFiles();
     }
     DataRoot(DataRoot const&) = delete;
     DataRoot& operator=(DataRoot const&) = delete;
