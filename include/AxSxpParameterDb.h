@@ -104,7 +104,7 @@ public:
     {
         Untouched,
         Read,   ///< records of some are held, and saved as parameter files
-        Changed ///< some were removed or replaced
+        Changed ///< some were removed, replaced or are no longer what was found
     };
     DataRoots dataRoots() const;
     /// Items of loaded files that nothing understood, written back by a save. Null when there are none.
@@ -130,7 +130,7 @@ private:
     int myVersionNumber;
     std::list<VariableBindingsPtr> myVariableBindings;
     CopyPairs myCopyPairs;
-    std::map<AxString, int> myNumsFromDataRoots; // by the database file that binds the data root
+    std::map<AxString, std::size_t> myDataRoots; // what was found, summed up by the database file that binds one
     std::vector<AxFilename> mySearchPaths;
     std::unique_ptr<AxRemoteConfigurationList> myRemoteConfigurationList;
     RemoteConfigurationListCreator myListCreator;

@@ -19,6 +19,7 @@
 #include <algorithm>
 #include <boost/filesystem/operations.hpp>
 #include <filesystem>
+#include <functional>
 
 namespace fs = boost::filesystem;
 
@@ -60,6 +61,13 @@ bool copyTree(fs::path const& from, fs::path const& to)
         isComplete = copyFile(walk->path(), target) && isComplete && !error && !fault;
     }
     return isComplete && !error;
+}
+
+/// Of what a load would bring back of an entry; 0 for one that is not saved. Those of several are summed up.
+std::size_t digestOf(AxSxpParameterDbEntry const& entry)
+{
+    std::hash<std::string> const hash;
+    return entry.temporary() ? 0 : hash(entry.objectType().string().string() + '\n' + entry.filename().native());
 }
 
 template <class Use>
@@ -242,7 +250,7 @@ AxZedObjectParameters* AxSxpParameterDb::getParameters(AxSxpParameterDbEntry* en
         delete record;
         return nullptr;
     }
-    return record;
+    return use.isGone() ? nullptr : record;
 }
 
 void AxSxpParameterDb::removeAll()
@@ -475,33 +483,36 @@ int AxSxpParameterDb::addUnloadedFilesToCopyPairs(AxFilename const& directory)
 
 void AxSxpParameterDb::noteDataRoot(AxFilename const& databaseFile)
 {
-    int& count = myNumsFromDataRoots[databaseFile.string()];
-    count = 0;
+    // The same file may have been loaded by another name.
+    std::error_code ignored;
+    std::erase_if(myDataRoots, [&](auto const& known)
+                  { return std::filesystem::equivalent(known.first.string(), databaseFile.native(), ignored); });
+    std::size_t& sum = myDataRoots[databaseFile.string()];
     forEachEntry(parameterList(),
                  [&](AxSxpParameterDbEntry const& entry)
                  {
                      bool const isOfFile = entry.isFromDataRoot() && *entry.origin()->databaseFile == databaseFile;
-                     count += isOfFile ? 1 : 0;
+                     sum += isOfFile ? digestOf(entry) : 0;
                  });
 }
 
 AxSxpParameterDb::DataRoots AxSxpParameterDb::dataRoots() const
 {
     bool isAnyRead = false;
-    int numMissing = 0;
-    for (auto const& [databaseFile, count] : myNumsFromDataRoots)
+    std::size_t missing = 0;
+    for (auto const& [databaseFile, sum] : myDataRoots)
     {
-        numMissing += count;
+        missing += sum;
     }
     forEachEntry(parameterList(),
                  [&](AxSxpParameterDbEntry const& entry)
                  {
                      bool const isOfRoot = entry.isFromDataRoot();
                      bool const isWritten = entry.parameters() && !entry.temporary();
-                     numMissing -= isOfRoot ? 1 : 0;
+                     missing -= isOfRoot ? digestOf(entry) : 0;
                      isAnyRead = isAnyRead || (isWritten && (isOfRoot || entry.filename().extension() == "entity"));
                  });
-    return isAnyRead ? DataRoots::Read : numMissing != 0 ? DataRoots::Changed : DataRoots::Untouched;
+    return isAnyRead ? DataRoots::Read : missing != 0 ? DataRoots::Changed : DataRoots::Untouched;
 }
 
 void AxSxpParameterDb::keepUnreadItems(AxSxpParameterDbFileData const& data)

@@ -67,7 +67,12 @@ static AxListItem* firstFrom(AxPrbRangeList const& list, double range)
             order->changeCount = list.changeCount();
             frame->ordered = std::move(order);
         }
-        return frame->ordered->items.lower_bound(range)->second;
+        auto const found = frame->ordered->items.lower_bound(range);
+        if (found != frame->ordered->items.end())
+        {
+            return found->second;
+        }
+        frame->ordered = nullptr; // a host has changed rows meanwhile
     }
     AxListItem* item = list.first();
     while (AxPrbRangeList::row(item)->range() < range)

@@ -165,6 +165,19 @@ TEST_F(HostileHost, SinksMayRemoveTheEntryThatIsRead)
     }
 }
 
+TEST_F(HostileHost, OverridesMayRemoveTheEntryThatIsRead)
+{
+    struct Removing : AxSxpParameterDb
+    {
+        void updateReaderWriterFilePaths(AxZedObjectParameters& record) override { remove(record.objectType()); }
+    };
+    Removing old;
+    old.init();
+    ASSERT_TRUE(old.load(put("old.opd", database(entry(theTank, "m1.ope"), "(version 100)"))));
+    EXPECT_EQ(old.lookup(tank), nullptr);
+    EXPECT_EQ(old.numParameterEntries(), 0);
+}
+
 TEST_F(HostileHost, HooksMayRemoveTheEntryThatIsWritten)
 {
     struct Removing : AxSxpParameterDbWriter

@@ -16,7 +16,7 @@ namespace
 {
 bool isOption(std::string const& word)
 {
-    return word.starts_with('-');
+    return word.size() > 1 && word.starts_with('-');
 }
 } // namespace
 
@@ -190,7 +190,8 @@ void CommandLine::tellUnexpected() const
     std::vector<std::string_view> const known(names.begin(), names.end());
     std::string_view const nearest = isOption(word) ? axNearest(word, known) : std::string_view();
     std::string const name = commands.empty() ? std::string() : command.get_name() + " ";
-    std::fprintf(stderr, "zedparam: %stakes no \"%s\"", name.c_str(), word.c_str());
+    std::string const fault = commands.empty() ? "unknown" : name + "takes no";
+    std::fprintf(stderr, "zedparam: %s \"%s\"", fault.c_str(), word.c_str());
     if (!nearest.empty())
     {
         std::fprintf(stderr, "; did you mean \"%s\"?", std::string(nearest).c_str());

@@ -115,7 +115,7 @@ private:
         {
             myFiles.enter(file);
         }
-        else
+        else if (!entry.filename().isNull())
         {
             myUnopened.push_back(std::filesystem::path(myFile).parent_path() / entry.filename().native());
         }

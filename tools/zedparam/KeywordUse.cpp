@@ -241,8 +241,12 @@ void writeValue(JsonWriter& json, UsedValue const& value)
 
 double KeywordUse::median() const
 {
-    // Halfway between two decimals, without what their binary form adds.
     double const halfway = quantile(numbers, 0.5);
+    if (halfway == numbers[numbers.size() / 2].number)
+    {
+        return halfway;
+    }
+    // Between two decimals, without what their binary form adds.
     char text[32];
     auto const written = std::to_chars(std::begin(text), std::end(text), halfway, std::chars_format::general, 15);
     double rounded = halfway;

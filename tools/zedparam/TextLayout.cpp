@@ -181,7 +181,8 @@ private:
                 myOut += ' ';
             }
             bool const isAsked = rw != nullptr && shape == Shape::ItemPerLine && hasLists(item);
-            bool const isRead = isAsked && readers.at(memberOf(rw, item.head())) == 1;
+            auto const its = isAsked ? readers.find(memberOf(rw, item.head())) : readers.end();
+            bool const isRead = its != readers.end() && its->second == 1 && item != list.firstChild();
             takeItem(item, isAsked ? myReading.part(*rw, item, isRead) : nullptr, level + 1,
                      hasVariables ? Shape::OneLine : shape);
             myMayBeEmptyLine = item != list.firstChild();

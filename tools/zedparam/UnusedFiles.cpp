@@ -103,7 +103,8 @@ public:
     {
         for (fs::path const& file : unopened)
         {
-            myUnused.erase(wholePath(fs::absolute(file).parent_path()) / file.filename());
+            std::error_code ignored;
+            myUnused.erase(wholePath(fs::absolute(file, ignored).parent_path()) / file.filename());
         }
     }
 

@@ -371,10 +371,10 @@ void AxReaderWriter::reportUnknown(AxlObj const* head, std::string_view word)
 void AxReaderWriter::reject(AxlObj const* items, std::string const& expected)
 {
     setFlag(Rejected, true);
-    bool const isSeveral = !expected.starts_with("a ");
     AxlObj const* rest = items;
     std::size_t const numbers = numberOfNumbers(items, rest);
-    bool const isCutShort = isSeveral && numbers > 0 && rest->isPair(); // by what is no number
+    bool const isRow = expected.starts_with("three ") || expected.starts_with("7 "); // of so many numbers
+    bool const isCutShort = isRow && numbers > 0 && rest->isPair();                  // by what is no number
     AxlObj const* const at = isCutShort ? rest : items;
     AxlObj const* const cell = at->isPair() ? at->car() : at;
     std::string now;
@@ -387,7 +387,7 @@ void AxReaderWriter::reject(AxlObj const* items, std::string const& expected)
     bool const isNamed = !name().isNull() || !AxReadFrame::innermost;
     AxSymbolString const owner = isNamed ? name() : AxReadFrame::innermost->record.AxReaderWriter::name();
     std::string text = '"' + owner.string().string() + "\" expects " + expected + ", found ";
-    if (isSeveral && numbers > 1 && !isCutShort)
+    if (numbers > 1 && !rest->isPair() && !expected.starts_with("a "))
     {
         text += std::to_string(numbers) + " numbers";
     }

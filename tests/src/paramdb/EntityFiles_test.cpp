@@ -291,14 +291,28 @@ TEST_F(EntityFiles, WhatWasChangedIsNotUndoneByTheDataRootOfASavedDatabase)
     expect("removed", -1.0);
 
     ASSERT_TRUE(load(putDatabase()));
-    RecordPtr other = made("moving-object-param");
-    static_cast<AxMovingObjectParameters&>(*other).setMaxSpeed(4.0);
-    db.add(tank, other.release());
+    RecordPtr another = made("moving-object-param");
+    static_cast<AxMovingObjectParameters&>(*another).setMaxSpeed(4.0);
+    db.add(tank, another.release());
     expect("replaced", 4.0);
 
     ASSERT_TRUE(load(putDatabase()));
     static_cast<AxMovingObjectParameters*>(db.lookup(tank))->setMaxSpeed(5.0);
     expect("edited", 5.0);
+
+    AxObjectType const other = typeOf("1:1:1:225:1:1:9:0");
+    ASSERT_TRUE(load(putDatabase()));
+    db.lookupParameterDbEntry(tank, nullptr)->setObjectType(other);
+    expect("of another type", -1.0);
+
+    ASSERT_TRUE(load(putDatabase()));
+    db.lookupParameterDbEntry(tank, nullptr)->setTemporary(true);
+    ASSERT_TRUE(db.save(file));
+    AxSxpParameterDb withoutIt;
+    withoutIt.init();
+    ASSERT_TRUE(withoutIt.load(file));
+    EXPECT_EQ(speedOf(withoutIt, tank), -1.0);
+
     db.removeAll();
     ASSERT_TRUE(db.save(file));
     AxSxpParameterDb saved;
